@@ -1,0 +1,8 @@
+#!/usr/bin/env bash
+# Builds the benchmarks in Release and runs them all.
+set -euo pipefail
+ROOT=$(cd "$(dirname "$0")" && pwd)
+source "$ROOT/scripts/common.sh"
+ensure_packages
+build "$ROOT/build/release" -DCMAKE_BUILD_TYPE=Release
+"$ROOT/bench/run_all.sh" "$ROOT/build/release/bench"

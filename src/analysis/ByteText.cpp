@@ -1,0 +1,106 @@
+#include "analysis/ByteText.h"
+
+#include "connection/ColorCode.h"
+
+#include <cstring>
+
+namespace steward {
+
+bool StartsWith(const char* text, const char* prefix)
+{
+    return std::strncmp(text, prefix, std::strlen(prefix)) == 0;
+}
+
+bool Contains(const char* text, const char* phrase)
+{
+    return std::strstr(text, phrase) != nullptr;
+}
+
+namespace {
+
+char Upper(char c)
+{
+    return (c >= 'a' && c <= 'z') ? static_cast<char>(c - 'a' + 'A') : c;
+}
+
+} // namespace
+
+bool StartsWithNoCase(const char* text, const char* prefix)
+{
+    for (; *prefix; ++text, ++prefix)
+        if (Upper(*text) != Upper(*prefix))
+            return false;
+    return true;
+}
+
+bool EqualNoCase(const char* a, const char* b)
+{
+    return StartsWithNoCase(a, b) && a[std::strlen(b)] == '\0';
+}
+
+void CopyCut(char* out, std::size_t capacity, const char* text)
+{
+    if (capacity == 0)
+        return;
+    std::size_t n = std::strlen(text);
+    if (n >= capacity)
+        n = capacity - 1;
+    std::memmove(out, text, n);
+    out[n] = '\0';
+}
+
+void InsertCut(char* text, std::size_t capacity, std::size_t offset, const char* piece)
+{
+    const std::size_t length = std::strlen(text);
+    if (offset > length || capacity == 0)
+        return;
+    std::size_t add = std::strlen(piece);
+    if (offset + add >= capacity)
+        add = capacity - 1 - offset;
+    std::size_t tail = length - offset;
+    if (offset + add + tail >= capacity)
+        tail = capacity - 1 - offset - add;
+    std::memmove(text + offset + add, text + offset, tail);
+    std::memcpy(text + offset, piece, add);
+    text[offset + add + tail] = '\0';
+}
+
+void AppendCut(char* text, std::size_t capacity, const char* piece)
+{
+    InsertCut(text, capacity, std::strlen(text), piece);
+}
+
+void JoinCut(char* out, std::size_t capacity, std::initializer_list<const char*> pieces)
+{
+    if (capacity == 0)
+        return;
+    out[0] = '\0';
+    for (const char* piece : pieces)
+        AppendCut(out, capacity, piece);
+}
+
+void ColorOnText(char out[16], unsigned char color)
+{
+    *AppendColorOn(out, color) = '\0';
+}
+
+void ColorOffText(char out[16], unsigned char color)
+{
+    *AppendColorOff(out, color) = '\0';
+}
+
+bool WordReader::Next(char* out, std::size_t size)
+{
+    const char* blanks = " \t\r\n";
+    next_ += std::strspn(next_, blanks);
+    const std::size_t length = std::strcspn(next_, blanks);
+    if (length == 0)
+        return false;
+    const std::size_t kept = length < size ? length : size - 1;
+    std::memcpy(out, next_, kept);
+    out[kept] = '\0';
+    next_ += length;
+    return true;
+}
+
+} // namespace steward

@@ -1,0 +1,37 @@
+#pragma once
+
+#include <cstddef>
+#include <initializer_list>
+
+namespace steward {
+
+// In-place helpers over NUL-terminated bytes in buffers of known capacity.
+
+bool StartsWith(const char* text, const char* prefix);
+bool Contains(const char* text, const char* phrase);
+bool EqualNoCase(const char* a, const char* b);
+bool StartsWithNoCase(const char* text, const char* prefix);
+// Copies text into out, cut so that it ends inside the buffer.
+void CopyCut(char* out, std::size_t capacity, const char* text);
+// Inserts piece at offset; bytes that no longer fit are cut from the end of the text.
+void InsertCut(char* text, std::size_t capacity, std::size_t offset, const char* piece);
+// Appends piece, cut at the buffer's end.
+void AppendCut(char* text, std::size_t capacity, const char* piece);
+// Joins the pieces into out, cut at the buffer's end.
+void JoinCut(char* out, std::size_t capacity, std::initializer_list<const char*> pieces);
+// Writes the colour on (or off) sequence of a colour byte as a string.
+void ColorOnText(char out[16], unsigned char color);
+void ColorOffText(char out[16], unsigned char color);
+
+// Words split at blanks, tabs, CR and LF, read from a text that is not changed.
+class WordReader {
+  public:
+    explicit WordReader(const char* text) : next_(text) {}
+    // Copies the next word into out (cut to size); false when there is none.
+    bool Next(char* out, std::size_t size);
+
+  private:
+    const char* next_;
+};
+
+} // namespace steward

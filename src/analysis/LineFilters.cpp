@@ -1,0 +1,198 @@
+#include "analysis/ByteText.h"
+#include "analysis/LinePipeline.h"
+
+#include "panels/StatusPanel.h"
+#include "scripts/ScriptWait.h"
+#include "session/ChildWindows.h"
+
+#include <cstdio>
+#include <cstdlib>
+#include <cstring>
+#include <iterator>
+
+namespace steward {
+
+namespace {
+
+const char* const SpeechVerbs[] = {
+    " says, \"",   " say, \"",   " asks, \"",  " ask, \"",  " screams, \"",  " scream, \"",
+    " shouts, \"", " shout, \"", " yells, \"", " yell, \"", " belt out, \"", " signals, \"",
+};
+const char* const Yells[] = {" yells, \"", " screams, \""};
+const char* const Whisper = " whispers, \"";
+
+struct ExitName {
+    const char* name;
+    std::uint32_t bit;
+};
+
+// Longer names first: a word is compared by its start only.
+const ExitName ExitNames[] = {
+    {"northeast", 0x002}, {"southeast", 0x008}, {"northwest", 0x080}, {"southwest", 0x020},
+    {"north", 0x001},     {"south", 0x010},     {"east", 0x004},      {"west", 0x040},
+    {"up", 0x200},        {"down", 0x400},      {"out", 0x100},
+};
+
+// Exit words and first words longer than this are cut; no direction name comes near it.
+constexpr std::size_t WORD_SIZE = 64;
+
+bool ContainsAny(const char* text, const char* const* phrases, std::size_t count)
+{
+    for (std::size_t i = 0; i < count; ++i)
+        if (Contains(text, phrases[i]))
+            return true;
+    return false;
+}
+
+// Reads a decimal number as "%ld" would; false when there is none, so no delay starts.
+bool ReadDelay(const char* from, std::int32_t& seconds)
+{
+    long value = 0;
+    if (std::sscanf(from, "%ld", &value) != 1)
+        return false;
+    seconds = static_cast<std::int32_t>(static_cast<std::uint16_t>(value & 0xFFFF));
+    return true;
+}
+
+void ColorAround(char* text, std::size_t capacity, unsigned char color, std::size_t offAt)
+{
+    char on[16];
+    char off[16];
+    ColorOnText(on, color);
+    ColorOffText(off, color);
+    InsertCut(text, capacity, offAt, off);
+    InsertCut(text, capacity, 0, on);
+}
+
+} // namespace
+
+void LinePipeline::FilterLine(char* text, std::size_t capacity)
+{
+    if (std::strlen(text) < 3)
+        return;
+    if (options_.IgnoreYells && ContainsAny(text, Yells, std::size(Yells))) {
+        CopyCut(text, capacity, "You ignore a yell.\r\n");
+        return;
+    }
+    if (ContainsAny(text, SpeechVerbs, std::size(SpeechVerbs))) {
+        if (const char* comma = std::strchr(text, ','))
+            ColorAround(text, capacity, options_.SaysColor,
+                        static_cast<std::size_t>(comma - text) + 1);
+    }
+    if (Contains(text, Whisper)) {
+        if (const char* quote = std::strchr(text, '"'))
+            ColorAround(text, capacity, options_.WhispersColor,
+                        static_cast<std::size_t>(quote - text));
+    }
+    std::int32_t seconds = 0;
+    if (text[0] == '[' && Contains(text, " sec. delay]") && ReadDelay(text + 1, seconds))
+        StartRoundTime(seconds);
+    if (StartsWith(text, "...wait") && ReadDelay(text + 8, seconds))
+        StartRoundTime(seconds);
+
+    char word[WORD_SIZE];
+    WordReader words(text);
+    if (!words.Next(word, sizeof word))
+        return;
+    if (EqualNoCase(word, "Obvious") && std::strchr(text, ':'))
+        ParseExits(std::strchr(text, ':') + 1);
+    host_.ApplyHighlights(text, capacity);
+}
+
+void LinePipeline::ParseExits(const char* list)
+{
+    std::uint32_t exits = 0;
+    std::uint32_t starred = 0;
+    char word[WORD_SIZE];
+    WordReader words(list);
+    while (words.Next(word, sizeof word)) {
+        for (const ExitName& exit : ExitNames) {
+            if (!StartsWithNoCase(word, exit.name))
+                continue;
+            exits |= exit.bit;
+            if (std::strchr(word, '*'))
+                starred |= exit.bit;
+            break;
+        }
+    }
+    panel_.Compass.SetExits(starred << 16 | exits);
+    if (script_.ScriptWait == WAIT_ROOM)
+        script_.ScriptWait = WAIT_NONE;
+}
+
+namespace {
+
+// Copies the name field: from offset up to the first of the stop bytes or the end.
+void NameField(char* out, std::size_t size, const char* line, std::size_t offset, const char* stops)
+{
+    const char* start = line + offset;
+    std::size_t length = std::strcspn(start, stops);
+    if (length >= size)
+        length = size - 1;
+    std::memcpy(out, start, length);
+    out[length] = '\0';
+}
+
+const char* LinkChannel(const char* line)
+{
+    if (Contains(line, "Thornmere link, \""))
+        return "Thornmere ";
+    if (Contains(line, "Psycian link, \""))
+        return "Psycian ";
+    if (Contains(line, "Secian link, \""))
+        return "Secian ";
+    return "";
+}
+
+} // namespace
+
+bool LinePipeline::CompressThought(const char* line)
+{
+    constexpr std::size_t pickUpLength = 12;
+    char compact[THOUGHT_BUFFER_SIZE] = {};
+    char name[THOUGHT_BUFFER_SIZE];
+    const char* quote = std::strchr(line, '"');
+    const bool pickUp = StartsWith(line, "You pick up ");
+
+    if (pickUp && Contains(line, "thoughts, \"")) {
+        NameField(name, sizeof name, line, pickUpLength, " '");
+        JoinCut(compact, sizeof compact, {"[", name, "]: ", quote});
+    }
+    if (Contains(line, "thinks to you, \"")) {
+        NameField(name, sizeof name, line, 0, " ");
+        JoinCut(compact, sizeof compact, {"[", name, " (Private)]: ", quote});
+    }
+    if (pickUp && Contains(line, " link, \"")) {
+        NameField(name, sizeof name, line, pickUpLength, " '");
+        JoinCut(compact, sizeof compact, {"[", name, " (", LinkChannel(line), "link)]: ", quote});
+    }
+    if (compact[0] == '\0')
+        return false;
+
+    if (windows_.ThoughtWindow) {
+        TrimLineEnd(compact);
+        PrintToWindow(windows_.ThoughtWindow, "\r\n");
+        PrintToWindow(windows_.ThoughtWindow, compact);
+        return true;
+    }
+    if (options_.CompressThoughtMessages) {
+        char colored[PRINT_BUFFER_SIZE];
+        char off[16];
+        ColorOnText(colored, options_.CompressedThoughtColor);
+        AppendCut(colored, sizeof colored, compact);
+        ColorOffText(off, options_.CompressedThoughtColor);
+        // The colour must always close, so the end of a long thought gives way to it.
+        const std::size_t room = sizeof colored - 1 - std::strlen(off);
+        if (std::strlen(colored) > room)
+            colored[room] = '\0';
+        AppendCut(colored, sizeof colored, off);
+        PrintToWindow(windows_.GameWindow, colored);
+        PrintToWindow(windows_.GameWindow, "\n");
+        return true;
+    }
+    PrintToWindow(windows_.GameWindow, line);
+    PrintToWindow(windows_.GameWindow, "\n");
+    return true;
+}
+
+} // namespace steward

@@ -1,0 +1,116 @@
+#include "WorldHarness.h"
+
+#include "FloodSource.h"
+
+#include <QFile>
+#include <QProcess>
+#include <QTemporaryDir>
+
+#include <gtest/gtest.h>
+
+namespace {
+
+QByteArray ReplayText()
+{
+    QByteArray text;
+    for (int i = 0; i < 50; ++i)
+        text += "Line " + QByteArray::number(i) + " of the replay\r\n";
+    return text + "\x1b\x1b>tail";
+}
+
+class WorldModes : public ::testing::Test {
+  protected:
+    QString Path(const char* name) const { return dir.filePath(name); }
+
+    QTemporaryDir dir;
+};
+
+TEST_F(WorldModes, ReplaySendsTheFileBytesToEachConnection)
+{
+    QFile file(Path("replay.bin"));
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write(ReplayText());
+    file.close();
+    for (int block : {0, 7}) {
+        WorldOptions options = TestWorld::QuietOptions();
+        options.replayFile = file.fileName();
+        options.replayBlock = block;
+        options.replayPauseMs = 1;
+        TestWorld world(options);
+        TestClient first(world.port);
+        TestClient second(world.port);
+        EXPECT_EQ(first.ReadUntil(">tail"), ReplayText()) << "block " << block;
+        EXPECT_EQ(second.ReadUntil(">tail"), ReplayText()) << "block " << block;
+    }
+}
+
+TEST_F(WorldModes, RecordKeepsEveryByteAClientSends)
+{
+    WorldOptions options = TestWorld::QuietOptions();
+    options.recordFile = Path("record.bin");
+    TestWorld world(options);
+    TestClient mara(world.port);
+    mara.Login("Mara");
+    const QByteArray odd("say \x01\xfe\0!", 8);
+    mara.SendRaw(odd + "\n\r");
+    mara.Send("quit");
+    mara.ReadUntilClosed();
+    QFile file(options.recordFile);
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+    EXPECT_EQ(file.readAll(), "Mara\n\r" + odd + "\n\rquit\n\r");
+}
+
+TEST_F(WorldModes, FloodSendsTheWantedAmountOfGameTextThenItsEndLine)
+{
+    constexpr qint64 Wanted = 300000;
+    WorldOptions options = TestWorld::QuietOptions();
+    options.floodBytes = Wanted;
+    TestWorld world(options);
+    TestClient reader(world.port);
+    const QByteArray flood = reader.ReadUntil("FLOOD-END\r\n");
+    ASSERT_EQ(flood.size(), Wanted + qstrlen(FloodSource::EndLine));
+    for (const char* kind : {"Obvious exits:", " says, \"", "\x1b\x1b>", "'s thoughts, \"",
+                             " just arrived in the world."})
+        EXPECT_TRUE(flood.contains(kind)) << kind;
+}
+
+TEST(FloodSource, EndsOnceAndOnlyOnce)
+{
+    FloodSource source(100, 3);
+    QByteArray all;
+    while (!source.Done())
+        all += source.Next(40);
+    EXPECT_TRUE(all.endsWith("FLOOD-END\r\n"));
+    EXPECT_EQ(all.size(), 100 + qstrlen(FloodSource::EndLine));
+    EXPECT_TRUE(source.Next(40).isEmpty());
+}
+
+TEST(WorldProgram, PortZeroPrintsTheChosenPortAndServesPlayers)
+{
+    QProcess program;
+    program.start(WORLD_BINARY, {"--port", "0", "--quiet"});
+    ASSERT_TRUE(program.waitForStarted());
+    ASSERT_TRUE(program.waitForReadyRead());
+    const quint16 port = quint16(program.readLine().trimmed().toUInt());
+    ASSERT_NE(port, 0);
+    {
+        TestClient mara(port);
+        mara.Login("Mara");
+        mara.Send("quit");
+        EXPECT_TRUE(mara.ReadUntilClosed().contains("Fare well, Mara."));
+    }
+    program.terminate();
+    program.waitForFinished();
+    const QByteArray log = program.readAllStandardError();
+    EXPECT_TRUE(log.contains("name Mara: quit")) << log.constData();
+}
+
+TEST(WorldProgram, RejectsABadOption)
+{
+    QProcess program;
+    program.start(WORLD_BINARY, {"--port", "seventy"});
+    ASSERT_TRUE(program.waitForFinished());
+    EXPECT_NE(program.exitCode(), 0);
+}
+
+} // namespace

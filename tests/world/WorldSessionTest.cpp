@@ -1,0 +1,253 @@
+#include "WorldHarness.h"
+
+#include "StatusRecord.h"
+
+#include <QRandomGenerator>
+
+#include <gtest/gtest.h>
+
+namespace {
+
+TEST(WorldLogin, AsksForANameAndShowsTheFirstRoomWithItsExits)
+{
+    TestWorld world;
+    ASSERT_NE(world.port, 0);
+    TestClient mara(world.port);
+    EXPECT_FALSE(mara.ReadUntil("By what name are you known? ").isEmpty());
+    mara.Send("mara");
+    const QByteArray room = mara.ReadUntil(">");
+    EXPECT_TRUE(room.contains("Well met, Mara."));
+    EXPECT_TRUE(room.contains("[Thornmere, Market Square]"));
+    EXPECT_TRUE(room.contains("Obvious exits: north, east, south, west, southeast.\r\n>"));
+}
+
+TEST(WorldLogin, RefusesBadAndTakenNames)
+{
+    TestWorld world;
+    TestClient mara(world.port);
+    mara.Login("Mara");
+    TestClient other(world.port);
+    other.ReadUntil("known? ");
+    other.Send("x");
+    EXPECT_FALSE(other.ReadUntil("two to sixteen letters").isEmpty());
+    other.Send("MARA");
+    EXPECT_FALSE(other.ReadUntil("already walks these streets").isEmpty());
+}
+
+struct Move {
+    const char* command;
+    const char* title;
+    const char* exits;
+};
+
+TEST(WorldMoves, EachWayOutLeadsToARoomWithItsExitList)
+{
+    TestWorld world;
+    TestClient mara(world.port);
+    mara.Login("Mara");
+    const Move route[] = {
+        {"n", "[Thornmere, Lantern Street]", "Obvious exits: south, northwest, up."},
+        {"climb ladder", "[Thornmere, Bell Tower]", "Obvious exits: down."},
+        {"down", "[Thornmere, Lantern Street]", "Obvious exits: south, northwest, up."},
+        {"northwest", "[Thornmere, North Gate]", "Obvious exits: southeast."},
+        {"go gate", "[Outside Thornmere, Meadow]", "Obvious exits: none."},
+        {"go gate", "[Thornmere, North Gate]", "Obvious exits: southeast."},
+        {"se", "[Thornmere, Lantern Street]", "Obvious exits: south, northwest, up."},
+        {"south", "[Thornmere, Market Square]", "Obvious exits: north, east, south, west,"},
+        {"e", "[Thornmere, Harbour Road]", "Obvious exits: west, east."},
+        {"go door", "[Thornmere, The Sleeping Otter]", "Obvious exits: out."},
+        {"out", "[Thornmere, Harbour Road]", "Obvious exits: west, east."},
+        {"east", "[Thornmere, The Quay]", "Obvious exits: west, southwest*."},
+    };
+    for (const Move& move : route) {
+        mara.Send(move.command);
+        const QByteArray answer = mara.ReadUntil("\r\n>");
+        EXPECT_TRUE(answer.contains(move.title)) << move.command << ": " << answer.constData();
+        EXPECT_TRUE(answer.contains(move.exits)) << move.command << ": " << answer.constData();
+    }
+}
+
+TEST(WorldMoves, BlockedWaysAndUnknownCommandsGetAPlainAnswer)
+{
+    TestWorld world;
+    TestClient mara(world.port);
+    mara.Login("Mara");
+    const std::pair<const char*, const char*> cases[] = {
+        {"up", "You can't go that way."},
+        {"xyzzy", "What?"},
+        {"swim moat", "You see no moat to swim here."},
+    };
+    for (const auto& [command, answer] : cases) {
+        mara.Send(command);
+        EXPECT_TRUE(mara.ReadUntil("\r\n>").contains(answer)) << command;
+    }
+}
+
+class TwoPlayers : public ::testing::Test {
+  protected:
+    void SetUp() override
+    {
+        mara.Login("Mara");
+        corwin.Login("Corwin");
+        mara.ReadUntil(" ** Corwin just arrived in the world.\r\n>");
+    }
+
+    TestWorld world;
+    TestClient mara{world.port};
+    TestClient corwin{world.port};
+};
+
+TEST_F(TwoPlayers, HearEachOthersSpeechWrappedInColourTokens)
+{
+    const std::pair<const char*, QByteArray> cases[] = {
+        {"say Good morning", "\x1b"
+                             "100Corwin says, \"Good morning\"\x1b"
+                             "000\r\n"},
+        {"ask Where is the inn?", "Corwin asks, \"Where is the inn?\""},
+        {"yell Fire!", "Corwin yells, \"Fire!\""},
+        {"shout Hello", "Corwin shouts, \"Hello\""},
+        {"whisper mara a secret", "Corwin whispers, \"a secret\""},
+    };
+    for (const auto& [command, heard] : cases) {
+        corwin.Send(command);
+        EXPECT_FALSE(mara.ReadUntil(heard).isEmpty()) << command;
+    }
+}
+
+TEST_F(TwoPlayers, PickUpThoughtsContactsAndTheLink)
+{
+    const std::pair<const char*, QByteArray> cases[] = {
+        {"think The bread smells good", "You pick up Corwin's thoughts, \"The bread smells good\""},
+        {"contact Mara meet me at the quay", "Corwin thinks to you, \"meet me at the quay\""},
+        {"link all quiet", "You pick up Corwin's Psycian link, \"all quiet\""},
+    };
+    for (const auto& [command, heard] : cases) {
+        corwin.Send(command);
+        EXPECT_FALSE(mara.ReadUntil(heard + "\r\n").isEmpty()) << command;
+    }
+}
+
+TEST_F(TwoPlayers, SeeADepartureByQuitAndByADroppedConnection)
+{
+    corwin.Send("quit");
+    EXPECT_TRUE(corwin.ReadUntilClosed().contains("Fare well, Corwin."));
+    EXPECT_FALSE(mara.ReadUntil(" ** Corwin has left the world.\r\n").isEmpty());
+
+    TestClient ysolde(world.port);
+    ysolde.Login("Ysolde");
+    mara.ReadUntil(" ** Ysolde just arrived in the world.");
+    ysolde.Close();
+    EXPECT_FALSE(mara.ReadUntil(" ** Ysolde has left the world unexpectedly.\r\n").isEmpty());
+}
+
+TEST_F(TwoPlayers, SeeEachOtherInTheRoomAndInTheWorldList)
+{
+    mara.Send("look");
+    EXPECT_TRUE(mara.ReadUntil("\r\n>").contains("Also here: Corwin."));
+    mara.Send("world");
+    EXPECT_TRUE(mara.ReadUntil("\r\n>").contains("Mara, Corwin"));
+}
+
+class StatusMode : public ::testing::Test {
+  protected:
+    void SetUp() override
+    {
+        mara.Login("Mara");
+        mara.Send("Set Steward On");
+    }
+
+    // The next status record the player receives.
+    QByteArray NextRecord()
+    {
+        mara.ReadUntil("\x1b\x1b");
+        return "\x1b\x1b" + mara.ReadUntil("\x1b\r\n");
+    }
+
+    TestWorld world;
+    TestClient mara{world.port};
+};
+
+TEST_F(StatusMode, EveryPromptBecomesAFullRecordOnItsOwnLine)
+{
+    const QByteArray record = NextRecord();
+    ASSERT_GE(record.size(), 70);
+    EXPECT_EQ(record.at(record.size() - 3), '\x1b');
+    EXPECT_EQ(record.at(2), '>');
+    EXPECT_EQ(record.mid(3, 8), "00640064");
+    mara.Send("look");
+    const QByteArray answer = mara.ReadUntil("\x1b\x1b");
+    EXPECT_TRUE(answer.endsWith("Obvious exits: north, east, south, west, southeast.\r\n\x1b\x1b"));
+    EXPECT_FALSE(answer.contains("\r\n>"));
+}
+
+TEST_F(StatusMode, RecordFollowsPostureWeaponAndShield)
+{
+    NextRecord();
+    const std::pair<const char*, const char*> steps[] = {
+        {"ready saber", "010"}, {"ready shield", "011"}, {"sit", "111"},
+        {"lie", "211"},         {"stand", "011"},        {"unready saber", "001"},
+    };
+    for (const auto& [command, flags] : steps) {
+        mara.Send(command);
+        EXPECT_EQ(NextRecord().mid(61, 3), flags) << command;
+    }
+}
+
+TEST_F(StatusMode, AttackGivesADelayLineAndRoundTimeInTheRecord)
+{
+    NextRecord();
+    mara.Send("ready saber");
+    NextRecord();
+    mara.Send("down");
+    mara.Send("w");
+    NextRecord();
+    NextRecord();
+    mara.Send("d");
+    EXPECT_TRUE(mara.ReadUntil("\x1b\x1b").contains("[Thornmere, Old Cellar]"));
+    mara.ReadUntil("\x1b\r\n");
+    mara.Send("attack rat");
+    const QByteArray fight = mara.ReadUntil("\x1b\x1b");
+    EXPECT_TRUE(fight.contains("\r\n[3 sec. delay]\r\n")) << fight.constData();
+    const QByteArray record = "\x1b\x1b" + mara.ReadUntil("\x1b\r\n");
+    EXPECT_GT(record.mid(StatusRoundTimeOffset, 2).toInt(nullptr, 16), 1);
+    mara.Send("attack rat");
+    EXPECT_TRUE(mara.ReadUntil("\x1b\x1b").contains("...wait "));
+}
+
+TEST_F(StatusMode, HealthLinesAndRestUseTheVitalsPhrases)
+{
+    NextRecord();
+    mara.Send("health");
+    const QByteArray health = mara.ReadUntil("\x1b\x1b");
+    EXPECT_TRUE(health.contains(" ** Current hit points: 100 of 100\r\n"));
+    EXPECT_TRUE(health.contains(" ** Current fatigue: 60 of 60\r\n"));
+    mara.ReadUntil("\x1b\r\n");
+    mara.Send("rest");
+    const QByteArray rest = mara.ReadUntil("\x1b\x1b");
+    EXPECT_TRUE(rest.contains(" ** You are fully healed.\r\n"));
+    EXPECT_TRUE(rest.contains(" ** You are fully rested.\r\n"));
+}
+
+TEST(WorldInput, SurvivesGarbageAndStillAnswers)
+{
+    TestWorld world;
+    TestClient mara(world.port);
+    mara.Login("Mara");
+    QByteArray garbage(65536, '\0');
+    QRandomGenerator random(7);
+    for (char& c : garbage)
+        c = char(random.bounded(256));
+    mara.SendRaw(garbage);
+    mara.SendRaw(QByteArray(4096, '\0'));
+    mara.SendRaw(QByteArray(100 * 1024, 'z') + "\n\r");
+    mara.Send("say still here");
+    EXPECT_FALSE(mara.ReadUntil("You say, \"still here\"").isEmpty());
+    TestClient stranger(world.port);
+    stranger.SendRaw(garbage);
+    TestClient corwin(world.port);
+    corwin.Login("Corwin");
+    corwin.Send("say still here");
+    EXPECT_FALSE(corwin.ReadUntil("You say, \"still here\"").isEmpty());
+}
+
+} // namespace

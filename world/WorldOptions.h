@@ -1,0 +1,22 @@
+#pragma once
+
+#include <QHostAddress>
+#include <QString>
+#include <QStringList>
+
+struct WorldOptions {
+    static constexpr quint16 DefaultPort = 34283;
+
+    QHostAddress listenAddress = QHostAddress::LocalHost;
+    quint16 port = DefaultPort;
+    quint32 seed = 1;
+    bool quiet = false;
+    QString replayFile;
+    int replayBlock = 0;
+    int replayPauseMs = 0;
+    QString recordFile;
+    qint64 floodBytes = 0;
+};
+
+// Reads the command line (program name first); on a bad option returns false with a message.
+bool ParseWorldOptions(const QStringList& arguments, WorldOptions& options, QString& error);
