@@ -32,6 +32,10 @@ bool ParseWorldOptions(const QStringList& arguments, WorldOptions& options, QStr
         error = parser.errorText();
         return false;
     }
+    if (parser.isSet("help")) {
+        options.helpText = parser.helpText();
+        return true;
+    }
     qint64 number = 0;
     if (parser.isSet("port")) {
         if (!ReadNumber(parser.value("port"), 0, 65535, number))

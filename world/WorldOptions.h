@@ -16,6 +16,7 @@ struct WorldOptions {
     int replayPauseMs = 0;
     QString recordFile;
     qint64 floodBytes = 0;
+    QString helpText; // set when --help asked for the usage instead of a server
 };
 
 // Reads the command line (program name first); on a bad option returns false with a message.

@@ -14,6 +14,10 @@ int main(int argc, char** argv)
         std::fprintf(stderr, "thornmere-world: %s\n", qPrintable(error));
         return 2;
     }
+    if (!options.helpText.isEmpty()) {
+        std::fputs(qPrintable(options.helpText), stdout);
+        return 0;
+    }
     Server server(options);
     if (!server.Start(error)) {
         std::fprintf(stderr, "thornmere-world: %s\n", qPrintable(error));

@@ -113,4 +113,13 @@ TEST(WorldProgram, RejectsABadOption)
     EXPECT_NE(program.exitCode(), 0);
 }
 
+TEST(WorldProgram, HelpPrintsTheOptionsAndStartsNoServer)
+{
+    QProcess program;
+    program.start(WORLD_BINARY, {"--help"});
+    ASSERT_TRUE(program.waitForFinished());
+    EXPECT_EQ(program.exitCode(), 0);
+    EXPECT_TRUE(program.readAllStandardOutput().contains("--replay"));
+}
+
 } // namespace
