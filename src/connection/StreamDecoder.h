@@ -1,0 +1,74 @@
+#pragma once
+
+#include "connection/PacketDump.h"
+
+#include <cstddef>
+#include <cstdint>
+
+namespace steward {
+
+class GameLineSink;
+
+// The largest block that one read may deliver.
+constexpr std::size_t RECEIVE_BUFFER_SIZE = 2048;
+// The bounds into which a profile's ReceiveChunkSize is forced.
+constexpr std::int32_t RECEIVE_CHUNK_MINIMUM = 256;
+constexpr std::int32_t RECEIVE_CHUNK_MAXIMUM = static_cast<std::int32_t>(RECEIVE_BUFFER_SIZE);
+// A line is cut after this many raw bytes, even while partial lines are held.
+constexpr std::size_t LINE_BUFFER_SIZE = 4097;
+// Decoded output of one line.
+constexpr std::size_t DECODED_LINE_SIZE = 8192;
+// A decoded line is at most two bytes longer than its raw line: the closing codes at a CR were
+// paid for by the four-byte token that opened the colour, and only a token cut short by the
+// line's end yields more than its length.
+static_assert(DECODED_LINE_SIZE >= LINE_BUFFER_SIZE + 2 + 1);
+
+// The options the decoder reads, with their defaults; the frame keeps them equal to Settings.
+struct ReceiveOptions {
+    std::int32_t ReceiveChunkSize = 1024;
+    unsigned char SaysColor = 10;
+};
+
+// Everything that survives from one received block to the next; allocated once.
+struct DecoderState {
+    char ReceiveBuffer[RECEIVE_BUFFER_SIZE + 1];
+    char LineBuffer[LINE_BUFFER_SIZE + 1];
+    std::int32_t LineLength = 0;
+    char DecodedLine[DECODED_LINE_SIZE];
+    bool HoldPartialLines = false;
+};
+
+// Turns the server's byte stream into GameLines: line assembly, the high bit stripped, the
+// two colour tokens replaced by ColorCodes.
+class StreamDecoder {
+  public:
+    StreamDecoder(GameLineSink& sink, PacketDump& dump, const ReceiveOptions& options);
+
+    // The work of one FD_READ on the bytes that one read returned: dump, assemble, decode.
+    // A block longer than RECEIVE_BUFFER_SIZE is taken as several blocks in a row.
+    void HandleSocketEvent(const char* bytes, std::size_t length);
+    // True once the server sends status records: a block's tail then waits for its line end.
+    void SetHoldPartialLines(bool hold) { state_.HoldPartialLines = hold; }
+    bool HoldsPartialLines() const { return state_.HoldPartialLines; }
+    // Drops a held partial line; part of every connect.
+    void ResetLineAssembly();
+    // Decodes one NUL-terminated raw line and hands it to the sink once.
+    void DecodeGameLine(const char* raw);
+
+    // The number of bytes waiting for the rest of their line.
+    std::int32_t LineLength() const { return state_.LineLength; }
+    // The largest read that the socket may make for the next block, kept within the buffer.
+    std::size_t ReceiveChunkSize() const;
+
+  private:
+    void HandleBlock(const char* bytes, std::size_t length);
+    void AssembleLines(const char* block);
+    void DeliverLine();
+
+    GameLineSink& sink_;
+    PacketDump& dump_;
+    const ReceiveOptions& options_;
+    DecoderState state_{};
+};
+
+} // namespace steward
