@@ -20,15 +20,15 @@ constexpr std::size_t TOKEN_LENGTH = 4;
 
 } // namespace
 
-StreamDecoder::StreamDecoder(GameLineSink& sink, PacketDump& dump, const ReceiveOptions& options)
-    : sink_(sink), dump_(dump), options_(options)
+StreamDecoder::StreamDecoder(GameLineSink& sink, PacketDump& dump, const Settings& settings)
+    : sink_(sink), dump_(dump), settings_(settings)
 {
 }
 
 std::size_t StreamDecoder::ReceiveChunkSize() const
 {
     return static_cast<std::size_t>(
-        std::clamp(options_.ReceiveChunkSize, RECEIVE_CHUNK_MINIMUM, RECEIVE_CHUNK_MAXIMUM));
+        std::clamp(settings_.ReceiveChunkSize, RECEIVE_CHUNK_MIN, RECEIVE_CHUNK_MAX));
 }
 
 void StreamDecoder::HandleSocketEvent(const char* bytes, std::size_t length)
@@ -104,7 +104,7 @@ void StreamDecoder::DecodeGameLine(const char* raw)
             if (in[1] == TOKEN_COLOR_OFF || open)
                 out = AppendColorOff(out, current);
             if (in[1] == TOKEN_COLOR_ON) {
-                current = options_.SaysColor;
+                current = settings_.SaysColor;
                 out = AppendColorOn(out, current);
                 open = true;
             } else {

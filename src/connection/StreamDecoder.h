@@ -1,5 +1,6 @@
 #pragma once
 
+#include "config/Settings.h"
 #include "connection/PacketDump.h"
 
 #include <cstddef>
@@ -11,9 +12,7 @@ class GameLineSink;
 
 // The largest block that one read may deliver.
 constexpr std::size_t RECEIVE_BUFFER_SIZE = 2048;
-// The bounds into which a profile's ReceiveChunkSize is forced.
-constexpr std::int32_t RECEIVE_CHUNK_MINIMUM = 256;
-constexpr std::int32_t RECEIVE_CHUNK_MAXIMUM = static_cast<std::int32_t>(RECEIVE_BUFFER_SIZE);
+static_assert(RECEIVE_CHUNK_MAX <= static_cast<std::int32_t>(RECEIVE_BUFFER_SIZE));
 // A line is cut after this many raw bytes, even while partial lines are held.
 constexpr std::size_t LINE_BUFFER_SIZE = 4097;
 // Decoded output of one line.
@@ -22,12 +21,6 @@ constexpr std::size_t DECODED_LINE_SIZE = 8192;
 // paid for by the four-byte token that opened the colour, and only a token cut short by the
 // line's end yields more than its length.
 static_assert(DECODED_LINE_SIZE >= LINE_BUFFER_SIZE + 2 + 1);
-
-// The options the decoder reads, with their defaults; the frame keeps them equal to Settings.
-struct ReceiveOptions {
-    std::int32_t ReceiveChunkSize = 1024;
-    unsigned char SaysColor = 10;
-};
 
 // Everything that survives from one received block to the next; allocated once.
 struct DecoderState {
@@ -42,7 +35,7 @@ struct DecoderState {
 // two colour tokens replaced by ColorCodes.
 class StreamDecoder {
   public:
-    StreamDecoder(GameLineSink& sink, PacketDump& dump, const ReceiveOptions& options);
+    StreamDecoder(GameLineSink& sink, PacketDump& dump, const Settings& settings);
 
     // The work of one FD_READ on the bytes that one read returned: dump, assemble, decode.
     // A block longer than RECEIVE_BUFFER_SIZE is taken as several blocks in a row.
@@ -67,7 +60,7 @@ class StreamDecoder {
 
     GameLineSink& sink_;
     PacketDump& dump_;
-    const ReceiveOptions& options_;
+    const Settings& settings_;
     DecoderState state_{};
 };
 

@@ -16,7 +16,7 @@ class ColorDecodingTest : public ::testing::Test {
   protected:
     std::string Decode(const std::string& raw, unsigned char saysColor = 10)
     {
-        options.SaysColor = saysColor;
+        settings.SaysColor = saysColor;
         sink.lines.clear();
         decoder.DecodeGameLine(raw.c_str());
         EXPECT_EQ(sink.lines.size(), 1u);
@@ -34,8 +34,8 @@ class ColorDecodingTest : public ::testing::Test {
 
     testing::RecordingSink sink;
     PacketDump dump;
-    ReceiveOptions options;
-    StreamDecoder decoder{sink, dump, options};
+    Settings settings;
+    StreamDecoder decoder{sink, dump, settings};
 };
 
 struct Case {

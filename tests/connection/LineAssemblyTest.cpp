@@ -45,8 +45,8 @@ class LineAssemblyTest : public ::testing::Test {
 
     testing::RecordingSink sink;
     PacketDump dump;
-    ReceiveOptions options;
-    StreamDecoder decoder{sink, dump, options};
+    Settings settings;
+    StreamDecoder decoder{sink, dump, settings};
 };
 
 const std::string A1024(1024, 'a');
@@ -101,7 +101,7 @@ TEST_F(LineAssemblyTest, LinesEndAtLineFeedTheLimitOrTheBlockUnlessHeld)
     for (const Case& c : CASES) {
         for (const bool hold : {true, false}) {
             testing::RecordingSink fresh;
-            StreamDecoder local{fresh, dump, options};
+            StreamDecoder local{fresh, dump, settings};
             local.SetHoldPartialLines(hold);
             for (const std::string& block : c.blocks)
                 local.HandleSocketEvent(block.data(), block.size());
@@ -147,7 +147,7 @@ TEST_F(LineAssemblyTest, ReadSizeStaysWithinTheReceiveBuffer)
                              {100, 256},
                              {0, 256},
                              {-1, 256}}) {
-        options.ReceiveChunkSize = c.asked;
+        settings.ReceiveChunkSize = c.asked;
         EXPECT_EQ(decoder.ReceiveChunkSize(), c.used) << c.asked;
     }
 }

@@ -98,8 +98,8 @@ TEST_F(PacketDumpTest, RowsThatDoNotFitAreLostWithoutTheirLineEnds)
 TEST_F(PacketDumpTest, ReceivedBlockIsDumpedUpToItsFirstNul)
 {
     testing::RecordingSink sink;
-    ReceiveOptions options;
-    StreamDecoder decoder{sink, dump, options};
+    Settings settings;
+    StreamDecoder decoder{sink, dump, settings};
     const std::string block("ab\n\0cd\n", 7);
     decoder.HandleSocketEvent(block.data(), block.size());
     dump.Close();
