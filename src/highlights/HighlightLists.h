@@ -1,0 +1,43 @@
+#pragma once
+
+#include "highlights/ClipboardHighlights.h"
+#include "highlights/HighlightList.h"
+#include "highlights/HighlightMatcher.h"
+#include "highlights/SoundPlayer.h"
+
+#include <cstddef>
+#include <string>
+
+namespace steward {
+
+// Frame commands of the "Copy Special" submenu that add the selection to a list.
+constexpr int CMD_COPY_TO_STRING_HIGHLIGHTS = 1104;
+constexpr int CMD_COPY_TO_NAME_HIGHLIGHTS = 1105;
+
+// The two lists of the session, each with the index its matcher keeps over it.
+class HighlightLists {
+  public:
+    HighlightLists() = default;
+    HighlightLists(const HighlightLists&) = delete;
+    HighlightLists& operator=(const HighlightLists&) = delete;
+
+    HighlightList StringHighlights;
+    HighlightList NameHighlights;
+
+    // The strings first, then the names on what the strings produced.
+    void ApplyHighlights(char* line, std::size_t capacity, bool squelch, HighlightSounds& sounds);
+    bool IsNameListed(const char* name) const;
+
+    // Reads and writes "folder/character.Highlights" and "folder/character.Names".
+    void Load(const std::string& folder, const std::string& character);
+    void Save(const std::string& folder, const std::string& character) const;
+
+    // Copy Special: the clipboard's lines go to the list of the command; false for another one.
+    bool CopyToHighlights(int command, ClipboardReader& clipboard);
+
+  private:
+    HighlightMatcher stringMatcher_{StringHighlights};
+    HighlightMatcher nameMatcher_{NameHighlights};
+};
+
+} // namespace steward

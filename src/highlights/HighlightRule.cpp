@@ -1,0 +1,98 @@
+#include "highlights/HighlightRule.h"
+
+#include "highlights/HighlightList.h"
+#include "highlights/HighlightText.h"
+
+#include <cstring>
+
+namespace steward {
+namespace {
+
+bool SkipMarker(const char*& text, char marker)
+{
+    if (*text != marker)
+        return false;
+    ++text;
+    return true;
+}
+
+const char* FindIn(const HighlightRule& rule, const char* from)
+{
+    return rule.CaseSensitive ? std::strstr(from, rule.Match) : FindNoCase(from, rule.Match);
+}
+
+void PlaySound(const HighlightRule& rule, const HighlightLine& line, bool squelch,
+               HighlightSounds& sounds)
+{
+    if (rule.SoundLength == 0 || squelch || std::memchr(line.Text, '"', line.Length))
+        return;
+    char name[HIGHLIGHT_TEXT_MAX + 1];
+    std::memcpy(name, rule.Sound, rule.SoundLength);
+    name[rule.SoundLength] = '\0';
+    sounds.PlayHighlightSound(name);
+}
+
+} // namespace
+
+bool ParseHighlightRule(const char* text, unsigned char color, HighlightRule& rule)
+{
+    rule = HighlightRule{};
+    rule.Color = color;
+    if (*text == '{') {
+        const char* close = std::strchr(text + 1, '}');
+        if (!close)
+            return false;
+        rule.Sound = text + 1;
+        rule.SoundLength = static_cast<std::size_t>(close - rule.Sound);
+        text = close + 1;
+    }
+    rule.EntireLine = SkipMarker(text, '$');
+    rule.WholeWord = !SkipMarker(text, '*');
+    rule.CaseSensitive = SkipMarker(text, '@');
+    rule.Match = text;
+    rule.MatchLength = std::strlen(text);
+    return rule.MatchLength > 0;
+}
+
+bool StandsOnWordBoundaries(const char* text, std::size_t length, std::size_t start,
+                            std::size_t end)
+{
+    const bool before = start == 0 || IsWordBoundary(static_cast<unsigned char>(text[start - 1]));
+    const bool behind = end == length || IsWordBoundary(static_cast<unsigned char>(text[end]));
+    return before && behind;
+}
+
+bool ApplyHighlightRule(const HighlightRule& rule, HighlightLine& line, bool squelch,
+                        HighlightSounds& sounds)
+{
+    const std::size_t codeLength = ColorOnLength(rule.Color);
+    std::size_t position = 0;
+    while (position < line.Length) {
+        const char* hit = FindIn(rule, line.Text + position);
+        if (!hit)
+            return true;
+        const std::size_t start = static_cast<std::size_t>(hit - line.Text);
+        const std::size_t end = start + rule.MatchLength;
+        if (rule.WholeWord && !StandsOnWordBoundaries(line.Text, line.Length, start, end)) {
+            position = start + 1;
+            continue;
+        }
+        if (line.Length + 2 * codeLength >= line.Capacity)
+            return false;
+        if (rule.EntireLine) {
+            InsertText(line.Text, ColorOnText(rule.Color));
+            InsertText(line.Text + line.Length + codeLength, ColorOffText(rule.Color));
+            line.Length += 2 * codeLength;
+            position = line.Length;
+        } else {
+            InsertText(line.Text + start, ColorOnText(rule.Color));
+            InsertText(line.Text + end + codeLength, ColorOffText(rule.Color));
+            line.Length += 2 * codeLength;
+            position = end + 2 * codeLength;
+        }
+        PlaySound(rule, line, squelch, sounds);
+    }
+    return true;
+}
+
+} // namespace steward

@@ -1,0 +1,36 @@
+#pragma once
+
+#include <cstddef>
+
+namespace steward {
+
+// In-place operations on NUL-terminated bytes shared by the highlight matcher and the line
+// filters; the caller guarantees the room, as these test none.
+
+// Moves the string at place (with its NUL) up by the length of text and puts text in front;
+// returns the position of the new terminating NUL.
+char* InsertText(char* place, const char* text);
+// Removes the first n bytes; n must not exceed the string's length.
+void RemovePrefix(char* string, std::size_t n);
+
+// The colour-on sequence of a colour byte, in a static buffer that the next call overwrites.
+const char* ColorOnText(unsigned char color);
+// The length of that sequence: 2 with a background, else 1.
+std::size_t ColorOnLength(unsigned char color);
+// The colour-off sequence of a colour byte, in a static buffer of its own.
+const char* ColorOffText(unsigned char color);
+
+// The first place where wanted occurs in text, with A to Z compared without regard to case and
+// every other byte exactly; an empty wanted gives text, no match or an empty text nullptr.
+const char* FindNoCase(const char* text, const char* wanted);
+
+// True for a ColorCode and for every byte that is not an ASCII letter or digit.
+bool IsWordBoundary(unsigned char c);
+
+// The ASCII lower case of a byte; every other byte is itself.
+constexpr unsigned char FoldCase(unsigned char c)
+{
+    return (c >= 'A' && c <= 'Z') ? static_cast<unsigned char>(c + ('a' - 'A')) : c;
+}
+
+} // namespace steward

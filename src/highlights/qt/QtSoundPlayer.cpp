@@ -1,0 +1,47 @@
+#include "highlights/qt/QtSoundPlayer.h"
+
+#include <QAudioDevice>
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QMediaDevices>
+#include <QSoundEffect>
+#include <QUrl>
+
+namespace steward {
+
+QtSoundPlayer::QtSoundPlayer()
+{
+    if (!QMediaDevices::audioOutputs().isEmpty())
+        effect_ = std::make_unique<QSoundEffect>();
+}
+
+QtSoundPlayer::~QtSoundPlayer() = default;
+
+bool QtSoundPlayer::PlayFile(const char* path)
+{
+    const QString file = QFile::decodeName(path);
+    if (!QFileInfo(file).isFile())
+        return false;
+    if (!effect_)
+        return true;
+    effect_->stop();
+    effect_->setSource(QUrl::fromLocalFile(file));
+    effect_->play();
+    return true;
+}
+
+void InstallDefaultSounds(const QString& folder)
+{
+    const QDir sounds(QStringLiteral(":/sounds"));
+    for (const QString& name : sounds.entryList(QDir::Files)) {
+        const QString target = QDir(folder).filePath(name);
+        if (QFileInfo::exists(target))
+            continue;
+        QFile::copy(sounds.filePath(name), target);
+        QFile::setPermissions(target, QFile::ReadOwner | QFile::WriteOwner | QFile::ReadGroup |
+                                          QFile::ReadOther);
+    }
+}
+
+} // namespace steward

@@ -1,0 +1,102 @@
+#pragma once
+
+#include "connection/ColorCode.h"
+#include "highlights/ClipboardHighlights.h"
+#include "highlights/HighlightList.h"
+#include "highlights/SoundPlayer.h"
+
+#include <cstdio>
+#include <filesystem>
+#include <random>
+#include <string>
+#include <utility>
+#include <vector>
+
+namespace steward::testing {
+
+// Records the sound names that the matcher starts.
+class RecordedSounds : public HighlightSounds {
+  public:
+    void PlayHighlightSound(const char* name) override { played.emplace_back(name); }
+    std::vector<std::string> played;
+};
+
+// Records the paths asked for; only the paths in existing are found.
+class RecordingPlayer : public SoundPlayer {
+  public:
+    bool PlayFile(const char* path) override
+    {
+        asked.emplace_back(path);
+        for (const std::string& file : existing) {
+            if (file == path)
+                return true;
+        }
+        return false;
+    }
+    std::vector<std::string> existing;
+    std::vector<std::string> asked;
+};
+
+class FakeClipboard : public ClipboardReader {
+  public:
+    bool ReadText(std::string& out) override
+    {
+        out = text;
+        return available;
+    }
+    bool available = true;
+    std::string text;
+};
+
+inline std::string On(unsigned char color)
+{
+    char out[8];
+    return std::string(out, AppendColorOn(out, color));
+}
+
+inline std::string Off(unsigned char color)
+{
+    char out[8];
+    return std::string(out, AppendColorOff(out, color));
+}
+
+// Wraps text in the colour codes of color.
+inline std::string Lit(unsigned char color, const std::string& text)
+{
+    return On(color) + text + Off(color);
+}
+
+struct Entry {
+    std::string text;
+    unsigned char color = HIGHLIGHT_DEFAULT_COLOR;
+};
+
+inline void Fill(HighlightList& list, const std::vector<Entry>& entries)
+{
+    list.Clear();
+    for (std::size_t i = 0; i < entries.size(); ++i) {
+        list.SetColor(i, entries[i].color);
+        list.SetText(i, entries[i].text.c_str());
+    }
+}
+
+// A folder of its own under the system's temporary folder, removed at the end of the test.
+class TempFolder {
+  public:
+    TempFolder()
+    {
+        std::random_device random;
+        char name[64];
+        std::snprintf(name, sizeof name, "steward-highlights-%08x%08x", random(), random());
+        path_ = std::filesystem::temp_directory_path() / name;
+        std::filesystem::create_directories(path_);
+    }
+    ~TempFolder() { std::filesystem::remove_all(path_); }
+    std::string File(const std::string& name) const { return (path_ / name).string(); }
+    std::string Path() const { return path_.string(); }
+
+  private:
+    std::filesystem::path path_;
+};
+
+} // namespace steward::testing

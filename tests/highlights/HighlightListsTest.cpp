@@ -1,0 +1,92 @@
+#include "highlights/HighlightLists.h"
+#include "HighlightDoubles.h"
+
+#include <gtest/gtest.h>
+
+#include <cstring>
+#include <fstream>
+
+namespace steward::testing {
+namespace {
+
+TEST(CopySpecial, EachClipboardLineBecomesAnEntryOfTheCommandsList)
+{
+    const struct {
+        std::string clip;
+        std::vector<std::string> added;
+    } cases[] = {
+        {"Mara", {"Mara"}},
+        {"Mara\r\nTam\n\nOld Bob\r", {"Mara", "Tam", "Old Bob"}},
+        {"$*@Mara", {"$*@Mara"}},
+        {std::string(80, 'a'), {std::string(80, 'a')}},
+        {std::string(81, 'b') + "\nTam", {"Tam"}},
+        {std::string(300, 'c') + "\nTam", {"Tam"}},
+        {"", {}},
+    };
+    for (const auto& c : cases) {
+        HighlightLists lists;
+        lists.NameHighlights.Add("Old", 3);
+        FakeClipboard clipboard;
+        clipboard.text = c.clip;
+        EXPECT_TRUE(lists.CopyToHighlights(CMD_COPY_TO_NAME_HIGHLIGHTS, clipboard));
+        std::vector<std::string> added;
+        for (std::size_t i = 1; lists.NameHighlights.Text(i)[0] != '\0'; ++i) {
+            added.emplace_back(lists.NameHighlights.Text(i));
+            EXPECT_EQ(lists.NameHighlights.Color(i), HIGHLIGHT_DEFAULT_COLOR);
+        }
+        EXPECT_EQ(added, c.added) << c.clip;
+        EXPECT_STREQ(lists.StringHighlights.Text(0), "");
+    }
+}
+
+TEST(CopySpecial, NoClipboardTextAddsNothing)
+{
+    HighlightLists lists;
+    FakeClipboard clipboard;
+    clipboard.text = "Mara";
+    clipboard.available = false;
+    lists.CopyToHighlights(CMD_COPY_TO_STRING_HIGHLIGHTS, clipboard);
+    EXPECT_STREQ(lists.StringHighlights.Text(0), "");
+    clipboard.available = true;
+    EXPECT_FALSE(lists.CopyToHighlights(1106, clipboard));
+    EXPECT_TRUE(lists.CopyToHighlights(CMD_COPY_TO_STRING_HIGHLIGHTS, clipboard));
+    EXPECT_STREQ(lists.StringHighlights.Text(0), "Mara");
+}
+
+TEST(HighlightListsSession, StringsRunFirstAndNamesNestInside)
+{
+    HighlightLists lists;
+    lists.StringHighlights.Add("Mara", 1);
+    lists.NameHighlights.Add("Mara", 2);
+    char line[64] = "Mara waves";
+    RecordedSounds sounds;
+    lists.ApplyHighlights(line, sizeof line, false, sounds);
+    EXPECT_EQ(std::string(line), On(1) + Lit(2, "Mara") + Off(1) + " waves");
+    EXPECT_TRUE(lists.IsNameListed("Mara"));
+    EXPECT_FALSE(lists.IsNameListed("Tam"));
+}
+
+TEST(HighlightListsSession, LoadAndSaveUseTheCharactersTwoFiles)
+{
+    TempFolder folder;
+    {
+        HighlightLists lists;
+        lists.StringHighlights.Add("{gong}*Attention", 14);
+        lists.NameHighlights.Add("Mara", 0x1E);
+        lists.Save(folder.Path(), "Hero");
+    }
+    std::ifstream names(folder.File("Hero.Names"));
+    std::string line;
+    std::getline(names, line);
+    EXPECT_EQ(line, "030 \"Mara\"");
+    HighlightLists lists;
+    lists.NameHighlights.Add("stale", 1);
+    lists.Load(folder.Path(), "Hero");
+    EXPECT_STREQ(lists.StringHighlights.Text(0), "{gong}*Attention");
+    EXPECT_STREQ(lists.NameHighlights.Text(0), "Mara");
+    lists.Load(folder.Path(), "Nobody");
+    EXPECT_STREQ(lists.NameHighlights.Text(0), "") << "a character with no files has no entries";
+}
+
+} // namespace
+} // namespace steward::testing
