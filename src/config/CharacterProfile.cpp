@@ -1,0 +1,149 @@
+#include "config/CharacterProfile.h"
+
+#include "config/BinaryRecords.h"
+#include "config/IniStore.h"
+
+#include <cstring>
+
+namespace steward {
+
+namespace {
+
+constexpr char CONFIG_SECTION[] = "Config";
+constexpr char COLORS_SECTION[] = "Colors";
+constexpr char WINDOWS_SECTION[] = "Windows";
+constexpr char NO_WINDOWS[] = "{none}";
+constexpr char DEFAULT_WINDOWS[] = "tG";
+
+struct EquipKey {
+    const char* key;
+    char (CharacterProfile::*value)[EQUIP_COMMAND_SIZE];
+    const char* defaultValue;
+};
+
+constexpr EquipKey EQUIP_KEYS[] = {
+    {"EquipWeapon", &CharacterProfile::EquipWeapon, "ready saber"},
+    {"UnequipWeapon", &CharacterProfile::UnequipWeapon, "unready saber"},
+    {"EquipShield", &CharacterProfile::EquipShield, "ready shield"},
+    {"UnequipShield", &CharacterProfile::UnequipShield, "unready shield"},
+};
+
+void SetCurrentCharacter(CharacterProfile& profile, const ConfigFiles& files, const char* name)
+{
+    char* current = profile.CurrentCharacter;
+    if (name) {
+        std::strncpy(current, name, CHARACTER_NAME_SIZE - 1);
+        current[CHARACTER_NAME_SIZE - 1] = '\0';
+    } else {
+        ReadString(files.MainIni, "History", "LastChar", current, CHARACTER_NAME_SIZE,
+                   DEFAULT_CHARACTER);
+    }
+    if (current[0] == '\0')
+        std::strcpy(current, DEFAULT_CHARACTER);
+    profile.ProfilePath = ProfileFilePath(files, current, PROFILE_EXTENSION);
+}
+
+// Reads Settings; a missing value or one of the wrong length starts the file afresh.
+bool ReadSettings(CharacterProfile& profile)
+{
+    SettingsBytes bytes{};
+    if (ReadBinary(profile.ProfilePath, CONFIG_SECTION, "Settings", bytes.data(), bytes.size())) {
+        profile.Settings = Settings::FromBytes(bytes);
+        return false;
+    }
+    DeleteIniFile(profile.ProfilePath);
+    profile.Settings = Settings{};
+    bytes = profile.Settings.ToBytes();
+    WriteBinary(profile.ProfilePath, CONFIG_SECTION, "Settings", bytes.data(), bytes.size());
+    return true;
+}
+
+void ReadGaugeColors(const std::string& path, ProfileParts& parts)
+{
+    for (std::size_t i = 0; i < PROFILE_GAUGE_COUNT; ++i) {
+        GaugeColorBytes bytes{};
+        if (ReadBinary(path, COLORS_SECTION, GAUGE_COLOR_KEYS[i], bytes.data(), bytes.size()))
+            parts.SetGaugeColors(static_cast<ProfileGauge>(i), GaugeColorsFromBytes(bytes));
+    }
+}
+
+void WriteGaugeColors(const std::string& path, ProfileParts& parts)
+{
+    for (std::size_t i = 0; i < PROFILE_GAUGE_COUNT; ++i) {
+        const GaugeColorBytes bytes =
+            GaugeColorsToBytes(parts.GetGaugeColors(static_cast<ProfileGauge>(i)));
+        WriteBinary(path, COLORS_SECTION, GAUGE_COLOR_KEYS[i], bytes.data(), bytes.size());
+    }
+}
+
+void ReadEquipment(CharacterProfile& profile)
+{
+    for (const EquipKey& e : EQUIP_KEYS)
+        ReadString(profile.ProfilePath, CONFIG_SECTION, e.key, profile.*e.value, EQUIP_COMMAND_SIZE,
+                   e.defaultValue);
+}
+
+void WriteEquipment(const std::string& path, const CharacterProfile& profile)
+{
+    for (const EquipKey& e : EQUIP_KEYS)
+        WriteString(path, CONFIG_SECTION, e.key, profile.*e.value);
+}
+
+} // namespace
+
+bool LoadProfile(const ConfigFiles& files, CharacterProfile& profile, ProfileParts& parts,
+                 const char* name, bool createOnly)
+{
+    SetCurrentCharacter(profile, files, name);
+    if (createOnly)
+        return false;
+    parts.Trace("Loading configuration from \"" + profile.ProfilePath + "\"\n");
+    const bool isNew = ReadSettings(profile);
+    ReadGaugeColors(profile.ProfilePath, parts);
+    CheckSettings(profile.Settings);
+    if (profile.Settings.HonorNumLock)
+        parts.SetNumLockOff();
+    ReadEquipment(profile);
+    parts.RestoreChildWindows(profile.ProfilePath);
+    const std::string character = profile.CurrentCharacter;
+    parts.LoadMacros(ProfileFilePath(files, character, MACROS_EXTENSION));
+    parts.LoadHighlights(ProfileFilePath(files, character, HIGHLIGHTS_EXTENSION),
+                         ProfileFilePath(files, character, NAMES_EXTENSION));
+    parts.SetDefaultMacros(isNew);
+    parts.UpdateTitle();
+    return isNew;
+}
+
+void SaveProfile(const ConfigFiles& files, const CharacterProfile& profile, ProfileParts& parts,
+                 const char* name)
+{
+    const std::string path = ProfileFilePath(files, name, PROFILE_EXTENSION);
+    parts.Trace("Saving data to \"" + path + "\"\n");
+    const SettingsBytes bytes = profile.Settings.ToBytes();
+    WriteBinary(path, CONFIG_SECTION, "Settings", bytes.data(), bytes.size());
+    WriteEquipment(path, profile);
+    WriteGaugeColors(path, parts);
+    parts.SaveChildWindows(path);
+    parts.SaveMacros(ProfileFilePath(files, name, MACROS_EXTENSION));
+    parts.SaveHighlights(ProfileFilePath(files, name, HIGHLIGHTS_EXTENSION),
+                         ProfileFilePath(files, name, NAMES_EXTENSION));
+}
+
+void WriteLastChar(const ConfigFiles& files, const CharacterProfile& profile)
+{
+    WriteString(files.MainIni, "History", "LastChar", profile.CurrentCharacter);
+}
+
+std::string ReadOpenWindows(const std::string& profilePath)
+{
+    char letters[OPEN_WINDOWS_SIZE];
+    ReadString(profilePath, WINDOWS_SECTION, "Open Windows", letters, sizeof letters, NO_WINDOWS);
+    return std::strcmp(letters, NO_WINDOWS) == 0 ? DEFAULT_WINDOWS : letters;
+}
+
+void WriteOpenWindows(const std::string& profilePath, const std::string& letters)
+{
+    WriteString(profilePath, WINDOWS_SECTION, "Open Windows", letters.c_str());
+}
+
+} // namespace steward

@@ -1,0 +1,259 @@
+#include "config/CharacterProfile.h"
+#include "config/IniStore.h"
+
+#include "config/TempFolder.h"
+
+#include <gtest/gtest.h>
+
+#include <cstdio>
+#include <cstring>
+#include <vector>
+
+namespace steward {
+namespace {
+
+// Records each call of the profile into the rest of the program, in order.
+class RecordingParts : public ProfileParts {
+  public:
+    void Trace(const std::string& line) override { calls.push_back("Trace " + line); }
+    GaugeColors GetGaugeColors(ProfileGauge gauge) override
+    {
+        calls.push_back(std::string("GetGaugeColors ") + GAUGE_COLOR_KEYS[gauge]);
+        return colors[gauge];
+    }
+    void SetGaugeColors(ProfileGauge gauge, const GaugeColors& c) override
+    {
+        calls.push_back(std::string("SetGaugeColors ") + GAUGE_COLOR_KEYS[gauge]);
+        colors[gauge] = c;
+    }
+    void SetNumLockOff() override { calls.push_back("SetNumLockOff"); }
+    void RestoreChildWindows(const std::string& path) override
+    {
+        calls.push_back("RestoreChildWindows " + path);
+    }
+    void SaveChildWindows(const std::string& path) override
+    {
+        calls.push_back("SaveChildWindows " + path);
+    }
+    void LoadMacros(const std::string& path) override { calls.push_back("LoadMacros " + path); }
+    void SaveMacros(const std::string& path) override { calls.push_back("SaveMacros " + path); }
+    void LoadHighlights(const std::string& strings, const std::string& names) override
+    {
+        calls.push_back("LoadHighlights " + strings + " " + names);
+    }
+    void SaveHighlights(const std::string& strings, const std::string& names) override
+    {
+        calls.push_back("SaveHighlights " + strings + " " + names);
+    }
+    void SetDefaultMacros(bool newProfile) override
+    {
+        calls.push_back(newProfile ? "SetDefaultMacros new" : "SetDefaultMacros");
+    }
+    void UpdateTitle() override { calls.push_back("UpdateTitle"); }
+
+    std::vector<std::string> calls;
+    GaugeColors colors[PROFILE_GAUGE_COUNT] = {};
+};
+
+class ProfileTest : public ::testing::Test {
+  protected:
+    std::string Dat(const char* name) const { return folder.File(std::string(name) + ".Dat"); }
+
+    void StoreSettings(const char* name, const Settings& settings)
+    {
+        const SettingsBytes bytes = settings.ToBytes();
+        WriteBinary(Dat(name), "Config", "Settings", bytes.data(), bytes.size());
+    }
+
+    Settings StoredSettings(const char* name)
+    {
+        SettingsBytes bytes{};
+        EXPECT_TRUE(ReadBinary(Dat(name), "Config", "Settings", bytes.data(), bytes.size()));
+        return Settings::FromBytes(bytes);
+    }
+
+    bool Load(const char* name) { return LoadProfile(files, profile, parts, name, false); }
+    void Save(const char* name) { SaveProfile(files, profile, parts, name); }
+
+    TempFolder folder;
+    ConfigFiles files = MakeConfigFiles(folder.Path());
+    CharacterProfile profile;
+    RecordingParts parts;
+};
+
+TEST_F(ProfileTest, ANewProfileIsLoadedStepByStep)
+{
+    EXPECT_TRUE(Load("Rook"));
+    const std::string base = folder.File("Rook");
+    EXPECT_EQ(parts.calls, (std::vector<std::string>{
+                               "Trace Loading configuration from \"" + base + ".Dat\"\n",
+                               "RestoreChildWindows " + base + ".Dat",
+                               "LoadMacros " + base + ".Macros",
+                               "LoadHighlights " + base + ".Highlights " + base + ".Names",
+                               "SetDefaultMacros new",
+                               "UpdateTitle",
+                           }));
+    EXPECT_STREQ(profile.CurrentCharacter, "Rook");
+    EXPECT_EQ(profile.ProfilePath, base + ".Dat");
+    EXPECT_EQ(StoredSettings("Rook").ToBytes(), Settings{}.ToBytes());
+}
+
+TEST_F(ProfileTest, AKnownProfileGivesItsGaugesTheirColoursAndHonoursNumLock)
+{
+    Settings stored;
+    stored.HonorNumLock = 1;
+    StoreSettings("Rook", stored);
+    const GaugeColorBytes rt = GaugeColorsToBytes({1, 2, 3});
+    WriteBinary(Dat("Rook"), "Colors", "RT", rt.data(), rt.size());
+    WriteBinary(Dat("Rook"), "Colors", "Health", rt.data(), rt.size());
+    WriteString(Dat("Rook"), "Colors", "Pause", "00FF");
+    EXPECT_FALSE(Load("Rook"));
+    const std::vector<std::string> head(parts.calls.begin() + 1, parts.calls.begin() + 5);
+    EXPECT_EQ(head,
+              (std::vector<std::string>{"SetGaugeColors Health", "SetGaugeColors RT",
+                                        "SetNumLockOff", "RestoreChildWindows " + Dat("Rook")}));
+    EXPECT_EQ(parts.calls[parts.calls.size() - 2], "SetDefaultMacros");
+    EXPECT_EQ(parts.colors[GAUGE_RT].BarColor, 2u);
+}
+
+TEST_F(ProfileTest, ASettingsValueOfTheWrongLengthStartsTheProfileAfresh)
+{
+    const std::string path = Dat("Rook");
+    WriteString(path, "Config", "EquipWeapon", "wield axe");
+    WriteString(path, "Config", "Settings", std::string(318, '1').c_str());
+    EXPECT_TRUE(Load("Rook"));
+    EXPECT_STREQ(profile.EquipWeapon, "ready saber");
+    EXPECT_EQ(profile.Settings.ToBytes(), Settings{}.ToBytes());
+    std::string hex;
+    for (std::uint8_t byte : Settings{}.ToBytes()) {
+        char digits[3];
+        std::snprintf(digits, sizeof digits, "%02X", byte);
+        hex += digits;
+    }
+    EXPECT_EQ(ReadTextFile(path), "[Config]\nSettings=" + hex + "\n");
+    char equip[EQUIP_COMMAND_SIZE];
+    ReadString(path, "Config", "EquipWeapon", equip, sizeof equip, "gone");
+    EXPECT_STREQ(equip, "gone");
+}
+
+struct CheckCase {
+    std::int32_t storedChunk;
+    std::int16_t storedMin;
+    std::uint8_t storedMode;
+    std::int32_t chunk;
+    std::int16_t min;
+    std::uint8_t mode;
+};
+
+TEST_F(ProfileTest, LoadedSettingsAreBroughtIntoRangeAndSavedSo)
+{
+    const CheckCase cases[] = {
+        {100, -3, 3, 256, 0, 0},
+        {5000, 12, 2, 2048, 12, 2},
+        {1500, 0, 1, 1500, 0, 1},
+    };
+    for (const CheckCase& c : cases) {
+        Settings stored;
+        stored.ReceiveChunkSize = c.storedChunk;
+        stored.MinCommandLength = c.storedMin;
+        stored.DisplayMode = c.storedMode;
+        StoreSettings("Rook", stored);
+        Load("Rook");
+        EXPECT_EQ(profile.Settings.ReceiveChunkSize, c.chunk) << c.storedChunk;
+        EXPECT_EQ(profile.Settings.MinCommandLength, c.min) << c.storedMin;
+        EXPECT_EQ(profile.Settings.DisplayMode, c.mode) << int(c.storedMode);
+        Save("Rook");
+        EXPECT_EQ(StoredSettings("Rook").ReceiveChunkSize, c.chunk);
+    }
+}
+
+TEST_F(ProfileTest, AnEmptyEquipmentCommandComesBackAsItsDefault)
+{
+    Load("Rook");
+    std::strcpy(profile.EquipShield, "");
+    std::strcpy(profile.UnequipShield, "\"\"");
+    std::strcpy(profile.EquipWeapon, "wield axe");
+    Save("Rook");
+    CharacterProfile reloaded;
+    LoadProfile(files, reloaded, parts, "Rook", false);
+    EXPECT_STREQ(reloaded.EquipShield, "ready shield");
+    EXPECT_STREQ(reloaded.UnequipShield, "unready shield");
+    EXPECT_STREQ(reloaded.EquipWeapon, "wield axe");
+    EXPECT_STREQ(reloaded.UnequipWeapon, "unready saber");
+}
+
+TEST_F(ProfileTest, SavingWritesUnderTheGivenNameInOrder)
+{
+    Load("Rook");
+    parts.calls.clear();
+    parts.colors[GAUGE_PAUSE] = {0x11, 0x22, 0x33};
+    Save("Wren");
+    const std::string base = folder.File("Wren");
+    std::vector<std::string> expected = {"Trace Saving data to \"" + base + ".Dat\"\n"};
+    for (const char* key : GAUGE_COLOR_KEYS)
+        expected.push_back(std::string("GetGaugeColors ") + key);
+    expected.push_back("SaveChildWindows " + base + ".Dat");
+    expected.push_back("SaveMacros " + base + ".Macros");
+    expected.push_back("SaveHighlights " + base + ".Highlights " + base + ".Names");
+    EXPECT_EQ(parts.calls, expected);
+    EXPECT_EQ(profile.ProfilePath, Dat("Rook"));
+    GaugeColorBytes pause{};
+    ASSERT_TRUE(ReadBinary(Dat("Wren"), "Colors", "Pause", pause.data(), pause.size()));
+    EXPECT_EQ(GaugeColorsFromBytes(pause).GaugeBackColor, 0x33u);
+}
+
+TEST_F(ProfileTest, CreateOnlyNamesTheProfileAndReadsNothing)
+{
+    EXPECT_FALSE(LoadProfile(files, profile, parts, "Wren", true));
+    EXPECT_STREQ(profile.CurrentCharacter, "Wren");
+    EXPECT_EQ(profile.ProfilePath, Dat("Wren"));
+    EXPECT_TRUE(parts.calls.empty());
+    EXPECT_FALSE(std::filesystem::exists(Dat("Wren")));
+}
+
+TEST_F(ProfileTest, WithoutANameTheLastCharacterIsLoaded)
+{
+    LoadProfile(files, profile, parts, nullptr, true);
+    EXPECT_STREQ(profile.CurrentCharacter, "Default");
+    LoadProfile(files, profile, parts, "Rook", true);
+    WriteLastChar(files, profile);
+    CharacterProfile next;
+    LoadProfile(files, next, parts, nullptr, true);
+    EXPECT_STREQ(next.CurrentCharacter, "Rook");
+    WriteTextFile(files.MainIni, "[History]\nLastChar=\n");
+    LoadProfile(files, next, parts, nullptr, true);
+    EXPECT_STREQ(next.CurrentCharacter, "Default");
+}
+
+TEST_F(ProfileTest, ALongNameIsCutToItsBuffer)
+{
+    const std::string longName(100, 'n');
+    LoadProfile(files, profile, parts, longName.c_str(), true);
+    EXPECT_EQ(std::strlen(profile.CurrentCharacter), CHARACTER_NAME_SIZE - 1);
+}
+
+struct WindowsCase {
+    const char* stored;
+    const char* letters;
+};
+
+TEST_F(ProfileTest, OpenWindowsDefaultsToThoughtAndAFocusedGameWindow)
+{
+    const std::string path = Dat("Rook");
+    EXPECT_EQ(ReadOpenWindows(path), "tG");
+    const WindowsCase cases[] = {
+        {"{none}", "tG"},
+        {"gTa", "gTa"},
+        {"", ""},
+        {"0123456789012345678901234567890123", "012345678901234567890123456789"},
+    };
+    for (const WindowsCase& c : cases) {
+        WriteTextFile(path, std::string("[Windows]\nOpen Windows=") + c.stored + "\n");
+        EXPECT_EQ(ReadOpenWindows(path), c.letters) << c.stored;
+    }
+    WriteOpenWindows(path, "Gat");
+    EXPECT_EQ(ReadOpenWindows(path), "Gat");
+}
+
+} // namespace
+} // namespace steward
