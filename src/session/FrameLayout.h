@@ -1,0 +1,35 @@
+#pragma once
+
+#include "session/Geometry.h"
+
+#include <array>
+#include <cstdint>
+
+namespace steward {
+
+// The panel lies this far out of sight in full-screen mode, still alive and still updated.
+constexpr int HIDDEN_PANEL_TOP = -5000;
+constexpr int TOOL_BUTTON_COUNT = 4;
+constexpr int TOOL_BUTTON_STEP = 26;
+
+// Where everything of the frame lies for one display mode.
+struct FrameLayout {
+    Rect CommandLine;
+    Rect MdiClient;
+    // The panel's vertical origin; in mode 1 it depends on the inner height of the MdiClient,
+    // see PanelTopBelow.
+    int PanelTop = 0;
+    std::array<Point, TOOL_BUTTON_COUNT> ToolButtons{};
+};
+
+// The tool buttons at 26 pixel steps from x.
+std::array<Point, TOOL_BUTTON_COUNT> PlaceToolButtons(int x, int y);
+
+// The frame's client width and height and the height of the CommandLine decide the layout.
+// In mode 1 PanelTop is left 0: the caller adds the MdiClient's inner height with PanelTopBelow.
+FrameLayout LayoutFrame(int width, int height, int commandLineHeight, std::uint8_t displayMode);
+
+// Mode 1 puts the panel below the MdiClient, whose inner height is known after it was moved.
+int PanelTopBelow(int mdiInnerHeight);
+
+} // namespace steward

@@ -1,0 +1,29 @@
+#pragma once
+
+#include <cstddef>
+
+namespace steward {
+
+constexpr std::size_t PATH_SIZE = 256;
+// Numbers tried for the logs of one day.
+constexpr int LAST_LOG_NUMBER = 9998;
+
+struct LocalDate {
+    int Year = 0;
+    int Month = 0;
+    int Day = 0;
+};
+
+class FileProbe {
+  public:
+    virtual ~FileProbe() = default;
+    // True when the file can be opened for reading.
+    virtual bool Exists(const char* path) const = 0;
+};
+
+// "<folder>/Thornmere Log M-DD-YYYY (n).Txt" with the first n from 1 that names no file yet,
+// stopping at LAST_LOG_NUMBER; false when the name would not fit.
+bool DatedLogName(const char* folder, const LocalDate& date, const FileProbe& files,
+                  char (&out)[PATH_SIZE]);
+
+} // namespace steward

@@ -1,0 +1,111 @@
+#include "session/FrameCommand.h"
+#include "session/MenuState.h"
+
+#include <gtest/gtest.h>
+
+namespace steward {
+namespace {
+
+MenuItemState After(const MenuInputs& inputs, int command)
+{
+    MenuState state;
+    state.Update(inputs);
+    return state.Of(command);
+}
+
+TEST(MenuState, ChecksFollowTheOptions)
+{
+    MenuInputs in;
+    in.AutoArrange = false;
+    in.AutoLog = true;
+    EXPECT_FALSE(After(in, CMD_AUTO_ARRANGE).Checked);
+    EXPECT_TRUE(After(in, CMD_AUTO_LOG).Checked);
+    in.AutoArrange = true;
+    in.AutoLog = false;
+    EXPECT_TRUE(After(in, CMD_AUTO_ARRANGE).Checked);
+    EXPECT_FALSE(After(in, CMD_AUTO_LOG).Checked);
+}
+
+TEST(MenuState, OneDisplayModeIsChecked)
+{
+    const int items[] = {CMD_GRAPHICS_AT_TOP, CMD_GRAPHICS_AT_BOTTOM, CMD_FULL_SCREEN};
+    for (std::uint8_t mode = 0; mode < 3; ++mode) {
+        MenuInputs in;
+        in.DisplayMode = mode;
+        for (int i = 0; i < 3; ++i)
+            EXPECT_EQ(After(in, items[i]).Checked, i == mode) << int(mode) << " " << items[i];
+    }
+}
+
+TEST(MenuState, ConnectionItemsFollowTheSocket)
+{
+    MenuInputs in;
+    in.Disconnected = true;
+    EXPECT_TRUE(After(in, CMD_CONNECT).Enabled);
+    EXPECT_FALSE(After(in, CMD_RESET_STEWARD_MODE).Enabled);
+    in.Disconnected = false;
+    EXPECT_FALSE(After(in, CMD_CONNECT).Enabled);
+    EXPECT_TRUE(After(in, CMD_RESET_STEWARD_MODE).Enabled);
+}
+
+TEST(MenuState, CloseLogFollowsTheLog)
+{
+    MenuInputs in;
+    EXPECT_FALSE(After(in, CMD_CLOSE_LOG).Enabled);
+    in.LogOpen = true;
+    EXPECT_TRUE(After(in, CMD_CLOSE_LOG).Enabled);
+}
+
+struct EditCase {
+    bool lineSelection;
+    bool childSelection;
+    bool clipboard;
+    bool cut;
+    bool copy;
+    bool paste;
+};
+
+TEST(MenuState, EditItemsFollowSelectionsAndClipboard)
+{
+    const EditCase cases[] = {
+        {false, false, false, false, false, false},
+        {true, false, false, true, true, false},
+        {false, true, false, false, true, false},
+        {false, false, true, false, false, true},
+        {true, true, true, true, true, true},
+    };
+    for (const EditCase& c : cases) {
+        MenuInputs in;
+        in.CommandLineHasSelection = c.lineSelection;
+        in.ActiveChildHasSelection = c.childSelection;
+        in.ClipboardHasText = c.clipboard;
+        EXPECT_EQ(After(in, CMD_CUT).Enabled, c.cut);
+        EXPECT_EQ(After(in, CMD_CLEAR).Enabled, c.cut);
+        EXPECT_EQ(After(in, CMD_COPY).Enabled, c.copy);
+        EXPECT_EQ(After(in, CMD_PASTE).Enabled, c.paste);
+    }
+}
+
+TEST(MenuState, OpenWindowItemsAreGreyWhileTheirWindowIsOpen)
+{
+    MenuInputs in;
+    in.GameWindowOpen = true;
+    in.ArrivalWindowOpen = true;
+    EXPECT_FALSE(After(in, CMD_OPEN_GAME_WINDOW).Enabled);
+    EXPECT_TRUE(After(in, CMD_OPEN_THOUGHT_WINDOW).Enabled);
+    EXPECT_FALSE(After(in, CMD_OPEN_ARRIVAL_WINDOW).Enabled);
+}
+
+TEST(MenuState, CommandsOfLaterPartsStayGrey)
+{
+    MenuInputs in;
+    in.LogOpen = false;
+    EXPECT_FALSE(After(in, CMD_OPEN_LOG).Enabled);
+    EXPECT_FALSE(After(in, CMD_ABOUT).Enabled);
+    EXPECT_FALSE(After(in, CMD_EXECUTE_SCRIPT).Enabled);
+    EXPECT_TRUE(After(in, CMD_INFO_GENERAL).Enabled);
+    EXPECT_TRUE(After(in, CMD_EXIT).Enabled);
+}
+
+} // namespace
+} // namespace steward
