@@ -10,34 +10,36 @@ namespace steward {
 namespace {
 
 constexpr std::array<FixedTextCommand, 19> FIXED_TEXTS = {{
-    {40006, "info"},
-    {40007, "info crimes"},
-    {40008, "inv"},
-    {40009, "info languages"},
-    {40010, "info magick"},
-    {40011, "info martialarts"},
-    {40012, "info money"},
-    {40013, "info psionics"},
-    {40014, "info religion"},
-    {40015, "info runespells"},
-    {40016, "skills"},
-    {40017, "spells"},
-    {40018, "info vis"},
-    {40019, "full"},
-    {40020, "brief"},
-    {40021, "superbrief"},
-    {40022, "time"},
-    {40023, "weather"},
+    {40006, "info"},          {40007, "info crimes"},
+    {40008, "inv"},           {40009, "info languages"},
+    {40010, "info magick"},   {40011, "info martialarts"},
+    {40012, "info money"},    {40013, "info psionics"},
+    {40014, "info religion"}, {40015, "info runespells"},
+    {40016, "skills"},        {40017, "spells"},
+    {40018, "info vis"},      {40019, "full"},
+    {40020, "brief"},         {40021, "superbrief"},
+    {40022, "time"},          {40023, "weather"},
     {40024, "world"},
 }};
 
-constexpr std::array<int, 19> LATER_COMMANDS = {
-    CMD_HIGHLIGHT_STRINGS,  CMD_ABOUT,           CMD_OPTIONS,
-    CMD_MACRO_KEYS,         CMD_NEW_CHARACTER,   CMD_STOP_SCRIPT,
-    CMD_CREATE_SCRIPT,      CMD_EXECUTE_SCRIPT,  CMD_RECORD_SCRIPT,
-    CMD_EDIT_SCRIPT,        CMD_STOP_RECORDING,  CMD_OPEN_LOG,
-    CMD_COPY_TO_STRING_HIGHLIGHTS, CMD_COPY_TO_NAME_HIGHLIGHTS, CMD_HOME_PAGE,
-    CMD_MESSAGE_BOARD,      CMD_DRAG_SOMEONE,    CMD_STOP_DRAGGING,
+constexpr std::array<int, 18> LATER_COMMANDS = {
+    CMD_HIGHLIGHT_STRINGS,
+    CMD_ABOUT,
+    CMD_OPTIONS,
+    CMD_MACRO_KEYS,
+    CMD_NEW_CHARACTER,
+    CMD_STOP_SCRIPT,
+    CMD_CREATE_SCRIPT,
+    CMD_EXECUTE_SCRIPT,
+    CMD_RECORD_SCRIPT,
+    CMD_EDIT_SCRIPT,
+    CMD_STOP_RECORDING,
+    CMD_COPY_TO_STRING_HIGHLIGHTS,
+    CMD_COPY_TO_NAME_HIGHLIGHTS,
+    CMD_HOME_PAGE,
+    CMD_MESSAGE_BOARD,
+    CMD_DRAG_SOMEONE,
+    CMD_STOP_DRAGGING,
     CMD_COPY_TO_COMMAND_LINE,
 };
 
@@ -58,8 +60,7 @@ const char* FindFixedText(int command)
 
 bool IsCommandAvailable(int command)
 {
-    return std::find(LATER_COMMANDS.begin(), LATER_COMMANDS.end(), command) ==
-           LATER_COMMANDS.end();
+    return std::find(LATER_COMMANDS.begin(), LATER_COMMANDS.end(), command) == LATER_COMMANDS.end();
 }
 
 } // namespace steward

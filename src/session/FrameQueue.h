@@ -5,7 +5,7 @@ namespace steward {
 // The frame's message queue as core sees it: posted work runs when the main loop next
 // turns, after the block being handled is finished.
 class FrameQueue {
-public:
+  public:
     virtual ~FrameQueue() = default;
 
     // Posts a numbered frame command (see FrameCommand.h).

@@ -18,18 +18,30 @@ constexpr MenuItem Sub(const char* text)
 constexpr MenuItem END_SUB = {MenuItemKind::EndSubmenu, 0, nullptr};
 
 constexpr std::array FILE_MENU = {
-    Item(998, "Open Log File..."),     Item(999, "Close Log File"),  SEPARATOR,
-    Item(874, "Auto-Log Each Session"), SEPARATOR,                   Item(601, "Run Notepad..."),
-    SEPARATOR,                          Item(40003, "Connect to the Game"),
-    Item(844, "Reset Steward Mode"),    SEPARATOR,                   Item(110, "Exit"),
+    Item(998, "Open Log File..."),
+    Item(999, "Close Log File"),
+    SEPARATOR,
+    Item(874, "Auto-Log Each Session"),
+    SEPARATOR,
+    Item(601, "Run Notepad..."),
+    SEPARATOR,
+    Item(40003, "Connect to the Game"),
+    Item(844, "Reset Steward Mode"),
+    SEPARATOR,
+    Item(110, "Exit"),
 };
 
 constexpr std::array EDIT_MENU = {
-    Item(1100, "Cut\tShift-Delete"),   Item(1101, "Copy\tCtrl-Insert"),
-    Item(1102, "Clear\tCtrl-Delete"),  Item(1103, "Paste\tShift-Insert"),
-    SEPARATOR,                         Sub("Copy Special"),
-    Item(1104, "to String Highlights"), Item(1105, "to Name Highlights"),
-    SEPARATOR,                         Item(1106, "to Command Line"),
+    Item(1100, "Cut\tShift-Delete"),
+    Item(1101, "Copy\tCtrl-Insert"),
+    Item(1102, "Clear\tCtrl-Delete"),
+    Item(1103, "Paste\tShift-Insert"),
+    SEPARATOR,
+    Sub("Copy Special"),
+    Item(1104, "to String Highlights"),
+    Item(1105, "to Name Highlights"),
+    SEPARATOR,
+    Item(1106, "to Command Line"),
     END_SUB,
 };
 
@@ -48,14 +60,30 @@ constexpr std::array CONFIGURATION_MENU = {
 };
 
 constexpr std::array INFO_MENU = {
-    Item(40006, "&General"),      Item(40007, "&Crimes"),     Item(40008, "&Inventory"),
-    Item(40009, "&Languages"),    Item(40010, "&Magick"),     Item(40011, "M&artial Arts"),
-    Item(40012, "M&oney"),        Item(40013, "&Psionics"),   Item(40014, "&Religion"),
-    Item(40015, "R&unespells"),   Item(40016, "&Skills"),     Item(40017, "S&pells"),
-    Item(40018, "&Visualizations"), SEPARATOR,                Sub("Room Descrip&tions"),
-    Item(40019, "&Full"),         Item(40020, "&Brief"),      Item(40021, "&SuperBrief"),
-    END_SUB,                      Sub("Ot&her"),              Item(40022, "&Time"),
-    Item(40023, "&Weather"),      Item(40024, "W&orld"),      END_SUB,
+    Item(40006, "&General"),
+    Item(40007, "&Crimes"),
+    Item(40008, "&Inventory"),
+    Item(40009, "&Languages"),
+    Item(40010, "&Magick"),
+    Item(40011, "M&artial Arts"),
+    Item(40012, "M&oney"),
+    Item(40013, "&Psionics"),
+    Item(40014, "&Religion"),
+    Item(40015, "R&unespells"),
+    Item(40016, "&Skills"),
+    Item(40017, "S&pells"),
+    Item(40018, "&Visualizations"),
+    SEPARATOR,
+    Sub("Room Descrip&tions"),
+    Item(40019, "&Full"),
+    Item(40020, "&Brief"),
+    Item(40021, "&SuperBrief"),
+    END_SUB,
+    Sub("Ot&her"),
+    Item(40022, "&Time"),
+    Item(40023, "&Weather"),
+    Item(40024, "W&orld"),
+    END_SUB,
 };
 
 constexpr std::array DRAGGING_MENU = {
@@ -65,10 +93,14 @@ constexpr std::array DRAGGING_MENU = {
 };
 
 constexpr std::array SCRIPTS_MENU = {
-    Item(951, "E&xecute a Script..."), Item(942, "&Stop Script"),
-    SEPARATOR,                         Item(952, "&Record a Script..."),
-    Item(954, "S&top Recording"),      SEPARATOR,
-    Item(953, "&Edit a Script..."),    Item(947, "&Create a New Script..."),
+    Item(951, "E&xecute a Script..."),
+    Item(942, "&Stop Script"),
+    SEPARATOR,
+    Item(952, "&Record a Script..."),
+    Item(954, "S&top Recording"),
+    SEPARATOR,
+    Item(953, "&Edit a Script..."),
+    Item(947, "&Create a New Script..."),
 };
 
 constexpr std::array WINDOW_MENU = {

@@ -7,7 +7,7 @@ namespace steward {
 enum class MenuItemKind {
     Command,
     Separator,
-    Submenu,    // opens a submenu with this text; the items up to its EndSubmenu belong to it
+    Submenu, // opens a submenu with this text; the items up to its EndSubmenu belong to it
     EndSubmenu,
     WindowList, // the list of open child windows that the window system keeps
 };

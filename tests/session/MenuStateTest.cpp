@@ -1,5 +1,5 @@
-#include "session/FrameCommand.h"
 #include "session/MenuState.h"
+#include "session/FrameCommand.h"
 
 #include <gtest/gtest.h>
 
@@ -48,11 +48,13 @@ TEST(MenuState, ConnectionItemsFollowTheSocket)
     EXPECT_TRUE(After(in, CMD_RESET_STEWARD_MODE).Enabled);
 }
 
-TEST(MenuState, CloseLogFollowsTheLog)
+TEST(MenuState, LogItemsFollowTheLog)
 {
     MenuInputs in;
+    EXPECT_TRUE(After(in, CMD_OPEN_LOG).Enabled);
     EXPECT_FALSE(After(in, CMD_CLOSE_LOG).Enabled);
     in.LogOpen = true;
+    EXPECT_FALSE(After(in, CMD_OPEN_LOG).Enabled);
     EXPECT_TRUE(After(in, CMD_CLOSE_LOG).Enabled);
 }
 
@@ -68,10 +70,8 @@ struct EditCase {
 TEST(MenuState, EditItemsFollowSelectionsAndClipboard)
 {
     const EditCase cases[] = {
-        {false, false, false, false, false, false},
-        {true, false, false, true, true, false},
-        {false, true, false, false, true, false},
-        {false, false, true, false, false, true},
+        {false, false, false, false, false, false}, {true, false, false, true, true, false},
+        {false, true, false, false, true, false},   {false, false, true, false, false, true},
         {true, true, true, true, true, true},
     };
     for (const EditCase& c : cases) {
@@ -99,8 +99,6 @@ TEST(MenuState, OpenWindowItemsAreGreyWhileTheirWindowIsOpen)
 TEST(MenuState, CommandsOfLaterPartsStayGrey)
 {
     MenuInputs in;
-    in.LogOpen = false;
-    EXPECT_FALSE(After(in, CMD_OPEN_LOG).Enabled);
     EXPECT_FALSE(After(in, CMD_ABOUT).Enabled);
     EXPECT_FALSE(After(in, CMD_EXECUTE_SCRIPT).Enabled);
     EXPECT_TRUE(After(in, CMD_INFO_GENERAL).Enabled);

@@ -1,0 +1,139 @@
+#include "connection/qt/QtGameSocket.h"
+
+#include <QHostAddress>
+#include <QTcpServer>
+#include <QTcpSocket>
+#include <QTest>
+
+#include <gtest/gtest.h>
+
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace steward {
+namespace {
+
+class RecordingListener : public SocketListener {
+  public:
+    std::size_t BlockSize() const override { return blockSize; }
+    void ReceiveBlock(const char* bytes, std::size_t length) override
+    {
+        blocks.emplace_back(bytes, length);
+    }
+    void ConnectionClosed() override { ++closed; }
+
+    std::string All() const
+    {
+        std::string all;
+        for (const std::string& b : blocks)
+            all += b;
+        return all;
+    }
+
+    std::size_t blockSize = 1024;
+    std::vector<std::string> blocks;
+    int closed = 0;
+};
+
+class QtGameSocketTest : public ::testing::Test {
+  protected:
+    void SetUp() override { ASSERT_TRUE(server.listen(QHostAddress::LocalHost, 0)); }
+
+    bool OpenAndAccept()
+    {
+        if (!socket.Open("127.0.0.1", server.serverPort(), 5000))
+            return false;
+        if (!server.waitForNewConnection(5000))
+            return false;
+        peer.reset(server.nextPendingConnection());
+        return peer != nullptr;
+    }
+
+    QTcpServer server;
+    std::unique_ptr<QTcpSocket> peer;
+    RecordingListener listener;
+    QtGameSocket socket{listener};
+};
+
+TEST_F(QtGameSocketTest, ConnectsToAListenerOnLoopback)
+{
+    EXPECT_TRUE(OpenAndAccept());
+}
+
+TEST(QtGameSocket, ClosedPortFails)
+{
+    quint16 port = 0;
+    {
+        QTcpServer probe;
+        ASSERT_TRUE(probe.listen(QHostAddress::LocalHost, 0));
+        port = probe.serverPort();
+    }
+    RecordingListener listener;
+    QtGameSocket socket{listener};
+    EXPECT_FALSE(socket.Open("127.0.0.1", port, 5000));
+}
+
+TEST_F(QtGameSocketTest, ReadsOneBlockPerTurnNoLargerThanAsked)
+{
+    ASSERT_TRUE(OpenAndAccept());
+    listener.blockSize = 256;
+    std::string sent(1000, 'a');
+    peer->write(sent.data(), static_cast<qint64>(sent.size()));
+    peer->flush();
+    ASSERT_TRUE(QTest::qWaitFor([&] { return listener.All().size() == sent.size(); }, 5000));
+    for (const std::string& block : listener.blocks)
+        EXPECT_LE(block.size(), 256u);
+    EXPECT_GE(listener.blocks.size(), 4u);
+    EXPECT_EQ(listener.All(), sent);
+}
+
+TEST_F(QtGameSocketTest, WritesReachThePeerAsGiven)
+{
+    ASSERT_TRUE(OpenAndAccept());
+    socket.Write("look\n\r", 6);
+    QByteArray got;
+    ASSERT_TRUE(QTest::qWaitFor(
+        [&] {
+            got += peer->readAll();
+            return got.size() >= 6;
+        },
+        5000));
+    EXPECT_EQ(got, QByteArray("look\n\r"));
+}
+
+TEST_F(QtGameSocketTest, DropComesAfterTheLastReceivedBytes)
+{
+    ASSERT_TRUE(OpenAndAccept());
+    listener.blockSize = 16;
+    std::string last(100, 'z');
+    peer->write(last.data(), static_cast<qint64>(last.size()));
+    peer->flush();
+    peer->disconnectFromHost();
+    ASSERT_TRUE(QTest::qWaitFor([&] { return listener.closed == 1; }, 5000));
+    EXPECT_EQ(listener.All(), last);
+    socket.Write("x", 1);
+    QTest::qWait(20);
+    EXPECT_EQ(listener.closed, 1);
+}
+
+TEST_F(QtGameSocketTest, OwnCloseIsNoDropAndSendsWhatWasQueued)
+{
+    ASSERT_TRUE(OpenAndAccept());
+    socket.Write("quit\n\r", 6);
+    socket.Close();
+    socket.Close();
+    QByteArray got;
+    ASSERT_TRUE(QTest::qWaitFor(
+        [&] {
+            got += peer->readAll();
+            return got.size() >= 6;
+        },
+        5000));
+    EXPECT_EQ(got, QByteArray("quit\n\r"));
+    QTest::qWait(20);
+    EXPECT_EQ(listener.closed, 0);
+}
+
+} // namespace
+} // namespace steward
