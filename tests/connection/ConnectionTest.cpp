@@ -1,6 +1,7 @@
 #include "connection/Connection.h"
 #include "connection/GameLineSink.h"
 #include "connection/GameSocket.h"
+#include "config/Settings.h"
 #include "connection/StreamDecoder.h"
 
 #include <gtest/gtest.h>
@@ -39,8 +40,8 @@ class ConnectionTest : public ::testing::Test {
     RecordingSocket socket;
     RecordingLines lines;
     PacketDump dump;
-    ReceiveOptions options;
-    StreamDecoder decoder{lines, dump, options};
+    Settings settings;
+    StreamDecoder decoder{lines, dump, settings};
     Connection connection{socket, decoder};
 };
 
