@@ -78,7 +78,12 @@ IniFile IniFile::Load(const std::string& path)
     std::ifstream in(path, std::ios::binary);
     if (!in)
         return {};
-    std::string text(INI_FILE_MAX, '\0');
+    in.seekg(0, std::ios::end);
+    const std::streamoff size = in.tellg();
+    in.seekg(0, std::ios::beg);
+    if (size <= 0)
+        return {};
+    std::string text(std::min(static_cast<std::size_t>(size), INI_FILE_MAX), '\0');
     in.read(text.data(), static_cast<std::streamsize>(text.size()));
     text.resize(static_cast<std::size_t>(in.gcount()));
     return Parse(text);

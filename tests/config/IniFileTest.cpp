@@ -4,6 +4,8 @@
 
 #include <gtest/gtest.h>
 
+#include <random>
+
 namespace steward {
 namespace {
 
@@ -54,6 +56,22 @@ TEST(IniFileRead, GarbageNeverStopsTheRead)
     EXPECT_EQ(ini.Get("S", "k"), "v");
 }
 
+TEST(IniFileRead, RandomBytesNeverBreakAReadOrAnEdit)
+{
+    std::mt19937 random(7);
+    const char alphabet[] = "[]=;\"' \t\r\nabcSk\x80\xff";
+    for (int round = 0; round < 200; ++round) {
+        std::string text(random() % 300, '\0');
+        for (char& c : text)
+            c = alphabet[random() % (sizeof alphabet - 1)];
+        IniFile ini = IniFile::Parse(text);
+        ini.Get("S", "k");
+        ini.Set("S", "k", "v");
+        EXPECT_EQ(IniFile::Parse(ini.Text()).Get("S", "k"), "v") << text;
+        EXPECT_TRUE(ini.Remove("S", "k"));
+    }
+}
+
 TEST(IniFileRead, AHugeLineIsCutAtItsLimit)
 {
     const std::string huge = "[S]\nk=" + std::string(INI_LINE_MAX * 3, 'x') + "\nj=after\n";
@@ -72,6 +90,20 @@ TEST(IniFileFiles, AMissingFileReadsAsEmptyAndWritingCreatesIt)
     ASSERT_TRUE(ini.Save(path));
     EXPECT_EQ(ReadTextFile(path), "[S]\nk=v\n");
     EXPECT_FALSE(std::filesystem::exists(path + ".tmp"));
+}
+
+TEST(IniFileFiles, OnlyTheFirstMegabyteIsRead)
+{
+    TempFolder folder;
+    const std::string path = folder.File("Big.Ini");
+    const std::string filler(INI_LINE_MAX - 1, ';');
+    std::string text = "[S]\nfirst=1\n";
+    while (text.size() < INI_FILE_MAX)
+        text += filler + "\n";
+    WriteTextFile(path, text + "last=2\n");
+    const IniFile ini = IniFile::Load(path);
+    EXPECT_EQ(ini.Get("S", "first"), "1");
+    EXPECT_EQ(ini.Get("S", "last"), std::nullopt);
 }
 
 TEST(IniFileFiles, SavingIntoAMissingFolderFails)
