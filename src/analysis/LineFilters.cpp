@@ -1,6 +1,7 @@
 #include "analysis/ByteText.h"
 #include "analysis/LinePipeline.h"
 
+#include "config/Settings.h"
 #include "panels/StatusPanel.h"
 #include "scripts/ScriptWait.h"
 #include "session/ChildWindows.h"

@@ -1,6 +1,8 @@
 #include "analysis/LinePipeline.h"
 
 #include "analysis/ByteText.h"
+#include "config/BufferedLog.h"
+#include "config/Settings.h"
 #include "connection/ColorCode.h"
 #include "scripts/ScriptWait.h"
 #include "session/ChildWindows.h"
@@ -24,7 +26,7 @@ bool IsHiddenByte(char c)
 } // namespace
 
 LinePipeline::LinePipeline(const Parts& parts)
-    : host_(parts.Host), options_(parts.Options), windows_(parts.Windows), queue_(parts.Queue),
+    : host_(parts.Host), options_(parts.Options), sessionLog_(parts.SessionLog), windows_(parts.Windows), queue_(parts.Queue),
       script_(parts.Script), panel_(parts.Panel), clock_(parts.Clock), frame_(parts.Frame),
       ColoredCopy(new char[LINE_COPY_SIZE]()), PlainCopy(new char[LINE_COPY_SIZE]())
 {
@@ -52,7 +54,7 @@ void LinePipeline::ProcessGameLine(const char* text)
         ParseStatusRecord(PlainCopy.get());
         return;
     }
-    host_.WriteSessionLog(PlainCopy.get());
+    sessionLog_.Write(PlainCopy.get());
     if (StartsWith(PlainCopy.get(), " **") && HandleStarLine(ColoredCopy.get(), LINE_COPY_SIZE))
         return;
     if (CompressThought(PlainCopy.get()))
@@ -89,7 +91,7 @@ void LinePipeline::EchoCommand(const char* text)
 {
     if (!options_.LocalEcho)
         return;
-    host_.WriteSessionLog(text);
+    sessionLog_.Write(text);
     prompt_.EchoPending = true;
     if (!windows_.GameWindow)
         return;

@@ -2,6 +2,7 @@
 
 #include "analysis/LineHost.h"
 #include "analysis/PromptState.h"
+#include "connection/GameLineSink.h"
 
 #include <cstddef>
 #include <cstdint>
@@ -10,10 +11,12 @@
 namespace steward {
 
 class AnsiWindow;
+class BufferedLog;
 class CountdownListener;
 class FrameQueue;
 class Gauge;
 struct ChildWindows;
+struct Settings;
 struct ScriptWaitState;
 struct StatusPanel;
 
@@ -35,11 +38,12 @@ void SetGaugeValues(Gauge& gauge, std::int32_t minimum, std::int32_t maximum, st
 void TrimLineEnd(char* text);
 
 // The fixed order of work on each received line, and the one road into the text windows.
-class LinePipeline {
+class LinePipeline : public GameLineSink {
   public:
     struct Parts {
         LineHost& Host;
-        const LineOptions& Options;
+        const Settings& Options;
+        BufferedLog& SessionLog;
         const ChildWindows& Windows;
         FrameQueue& Queue;
         ScriptWaitState& Script;
@@ -51,7 +55,7 @@ class LinePipeline {
     explicit LinePipeline(const Parts& parts);
 
     // Entry of the pipeline for every decoded text.
-    void ProcessGameLine(const char* text);
+    void ProcessGameLine(const char* text) override;
     void ShowGameLine(char* line);
     // Filters the writable text in place (it must have room up to capacity), then appends it.
     void SendToWindow(AnsiWindow* window, char* text, std::size_t capacity);
@@ -78,7 +82,8 @@ class LinePipeline {
     void ParseExits(const char* text);
 
     LineHost& host_;
-    const LineOptions& options_;
+    const Settings& options_;
+    BufferedLog& sessionLog_;
     const ChildWindows& windows_;
     FrameQueue& queue_;
     ScriptWaitState& script_;

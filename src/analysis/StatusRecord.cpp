@@ -1,5 +1,7 @@
 #include "analysis/LinePipeline.h"
 
+#include "config/BufferedLog.h"
+#include "config/Settings.h"
 #include "panels/StatusPanel.h"
 #include "scripts/ScriptWait.h"
 #include "session/ChildWindows.h"
@@ -128,7 +130,7 @@ void LinePipeline::ParseStatusRecord(const char* text)
         std::snprintf(prompt, sizeof prompt, "%c", text[PROMPT_CHAR]);
     PrintToWindow(windows_.GameWindow, prompt);
     prompt_.PromptPending = true;
-    host_.WriteSessionLog(prompt);
+    sessionLog_.Write(prompt);
     if (script_.ScriptWait == WAIT_PROMPT)
         script_.ScriptWait = WAIT_NONE;
 }

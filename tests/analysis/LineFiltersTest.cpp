@@ -66,7 +66,7 @@ TEST_F(FilterTest, DelayLinesStartTheRoundTime)
                  {"\x82[12 sec. delay]\r\n", 0}};
     for (const auto& c : cases) {
         StatusPanel fresh;
-        LinePipeline local{{host, options, windows, queue, script, fresh, clock, nullptr}};
+        LinePipeline local{{host, options, sessionLog, windows, queue, script, fresh, clock, nullptr}};
         char buffer[64];
         std::snprintf(buffer, sizeof buffer, "%s", c.line);
         local.FilterLine(buffer, sizeof buffer);
@@ -134,7 +134,7 @@ TEST_F(PipelineTest, ThoughtsGoToTheThoughtWindowTrimmedAndWithoutTheirBell)
     EXPECT_EQ(In(Thought()), (Texts{"\r\n", "[Mara]: \"Hello\""}));
     EXPECT_TRUE(In(Game()).empty());
     EXPECT_TRUE(pipeline.Prompt().PromptPending);
-    EXPECT_EQ(host.log, Texts{"You pick up Mara's thoughts, \"Hello\"\r\n"});
+    EXPECT_EQ(Logged(), "You pick up Mara's thoughts, \"Hello\"\r\n");
 }
 
 TEST_F(PipelineTest, ThoughtPatternsBuildTheirCompactForms)

@@ -1,10 +1,13 @@
 #pragma once
 
 #include "analysis/LinePipeline.h"
+#include "config/BufferedLog.h"
+#include "config/Settings.h"
 #include "panels/StatusPanel.h"
 #include "scripts/ScriptWait.h"
 #include "session/ChildWindows.h"
 #include "session/FrameQueue.h"
+#include "support/TempFolder.h"
 
 #include <gtest/gtest.h>
 
@@ -32,7 +35,6 @@ class RecordingHost : public LineHost {
     {
         appended.push_back({&window, text});
     }
-    void WriteSessionLog(const char* text) override { log.emplace_back(text); }
     void ApplyHighlights(char* text, std::size_t capacity) override
     {
         highlighted.emplace_back(text);
@@ -47,7 +49,6 @@ class RecordingHost : public LineHost {
     }
 
     std::vector<Appended> appended;
-    std::vector<std::string> log;
     std::vector<std::string> highlighted;
     std::vector<std::string> names;
     std::size_t lastCapacity = 0;
@@ -69,7 +70,11 @@ class FixedClock : public LocalClock {
 
 class PipelineTest : public ::testing::Test {
   protected:
-    PipelineTest() { windows.GameWindow = Game(); }
+    PipelineTest()
+    {
+        windows.GameWindow = Game();
+        sessionLog.OpenNew(logPath.c_str());
+    }
 
     AnsiWindow* Game() { return reinterpret_cast<AnsiWindow*>(tags.game); }
     AnsiWindow* Thought() { return reinterpret_cast<AnsiWindow*>(tags.thought); }
@@ -85,15 +90,25 @@ class PipelineTest : public ::testing::Test {
         return texts;
     }
 
+    // Everything the session log took so far.
+    std::string Logged()
+    {
+        sessionLog.Flush();
+        return ReadBytes(logPath);
+    }
+
     WindowTags tags;
     RecordingHost host;
     RecordingQueue queue;
     FixedClock clock;
-    LineOptions options;
+    Settings options;
+    TempFolder folder;
+    std::string logPath = folder.File("Session.Log");
+    BufferedLog sessionLog;
     ChildWindows windows;
     ScriptWaitState script;
     StatusPanel panel;
-    LinePipeline pipeline{{host, options, windows, queue, script, panel, clock, nullptr}};
+    LinePipeline pipeline{{host, options, sessionLog, windows, queue, script, panel, clock, nullptr}};
 };
 
 } // namespace steward::testing

@@ -85,7 +85,7 @@ TEST_F(PipelineTest, ARecordWithoutTheClosingEscIsDroppedSilently)
     script.ScriptWait = WAIT_PROMPT;
     pipeline.ProcessGameLine(text.c_str());
     EXPECT_TRUE(host.appended.empty());
-    EXPECT_TRUE(host.log.empty());
+    EXPECT_EQ(Logged(), "");
     EXPECT_EQ(script.ScriptWait, WAIT_PROMPT);
     EXPECT_TRUE(pipeline.StatusModeWasRequested());
 }
@@ -97,7 +97,7 @@ TEST_F(PipelineTest, TheRecordPrintsAndLogsItsPrompt)
     line += Record(Fields);
     pipeline.ProcessGameLine(line.c_str());
     EXPECT_EQ(In(Game()), std::vector<std::string>{">"});
-    EXPECT_EQ(host.log, std::vector<std::string>{">"});
+    EXPECT_EQ(Logged(), ">");
     EXPECT_TRUE(pipeline.Prompt().PromptPending);
     EXPECT_EQ(script.ScriptWait, WAIT_NONE);
 }
@@ -134,7 +134,7 @@ TEST_F(PipelineTest, RoundTimeFieldHoldsSecondsPlusOneCappedAtSixty)
                  {"3D", true, 60000}, {"7F", true, 60000}, {"80", false, 0}};
     for (const auto& c : cases) {
         StatusPanel fresh;
-        LinePipeline local{{host, options, windows, queue, script, fresh, clock, nullptr}};
+        LinePipeline local{{host, options, sessionLog, windows, queue, script, fresh, clock, nullptr}};
         std::string fields = Fields;
         fields.replace(62, 2, c.field);
         local.ProcessGameLine(Record(fields).c_str());
