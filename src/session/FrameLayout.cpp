@@ -2,9 +2,9 @@
 
 namespace steward {
 
-std::array<Point, TOOL_BUTTON_COUNT> PlaceToolButtons(int x, int y)
+std::array<Corner, TOOL_BUTTON_COUNT> PlaceToolButtons(int x, int y)
 {
-    std::array<Point, TOOL_BUTTON_COUNT> places{};
+    std::array<Corner, TOOL_BUTTON_COUNT> places{};
     for (int i = 0; i < TOOL_BUTTON_COUNT; ++i)
         places[i] = {x + i * TOOL_BUTTON_STEP, y};
     return places;

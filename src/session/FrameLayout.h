@@ -14,16 +14,16 @@ constexpr int TOOL_BUTTON_STEP = 26;
 
 // Where everything of the frame lies for one display mode.
 struct FrameLayout {
-    Rect CommandLine;
-    Rect MdiClient;
+    Area CommandLine;
+    Area MdiClient;
     // The panel's vertical origin; in mode 1 it depends on the inner height of the MdiClient,
     // see PanelTopBelow.
     int PanelTop = 0;
-    std::array<Point, TOOL_BUTTON_COUNT> ToolButtons{};
+    std::array<Corner, TOOL_BUTTON_COUNT> ToolButtons{};
 };
 
 // The tool buttons at 26 pixel steps from x.
-std::array<Point, TOOL_BUTTON_COUNT> PlaceToolButtons(int x, int y);
+std::array<Corner, TOOL_BUTTON_COUNT> PlaceToolButtons(int x, int y);
 
 // The frame's client width and height and the height of the CommandLine decide the layout.
 // In mode 1 PanelTop is left 0: the caller adds the MdiClient's inner height with PanelTopBelow.

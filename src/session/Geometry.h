@@ -2,21 +2,22 @@
 
 namespace steward {
 
-// A rectangle in pixels of its parent's client area.
-struct Rect {
+// A rectangle in pixels of its parent's client area, by corner and size.
+struct Area {
     int X = 0;
     int Y = 0;
     int Width = 0;
     int Height = 0;
 
-    friend bool operator==(const Rect&, const Rect&) = default;
+    friend bool operator==(const Area&, const Area&) = default;
 };
 
-struct Point {
+// A point in pixels of its parent's client area.
+struct Corner {
     int X = 0;
     int Y = 0;
 
-    friend bool operator==(const Point&, const Point&) = default;
+    friend bool operator==(const Corner&, const Corner&) = default;
 };
 
 } // namespace steward

@@ -1,7 +1,6 @@
 #include "session/WindowArrangement.h"
 
 #include <cctype>
-#include <cstring>
 
 namespace steward {
 
@@ -42,13 +41,13 @@ void ArrangeWindows(ChildWindowHost& host, bool force, bool autoArrange)
     if (count == 0)
         return;
 
-    Point client = host.ClientSize();
-    int band = client.Y / 4;
+    Area client = host.ClientArea();
+    int band = client.Height / 4;
     if (count > 1) {
-        int column = client.X / (count - 1);
+        int column = client.Width / (count - 1);
         for (int i = 1; i < count; ++i)
             host.Move(listed[i], {(i - 1) * column, 0, column, band});
-        host.Move(listed[0], {0, band, client.X, client.Y - band});
+        host.Move(listed[0], {0, band, client.Width, client.Height - band});
     } else {
         host.Maximise(listed[0]);
     }
@@ -58,31 +57,28 @@ void ArrangeWindows(ChildWindowHost& host, bool force, bool autoArrange)
     host.FocusCommandLine();
 }
 
-Rect ChildCreationRect(bool autoArrange, int openCount)
+Area ChildCreationRect(bool autoArrange, int openCount)
 {
     if (autoArrange)
         return {1, 1, 100, 100};
     return {25 * openCount, 25 * openCount, 400, 200};
 }
 
-void OpenWindowsLetters(const std::array<bool, WINDOW_ROWS>& open, int activeRow,
-                        char (&out)[OPEN_WINDOWS_SIZE])
+std::string OpenWindowsLetters(const std::array<bool, WINDOW_ROWS>& open, int activeRow)
 {
-    std::size_t n = 0;
+    std::string letters;
     for (const WindowTableRow& row : WindowTable) {
         if (!open[row.Row])
             continue;
         bool active = row.Row == activeRow;
-        out[n++] = active ? static_cast<char>(std::toupper(row.Letter)) : row.Letter;
+        letters += active ? static_cast<char>(std::toupper(row.Letter)) : row.Letter;
     }
-    out[n] = '\0';
+    return letters;
 }
 
 RestorePlan PlanRestore(const char* letters)
 {
     RestorePlan plan;
-    if (std::strcmp(letters, NO_OPEN_WINDOWS) == 0)
-        letters = DEFAULT_OPEN_WINDOWS;
     const WindowTableRow* last = nullptr;
     for (const char* c = letters; *c; ++c) {
         const WindowTableRow* row = FindLetter(*c);

@@ -7,7 +7,7 @@ namespace {
 
 struct LayoutCase {
     std::uint8_t mode;
-    Rect mdi;
+    Area mdi;
     int panelTop;
 };
 
@@ -31,9 +31,9 @@ TEST(LayoutFrame, CommandLineAndToolButtonsKeepToTheBottomInEveryMode)
 {
     for (std::uint8_t mode = 0; mode < 3; ++mode) {
         FrameLayout layout = LayoutFrame(800, 600, 20, mode);
-        EXPECT_EQ(layout.CommandLine, (Rect{6, 576, 680, 20}));
-        EXPECT_EQ(layout.ToolButtons[0], (Point{692, 574}));
-        EXPECT_EQ(layout.ToolButtons[3], (Point{692 + 3 * 26, 574}));
+        EXPECT_EQ(layout.CommandLine, (Area{6, 576, 680, 20}));
+        EXPECT_EQ(layout.ToolButtons[0], (Corner{692, 574}));
+        EXPECT_EQ(layout.ToolButtons[3], (Corner{692 + 3 * 26, 574}));
     }
 }
 
