@@ -1,6 +1,7 @@
 #pragma once
 
 #include "panels/Gauge.h"
+#include "panels/StatusPanel.h"
 
 #include <cstddef>
 #include <string>
@@ -23,6 +24,9 @@ constexpr std::size_t PROFILE_GAUGE_COUNT = 7;
 constexpr const char* GAUGE_COLOR_KEYS[PROFILE_GAUGE_COUNT] = {
     "Health", "Fatigue", "Weight", "PSI", "Web", "RT", "Pause",
 };
+
+// The panel's gauge whose colours are stored under GAUGE_COLOR_KEYS[gauge].
+Gauge& GaugeFor(StatusPanel& panel, ProfileGauge gauge);
 
 // What loading and saving a profile needs of the rest of the program; the frame implements it.
 // Each call comes at its fixed step of LoadProfile or SaveProfile.

@@ -232,6 +232,16 @@ TEST_F(ProfileTest, ALongNameIsCutToItsBuffer)
     EXPECT_EQ(std::strlen(profile.CurrentCharacter), CHARACTER_NAME_SIZE - 1);
 }
 
+TEST(ProfileGauges, EachColourKeyBelongsToItsLabelledGauge)
+{
+    StatusPanel panel;
+    const char* labels[PROFILE_GAUGE_COUNT] = {
+        "Hp:", "Ftg:", "Weight:", "Psi:", "Web:", "RT:", "Pause:"};
+    for (std::size_t i = 0; i < PROFILE_GAUGE_COUNT; ++i)
+        EXPECT_STREQ(GaugeFor(panel, static_cast<ProfileGauge>(i)).Label(), labels[i])
+            << GAUGE_COLOR_KEYS[i];
+}
+
 struct WindowsCase {
     const char* stored;
     const char* letters;
