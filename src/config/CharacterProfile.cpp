@@ -3,7 +3,9 @@
 #include "config/BinaryRecords.h"
 #include "config/IniStore.h"
 
+#include <algorithm>
 #include <cstring>
+#include <string_view>
 
 namespace steward {
 
@@ -32,8 +34,10 @@ void SetCurrentCharacter(CharacterProfile& profile, const ConfigFiles& files, co
 {
     char* current = profile.CurrentCharacter;
     if (name) {
-        std::strncpy(current, name, CHARACTER_NAME_SIZE - 1);
-        current[CHARACTER_NAME_SIZE - 1] = '\0';
+        const std::string_view given(name);
+        const std::size_t length = std::min(given.size(), CHARACTER_NAME_SIZE - 1);
+        std::memmove(current, given.data(), length);
+        current[length] = '\0';
     } else {
         ReadString(files.MainIni, "History", "LastChar", current, CHARACTER_NAME_SIZE,
                    DEFAULT_CHARACTER);
@@ -117,6 +121,8 @@ bool LoadProfile(const ConfigFiles& files, CharacterProfile& profile, ProfilePar
 void SaveProfile(const ConfigFiles& files, const CharacterProfile& profile, ProfileParts& parts,
                  const char* name)
 {
+    if (!name)
+        name = profile.CurrentCharacter;
     const std::string path = ProfileFilePath(files, name, PROFILE_EXTENSION);
     parts.Trace("Saving data to \"" + path + "\"\n");
     const SettingsBytes bytes = profile.Settings.ToBytes();

@@ -40,7 +40,8 @@ struct CharacterProfile {
 bool LoadProfile(const ConfigFiles& files, CharacterProfile& profile, ProfileParts& parts,
                  const char* name, bool createOnly);
 
-// Writes every file of the profile under name; empty equipment commands lose their keys.
+// Writes every file of the profile under name (null: CurrentCharacter); empty equipment
+// commands lose their keys.
 void SaveProfile(const ConfigFiles& files, const CharacterProfile& profile, ProfileParts& parts,
                  const char* name);
 

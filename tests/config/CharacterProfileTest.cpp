@@ -229,7 +229,9 @@ TEST_F(ProfileTest, ALongNameIsCutToItsBuffer)
 {
     const std::string longName(100, 'n');
     LoadProfile(files, profile, parts, longName.c_str(), true);
-    EXPECT_EQ(std::strlen(profile.CurrentCharacter), CHARACTER_NAME_SIZE - 1);
+    EXPECT_EQ(profile.CurrentCharacter, longName.substr(0, CHARACTER_NAME_SIZE - 1));
+    LoadProfile(files, profile, parts, profile.CurrentCharacter, true);
+    EXPECT_EQ(profile.CurrentCharacter, longName.substr(0, CHARACTER_NAME_SIZE - 1));
 }
 
 TEST(ProfileGauges, EachColourKeyBelongsToItsLabelledGauge)
