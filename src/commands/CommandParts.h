@@ -1,0 +1,46 @@
+#pragma once
+
+#include "scripts/Rewrites.h"
+
+#include <cstddef>
+
+namespace steward {
+
+class CommandHistory;
+class CommandLineEdit;
+class CommandSink;
+class FrameQueue;
+class KeyboardHost;
+class MacroStore;
+
+constexpr std::size_t SCRIPT_NAME_SIZE = 256;
+constexpr std::size_t SCRIPT_PARAMETERS_SIZE = 256;
+
+// The session's fields that the command road shares with the frame and the script runner.
+struct CommandState {
+    char DragTarget[DRAG_TARGET_SIZE] = {};
+    // The script that MM_RUN_SCRIPT opens, and the parameters of the last .Cmd run.
+    char ScriptName[SCRIPT_NAME_SIZE] = {};
+    char ScriptParameters[SCRIPT_PARAMETERS_SIZE] = {};
+};
+
+// The settings the keyboard reads, with their defaults; the frame keeps them equal to Settings.
+struct CommandOptions {
+    int MinCommandLength = 4;
+    char CommandPrefix = '.';
+    bool HonorNumLock = false;
+};
+
+// Everything the key filter, the macro player and the command road work on.
+struct CommandParts {
+    CommandLineEdit& Line;
+    CommandSink& Sink;
+    FrameQueue& Queue;
+    KeyboardHost& Host;
+    CommandHistory& History;
+    MacroStore& Macros;
+    CommandState& State;
+    const CommandOptions& Options;
+};
+
+} // namespace steward

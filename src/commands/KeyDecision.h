@@ -1,0 +1,44 @@
+#pragma once
+
+#include "commands/KeyModifiers.h"
+
+namespace steward {
+
+// WM_VSCROLL codes that the Page keys send to the active child window.
+enum ScrollCode : int {
+    SB_LINEUP = 0,
+    SB_LINEDOWN = 1,
+    SB_PAGEUP = 2,
+    SB_PAGEDOWN = 3,
+    SB_TOP = 6,
+    SB_BOTTOM = 7,
+};
+
+enum class KeyAction {
+    None,
+    ExpandMacro,    // Key holds the macro key, after the keypad's navigation keys are mapped
+    SelectMacroSet, // Value holds the set index
+    HistoryPrevious,
+    HistoryNext,
+    Scroll,             // Value holds the ScrollCode
+    RepeatCommand,      // Value holds how many commands back
+    RepeatThenEnterKey, // RepeatCommand(1), then MM_ENTER_KEY that is not remembered
+    EnterKey,           // MM_ENTER_KEY that is remembered
+    NextChildWindow,
+    ToggleGameWindow,
+    Escape,
+};
+
+struct KeyDecision {
+    KeyAction Action = KeyAction::None;
+    bool Taken = false; // the key goes no further, to no widget, shortcut or menu
+    int Key = 0;
+    int Value = 0;
+};
+
+// What a key press does, by the key filter's table. NumLock is honoured when the modifiers
+// carry KEY_NUMLOCK and the option asks for it.
+KeyDecision DecideKey(int virtualKey, KeyModifiers modifiers, bool honorNumLock,
+                      bool commandLineEmpty);
+
+} // namespace steward

@@ -1,0 +1,38 @@
+#pragma once
+
+#include "commands/CommandParts.h"
+#include "commands/KeyModifiers.h"
+
+#include <cstddef>
+
+namespace steward {
+
+class CommandRoad;
+class MacroPlayer;
+class MacroStore;
+struct KeyDecision;
+
+constexpr std::size_t FRAME_TITLE_SIZE = 256;
+
+// "Thornmere [%s]: Current Macro Set: %d - %s" for the current set, counted from 1.
+void MacroSetTitle(char* out, std::size_t capacity, const char* character, const MacroStore& store);
+
+// Turns key presses into the keyboard's actions before any widget sees them.
+class KeyFilter {
+  public:
+    KeyFilter(const CommandParts& parts, CommandRoad& road, MacroPlayer& player);
+
+    // Every key press, modifiers included; true when the key was taken.
+    bool KeyDown(int virtualKey, KeyModifiers modifiers);
+
+  private:
+    void Act(const KeyDecision& decision, KeyModifiers modifiers);
+    void SelectMacroSet(int index);
+    void Escape();
+
+    CommandParts parts_;
+    CommandRoad& road_;
+    MacroPlayer& player_;
+};
+
+} // namespace steward

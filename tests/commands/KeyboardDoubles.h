@@ -1,0 +1,192 @@
+#pragma once
+
+#include "commands/CommandHistory.h"
+#include "commands/CommandLineEdit.h"
+#include "commands/CommandParts.h"
+#include "commands/CommandRoad.h"
+#include "commands/CommandSink.h"
+#include "commands/KeyFilter.h"
+#include "commands/KeyboardHost.h"
+#include "commands/MacroPlayer.h"
+#include "commands/MacroStore.h"
+#include "session/FrameQueue.h"
+
+#include "session/FrameCommand.h"
+
+#include <algorithm>
+#include <cstdio>
+#include <cstring>
+#include <deque>
+#include <functional>
+#include <string>
+#include <vector>
+
+namespace steward::test {
+
+// An edit control in memory: caret, selection, clipboard and the typing limit.
+class EditLine : public CommandLineEdit {
+  public:
+    std::size_t GetText(char* out, std::size_t capacity) const override
+    {
+        std::size_t length = std::min(text.size(), capacity - 1);
+        std::memcpy(out, text.data(), length);
+        out[length] = 0;
+        return length;
+    }
+    void SetText(const char* value) override
+    {
+        text = value;
+        start = end = 0;
+    }
+    void SetSelection(int from, int to) override
+    {
+        int length = static_cast<int>(text.size());
+        start = std::clamp(std::min(from, to), 0, length);
+        end = std::clamp(std::max(from, to), 0, length);
+    }
+    void GetSelection(int& from, int& to) const override
+    {
+        from = start;
+        to = end;
+    }
+    void TypeCharacter(char c) override { Replace(std::string(1, c)); }
+    void Cut() override
+    {
+        Copy();
+        Replace("");
+    }
+    void Copy() override
+    {
+        if (start != end)
+            clipboard = text.substr(start, end - start);
+    }
+    void Paste() override { Replace(clipboard); }
+    void Clear() override { Replace(""); }
+    void SetFocus() override { ++focused; }
+
+    std::string text;
+    int start = 0;
+    int end = 0;
+    std::string clipboard;
+    int focused = 0;
+    int refused = 0;
+
+  private:
+    void Replace(const std::string& piece)
+    {
+        std::size_t kept = text.size() - (end - start);
+        if (kept + piece.size() > static_cast<std::size_t>(COMMAND_LINE_LIMIT)) {
+            ++refused;
+            return;
+        }
+        text = text.substr(0, start) + piece + text.substr(end);
+        start = end = start + static_cast<int>(piece.size());
+    }
+};
+
+// Every call, in order, as one readable word each.
+class RecordingSink : public CommandSink {
+  public:
+    void EchoCommand(const char* text) override { calls.push_back("echo " + std::string(text)); }
+    void SetEchoPending() override { calls.push_back("pending"); }
+    void SendLine(const char* text) override
+    {
+        calls.push_back("send " + std::string(text));
+        sent.push_back(text);
+    }
+    void RecordCommand(const char* text) override
+    {
+        calls.push_back("record " + std::string(text));
+    }
+    std::vector<std::string> calls;
+    std::vector<std::string> sent;
+};
+
+class RecordingQueue : public FrameQueue {
+  public:
+    void PostCommand(int command) override { commands.push_back(command); }
+    void PostDropped() override {}
+    std::vector<int> commands;
+};
+
+class RecordingHost : public KeyboardHost {
+  public:
+    bool RestMode() const override { return rest; }
+    void SetRestMode(bool on) override { rest = on; }
+    void PrintToGameWindow(const char* text) override { printed.push_back(text); }
+    void ScrollActiveChild(int code) override { calls.push_back("scroll " + std::to_string(code)); }
+    void NextChildWindow() override { calls.push_back("mdinext"); }
+    void ToggleGameWindowMaximized() override { calls.push_back("toggle"); }
+    bool ScriptRunning() const override { return script; }
+    void AbortScript() override
+    {
+        script = false;
+        calls.push_back("abort");
+    }
+    void EndScrollback() override { calls.push_back("endscrollback"); }
+    void SetFrameTitle(const char* text) override { title = text; }
+    const char* CurrentCharacter() const override { return "Ayla"; }
+    void CopyFromActiveChild() override { calls.push_back("copychild"); }
+    void PostClose() override { calls.push_back("close"); }
+    bool AskString(const char* text, char* answer, std::size_t capacity) override
+    {
+        asked.push_back(text);
+        if (answers.empty())
+            return false;
+        std::string given = answers.front();
+        answers.pop_front();
+        std::snprintf(answer, capacity, "%s", given.c_str());
+        return given != "<cancel>";
+    }
+    void PumpFor(int seconds) override
+    {
+        calls.push_back("pump " + std::to_string(seconds));
+        if (onPump)
+            onPump();
+    }
+
+    bool rest = false;
+    bool script = false;
+    std::vector<std::string> printed;
+    std::vector<std::string> calls;
+    std::vector<std::string> asked;
+    std::deque<std::string> answers;
+    std::string title;
+    std::function<void()> onPump;
+};
+
+// The whole keyboard wired to recording doubles, as the frame wires it to the real windows.
+struct Keyboard {
+    EditLine line;
+    RecordingSink sink;
+    RecordingQueue queue;
+    RecordingHost host;
+    CommandHistory history;
+    MacroStore macros;
+    CommandState state;
+    CommandOptions options;
+    CommandParts parts{line, sink, queue, host, history, macros, state, options};
+    CommandRoad road{parts};
+    MacroPlayer player{parts, road};
+    KeyFilter filter{parts, road, player};
+
+    // Serves what the keys posted, as the frame's switchboard does for MM_ENTER_KEY.
+    void ServeQueue()
+    {
+        std::vector<int> posted;
+        posted.swap(queue.commands);
+        for (int command : posted) {
+            if (command == MM_ENTER_KEY)
+                road.EnterKey();
+            else
+                queue.commands.push_back(command);
+        }
+    }
+    void Type(const std::string& text)
+    {
+        for (char c : text)
+            line.TypeCharacter(c);
+    }
+};
+
+} // namespace steward::test
