@@ -12,6 +12,7 @@ class CommandSink;
 class FrameQueue;
 class KeyboardHost;
 class MacroStore;
+struct Settings;
 
 constexpr std::size_t SCRIPT_NAME_SIZE = 256;
 constexpr std::size_t SCRIPT_PARAMETERS_SIZE = 256;
@@ -24,13 +25,6 @@ struct CommandState {
     char ScriptParameters[SCRIPT_PARAMETERS_SIZE] = {};
 };
 
-// The settings the keyboard reads, with their defaults; the frame keeps them equal to Settings.
-struct CommandOptions {
-    int MinCommandLength = 4;
-    char CommandPrefix = '.';
-    bool HonorNumLock = false;
-};
-
 // Everything the key filter, the macro player and the command road work on.
 struct CommandParts {
     CommandLineEdit& Line;
@@ -40,7 +34,8 @@ struct CommandParts {
     CommandHistory& History;
     MacroStore& Macros;
     CommandState& State;
-    const CommandOptions& Options;
+    // MinCommandLength, CommandPrefix and HonorNumLock are read at each use.
+    const Settings& Options;
 };
 
 } // namespace steward

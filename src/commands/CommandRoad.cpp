@@ -5,6 +5,7 @@
 #include "commands/CommandLineEdit.h"
 #include "commands/CommandSink.h"
 #include "commands/ScriptNames.h"
+#include "config/Settings.h"
 #include "scripts/Rewrites.h"
 #include "session/FrameCommand.h"
 #include "session/FrameQueue.h"

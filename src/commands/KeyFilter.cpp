@@ -7,6 +7,7 @@
 #include "commands/KeyboardHost.h"
 #include "commands/MacroPlayer.h"
 #include "commands/MacroStore.h"
+#include "config/Settings.h"
 
 #include <cstdio>
 
@@ -31,7 +32,8 @@ bool KeyFilter::KeyDown(int virtualKey, KeyModifiers modifiers)
     parts_.Host.SetRestMode(false);
     char first[2];
     bool empty = parts_.Line.GetText(first, sizeof first) == 0;
-    KeyDecision decision = DecideKey(virtualKey, modifiers, parts_.Options.HonorNumLock, empty);
+    KeyDecision decision =
+        DecideKey(virtualKey, modifiers, parts_.Options.HonorNumLock != 0, empty);
     Act(decision, modifiers);
     return decision.Taken;
 }

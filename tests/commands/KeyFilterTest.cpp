@@ -42,7 +42,7 @@ TEST_F(KeyFilterTest, KeypadPlaysItsMacroWithNumLockOnAndOff)
 
 TEST_F(KeyFilterTest, HonouredNumLockLeavesTheKeypadToTheLine)
 {
-    kb.options.HonorNumLock = true;
+    kb.options.HonorNumLock = 1;
     EXPECT_FALSE(Press(VK_NUMPAD0 + 8, KEY_NUMLOCK));
     EXPECT_TRUE(Press(VK_UP));
     EXPECT_EQ(kb.sink.sent, Strings{"n"});
@@ -84,7 +84,7 @@ TEST_F(KeyFilterTest, KeypadEnterWithTextOrHonouredIsAPlainEnter)
     kb.history.RememberCommand("kill rat", 4);
     kb.Type("look");
     Press(VK_RETURN, KEY_EXTENDED);
-    kb.options.HonorNumLock = true;
+    kb.options.HonorNumLock = 1;
     Press(VK_RETURN, KEY_EXTENDED | KEY_NUMLOCK);
     kb.ServeQueue();
     EXPECT_EQ(kb.sink.sent, (Strings{"look", ""}));

@@ -11,6 +11,7 @@
 #include "commands/MacroStore.h"
 #include "session/FrameQueue.h"
 
+#include "config/Settings.h"
 #include "session/FrameCommand.h"
 
 #include <algorithm>
@@ -164,7 +165,7 @@ struct Keyboard {
     CommandHistory history;
     MacroStore macros;
     CommandState state;
-    CommandOptions options;
+    Settings options;
     CommandParts parts{line, sink, queue, host, history, macros, state, options};
     CommandRoad road{parts};
     MacroPlayer player{parts, road};
