@@ -1,0 +1,135 @@
+#include "HighlightDoubles.h"
+#include "highlights/HighlightMatch.h"
+#include "highlights/HighlightMatcher.h"
+
+#include <gtest/gtest.h>
+
+#include <cstring>
+#include <random>
+
+namespace steward::testing {
+namespace {
+
+constexpr int LISTS = 20000;
+constexpr int LINES_PER_LIST = 5;
+constexpr std::size_t LINE_ROOM = 512;
+
+// Random lists and lines over a few letters of both cases, so that hits, overlaps and
+// repeats are frequent, with ColorCodes, quotes and markers mixed in.
+class CaseMaker {
+  public:
+    explicit CaseMaker(unsigned seed) : random_(seed) {}
+
+    std::string Entry(const std::vector<std::string>& earlier)
+    {
+        if (!earlier.empty() && Chance(10))
+            return earlier[Below(earlier.size())];
+        if (Chance(50))
+            return Chance(2) ? "" : "{open";
+        std::string text;
+        if (Chance(4))
+            text += Sound();
+        for (const char marker : {'$', '*', '@'}) {
+            if (Chance(marker == '$' ? 8 : 3))
+                text += marker;
+        }
+        const std::size_t length = 1 + Below(Chance(5) ? 6 : 3);
+        for (std::size_t i = 0; i < length; ++i)
+            text += Byte(Chance(25));
+        return text;
+    }
+
+    std::string Line()
+    {
+        std::string line;
+        const std::size_t length = Below(40);
+        while (line.size() < length) {
+            if (!line.empty() && Chance(6))
+                line += line.substr(Below(line.size()), 1 + Below(4));
+            else
+                line += Byte(Chance(8));
+        }
+        if (Chance(30))
+            line += '"';
+        if (Chance(4))
+            line += "\r\n";
+        return line;
+    }
+
+    unsigned char Color() { return static_cast<unsigned char>(Chance(3) ? Below(256) : 14); }
+    std::size_t Capacity(std::size_t length)
+    {
+        return Chance(4) ? length + 1 + Below(12) : LINE_ROOM;
+    }
+
+  private:
+    std::string Sound()
+    {
+        const char* sounds[] = {"{}", "{s0}", "{s1}", "{s2}"};
+        return sounds[Below(4)];
+    }
+    char Byte(bool rare)
+    {
+        static const char common[] = "aAbB ab-";
+        static const char unusual[] = "\x80\x8E\x91\xA0\xA1\xA3\xA4\xE9\"{}$*@'_1";
+        return rare ? unusual[Below(sizeof unusual - 1)] : common[Below(sizeof common - 1)];
+    }
+    std::size_t Below(std::size_t n)
+    {
+        return std::uniform_int_distribution<std::size_t>(0, n - 1)(random_);
+    }
+    bool Chance(std::size_t oneIn) { return Below(oneIn) == 0; }
+
+    std::mt19937 random_;
+};
+
+std::string Printable(const std::string& bytes)
+{
+    std::string out;
+    for (const unsigned char c : bytes) {
+        char piece[8];
+        std::snprintf(piece, sizeof piece, c >= 0x20 && c < 0x7F ? "%c" : "\\x%02X", c);
+        out += piece;
+    }
+    return out;
+}
+
+TEST(HighlightProperty, TheIndexGivesTheBytesAndSoundsOfThePlainForm)
+{
+    CaseMaker make(20261123);
+    HighlightList list;
+    HighlightMatcher matcher(list);
+    int cases = 0;
+    for (int round = 0; round < LISTS; ++round) {
+        std::vector<std::string> texts;
+        list.Clear();
+        const std::size_t entries = static_cast<std::size_t>(round % 13);
+        for (std::size_t i = 0; i < entries; ++i) {
+            texts.push_back(make.Entry(texts));
+            list.SetColor(i, make.Color());
+            list.SetText(i, texts.back().c_str());
+        }
+        for (int n = 0; n < LINES_PER_LIST; ++n, ++cases) {
+            const std::string line = make.Line();
+            const std::size_t capacity = make.Capacity(line.size());
+            char plain[LINE_ROOM], fast[LINE_ROOM];
+            std::memcpy(plain, line.c_str(), line.size() + 1);
+            std::memcpy(fast, line.c_str(), line.size() + 1);
+            RecordedSounds plainSounds, fastSounds;
+            ApplyHighlights(list, plain, capacity, false, plainSounds);
+            matcher.ApplyHighlights(fast, capacity, false, fastSounds);
+            if (std::strcmp(plain, fast) != 0 || plainSounds.played != fastSounds.played) {
+                std::string entriesText;
+                for (const std::string& text : texts)
+                    entriesText.append("[").append(Printable(text)).append("] ");
+                FAIL() << "case " << cases << " line [" << Printable(line) << "] capacity "
+                       << capacity << " entries " << entriesText << "\nplain [" << Printable(plain)
+                       << "]\nfast  [" << Printable(fast) << "]";
+            }
+        }
+    }
+    EXPECT_GE(cases, 100000);
+}
+
+} // namespace
+} // namespace steward::testing
