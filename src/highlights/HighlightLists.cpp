@@ -15,8 +15,7 @@ std::string ListPath(const std::string& folder, const std::string& character, co
 void HighlightLists::ApplyHighlights(char* line, std::size_t capacity, bool squelch,
                                      HighlightSounds& sounds)
 {
-    stringMatcher_.ApplyHighlights(line, capacity, squelch, sounds);
-    nameMatcher_.ApplyHighlights(line, capacity, squelch, sounds);
+    matcher_.ApplyHighlights(line, capacity, squelch, sounds);
 }
 
 bool HighlightLists::IsNameListed(const char* name) const

@@ -14,7 +14,7 @@ namespace steward {
 constexpr int CMD_COPY_TO_STRING_HIGHLIGHTS = 1104;
 constexpr int CMD_COPY_TO_NAME_HIGHLIGHTS = 1105;
 
-// The two lists of the session, each with the index its matcher keeps over it.
+// The two lists of the session, with the one index that the matcher keeps over both.
 class HighlightLists {
   public:
     HighlightLists() = default;
@@ -36,8 +36,7 @@ class HighlightLists {
     bool CopyToHighlights(int command, ClipboardReader& clipboard);
 
   private:
-    HighlightMatcher stringMatcher_{StringHighlights};
-    HighlightMatcher nameMatcher_{NameHighlights};
+    HighlightMatcher matcher_{StringHighlights, NameHighlights};
 };
 
 } // namespace steward

@@ -9,11 +9,9 @@ namespace steward {
 void ApplyHighlights(const HighlightList& list, char* line, std::size_t capacity, bool squelch,
                      HighlightSounds& sounds)
 {
-    const void* end = std::memchr(line, '\0', capacity);
-    if (!end)
+    HighlightLine work;
+    if (!OpenHighlightLine(line, capacity, work))
         return;
-    HighlightLine work{line, static_cast<std::size_t>(static_cast<const char*>(end) - line),
-                       capacity};
     for (std::size_t slot = 0; slot < HIGHLIGHT_SLOTS; ++slot) {
         HighlightRule rule;
         if (!ParseHighlightRule(list.Text(slot), list.Color(slot), rule))

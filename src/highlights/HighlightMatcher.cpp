@@ -17,15 +17,40 @@ bool HoldsColorCode(const HighlightRule& rule)
 
 } // namespace
 
+HighlightMatcher::HighlightMatcher(const HighlightList& list) : sourceCount_(1)
+{
+    sources_[0].List = &list;
+}
+
+HighlightMatcher::HighlightMatcher(const HighlightList& first, const HighlightList& second)
+    : sourceCount_(2)
+{
+    sources_[0].List = &first;
+    sources_[1].List = &second;
+}
+
+bool HighlightMatcher::Stale() const
+{
+    for (std::size_t i = 0; i < sourceCount_; ++i) {
+        if (sources_[i].Version != sources_[i].List->Version())
+            return true;
+    }
+    return false;
+}
+
 void HighlightMatcher::Rebuild()
 {
-    version_ = list_.Version();
     rules_.clear();
-    for (std::size_t slot = 0; slot < HIGHLIGHT_SLOTS; ++slot) {
-        HighlightRule rule;
-        if (!ParseHighlightRule(list_.Text(slot), list_.Color(slot), rule))
-            break;
-        rules_.push_back(rule);
+    for (std::size_t i = 0; i < sourceCount_; ++i) {
+        Source& source = sources_[i];
+        source.Version = source.List->Version();
+        for (std::size_t slot = 0; slot < HIGHLIGHT_SLOTS; ++slot) {
+            HighlightRule rule;
+            if (!ParseHighlightRule(source.List->Text(slot), source.List->Color(slot), rule))
+                break;
+            rules_.push_back(rule);
+        }
+        source.RunEnd = rules_.size();
     }
     const std::size_t words = (rules_.size() + 63) / 64;
     always_.assign(words, 0);
@@ -40,26 +65,35 @@ void HighlightMatcher::Rebuild()
     }
 }
 
+std::size_t HighlightMatcher::RunEndOf(std::size_t rule) const
+{
+    for (std::size_t i = 0; i < sourceCount_; ++i) {
+        if (rule < sources_[i].RunEnd)
+            return sources_[i].RunEnd;
+    }
+    return rules_.size();
+}
+
 void HighlightMatcher::ApplyHighlights(char* line, std::size_t capacity, bool squelch,
                                        HighlightSounds& sounds)
 {
-    if (version_ != list_.Version())
+    if (Stale())
         Rebuild();
     if (rules_.empty())
         return;
-    const void* end = std::memchr(line, '\0', capacity);
-    if (!end)
+    HighlightLine work;
+    if (!OpenHighlightLine(line, capacity, work))
         return;
-    HighlightLine work{line, static_cast<std::size_t>(static_cast<const char*>(end) - line),
-                       capacity};
     std::copy(always_.begin(), always_.end(), candidates_.begin());
     if (automaton_.Usable())
         automaton_.Scan(line, work.Length, [this](std::size_t rule) { Mark(rule); });
+    // A full buffer ends the run of the list it happens in; the next list still runs.
+    std::size_t skipUntil = 0;
     for (std::size_t word = 0; word < candidates_.size(); ++word) {
         for (std::uint64_t bits = candidates_[word]; bits != 0; bits &= bits - 1) {
             const std::size_t rule = word * 64 + static_cast<std::size_t>(std::countr_zero(bits));
-            if (!ApplyHighlightRule(rules_[rule], work, squelch, sounds))
-                return;
+            if (rule >= skipUntil && !ApplyHighlightRule(rules_[rule], work, squelch, sounds))
+                skipUntil = RunEndOf(rule);
         }
     }
 }

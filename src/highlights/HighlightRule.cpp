@@ -24,7 +24,7 @@ const char* FindIn(const HighlightRule& rule, const char* from)
 void PlaySound(const HighlightRule& rule, const HighlightLine& line, bool squelch,
                HighlightSounds& sounds)
 {
-    if (rule.SoundLength == 0 || squelch || std::memchr(line.Text, '"', line.Length))
+    if (rule.SoundLength == 0 || squelch || line.Quoted)
         return;
     char name[HIGHLIGHT_TEXT_MAX + 1];
     std::memcpy(name, rule.Sound, rule.SoundLength);
@@ -32,7 +32,25 @@ void PlaySound(const HighlightRule& rule, const HighlightLine& line, bool squelc
     sounds.PlayHighlightSound(name);
 }
 
+// InsertText with the lengths already known, as the hit path runs for every hit.
+void InsertCodes(HighlightLine& line, std::size_t at, const char* codes, std::size_t length)
+{
+    std::memmove(line.Text + at + length, line.Text + at, line.Length - at + 1);
+    std::memcpy(line.Text + at, codes, length);
+    line.Length += length;
+}
+
 } // namespace
+
+bool OpenHighlightLine(char* text, std::size_t capacity, HighlightLine& line)
+{
+    const void* end = std::memchr(text, '\0', capacity);
+    if (!end)
+        return false;
+    const auto length = static_cast<std::size_t>(static_cast<const char*>(end) - text);
+    line = {text, length, capacity, std::memchr(text, '"', length) != nullptr};
+    return true;
+}
 
 bool ParseHighlightRule(const char* text, unsigned char color, HighlightRule& rule)
 {
@@ -80,14 +98,12 @@ bool ApplyHighlightRule(const HighlightRule& rule, HighlightLine& line, bool squ
         if (line.Length + 2 * codeLength >= line.Capacity)
             return false;
         if (rule.EntireLine) {
-            InsertText(line.Text, ColorOnText(rule.Color));
-            InsertText(line.Text + line.Length + codeLength, ColorOffText(rule.Color));
-            line.Length += 2 * codeLength;
+            InsertCodes(line, 0, ColorOnText(rule.Color), codeLength);
+            InsertCodes(line, line.Length, ColorOffText(rule.Color), codeLength);
             position = line.Length;
         } else {
-            InsertText(line.Text + start, ColorOnText(rule.Color));
-            InsertText(line.Text + end + codeLength, ColorOffText(rule.Color));
-            line.Length += 2 * codeLength;
+            InsertCodes(line, start, ColorOnText(rule.Color), codeLength);
+            InsertCodes(line, end + codeLength, ColorOffText(rule.Color), codeLength);
             position = end + 2 * codeLength;
         }
         PlaySound(rule, line, squelch, sounds);

@@ -22,12 +22,17 @@ struct HighlightRule {
 // unclosed "{" or no match text), which ends the run through its list.
 bool ParseHighlightRule(const char* text, unsigned char color, HighlightRule& rule);
 
-// A NUL-terminated line of Length bytes in a buffer of Capacity bytes.
+// A NUL-terminated line of Length bytes in a buffer of Capacity bytes; colour codes never
+// bring a double quote, so Quoted holds for the whole run.
 struct HighlightLine {
-    char* Text;
-    std::size_t Length;
-    std::size_t Capacity;
+    char* Text = nullptr;
+    std::size_t Length = 0;
+    std::size_t Capacity = 0;
+    bool Quoted = false;
 };
+
+// False when the buffer holds no NUL, so that the line must be left alone.
+bool OpenHighlightLine(char* text, std::size_t capacity, HighlightLine& line);
 
 // Colours every hit of one rule in the line and starts its sounds; false when a hit's colour
 // codes no longer fit in the buffer, which ends the work on this line.

@@ -3,6 +3,7 @@
 #include "highlights/HighlightText.h"
 
 #include <cstring>
+#include <utility>
 
 namespace steward {
 
@@ -16,6 +17,7 @@ void PatternAutomaton::Build(const std::vector<const char*>& patterns)
         for (const char* p = pattern; *p != '\0'; ++p)
             used[FoldCase(static_cast<unsigned char>(*p))] = true;
     }
+    // Upper case letters fold away and NUL ends a pattern, so the classes fit in a byte.
     std::uint8_t folded[256] = {};
     for (int c = 0; c < 256; ++c) {
         if (used[c])
@@ -30,6 +32,7 @@ void PatternAutomaton::Build(const std::vector<const char*>& patterns)
     for (std::size_t i = 0; i < patterns.size(); ++i)
         Insert(patterns[i], static_cast<std::uint32_t>(i));
     Link();
+    Renumber();
     seen_.assign(fail_.size(), 0);
     usable_ = true;
 }
@@ -81,6 +84,36 @@ void PatternAutomaton::Link()
             queue.push_back(cell);
         }
     }
+}
+
+void PatternAutomaton::Renumber()
+{
+    const std::size_t states = fail_.size();
+    std::vector<std::uint32_t> order(states);
+    std::uint32_t quiet = 0;
+    for (std::size_t state = 0; state < states; ++state)
+        quiet += output_[state] == NONE ? 1 : 0;
+    std::uint32_t nextQuiet = 0;
+    std::uint32_t nextEnding = quiet;
+    for (std::size_t state = 0; state < states; ++state)
+        order[state] = output_[state] == NONE ? nextQuiet++ : nextEnding++;
+    auto remap = [&](std::uint32_t state) { return state == NONE ? NONE : order[state]; };
+    std::vector<std::uint32_t> next(next_.size());
+    std::vector<std::uint32_t> fail(states), output(states), firstEnd(states);
+    for (std::size_t state = 0; state < states; ++state) {
+        const std::uint32_t to = order[state];
+        for (std::size_t c = 0; c < classes_; ++c)
+            next[to * classes_ + c] =
+                static_cast<std::uint32_t>(order[next_[state * classes_ + c]] * classes_);
+        fail[to] = order[fail_[state]];
+        output[to] = remap(output_[state]);
+        firstEnd[to] = firstEnd_[state];
+    }
+    next_ = std::move(next);
+    fail_ = std::move(fail);
+    output_ = std::move(output);
+    firstEnd_ = std::move(firstEnd);
+    firstEndingRow_ = static_cast<std::uint32_t>(quiet * classes_);
 }
 
 } // namespace steward

@@ -28,6 +28,7 @@ class PatternAutomaton {
     std::uint32_t AddState();
     void Insert(const char* pattern, std::uint32_t index);
     void Link();
+    void Renumber();
 
     bool usable_ = false;
     std::size_t classes_ = 1;
@@ -39,6 +40,9 @@ class PatternAutomaton {
     std::vector<std::uint32_t> nextSame_; // next pattern ending at the same state, or NONE
     std::vector<std::uint32_t> seen_;     // scan stamp of the last visit of an output state
     std::uint32_t stamp_ = 0;
+    // After the build a table cell holds the start of the next state's row, and the states
+    // where a pattern ends (in them or on their suffix chain) have the rows from here on.
+    std::uint32_t firstEndingRow_ = 0;
 };
 
 template <typename Found>
@@ -49,10 +53,12 @@ void PatternAutomaton::Scan(const char* text, std::size_t length, Found&& found)
         stamp_ = 1;
     }
     const std::uint32_t* table = next_.data();
-    std::uint32_t state = 0;
+    std::uint32_t row = 0;
     for (std::size_t i = 0; i < length; ++i) {
-        state = table[state * classes_ + classOf_[static_cast<unsigned char>(text[i])]];
-        for (std::uint32_t out = output_[state]; out != NONE && seen_[out] != stamp_;
+        row = table[row + classOf_[static_cast<unsigned char>(text[i])]];
+        if (row < firstEndingRow_)
+            continue;
+        for (std::uint32_t out = output_[row / classes_]; out != NONE && seen_[out] != stamp_;
              out = output_[fail_[out]]) {
             seen_[out] = stamp_;
             for (std::uint32_t p = firstEnd_[out]; p != NONE; p = nextSame_[p])

@@ -1,6 +1,6 @@
 #include "HighlightDoubles.h"
+#include "highlights/HighlightLists.h"
 #include "highlights/HighlightMatch.h"
-#include "highlights/HighlightMatcher.h"
 
 #include <gtest/gtest.h>
 
@@ -94,21 +94,37 @@ std::string Printable(const std::string& bytes)
     return out;
 }
 
+// Fills the list with up to 12 random entries and returns their texts.
+std::vector<std::string> RandomList(CaseMaker& make, HighlightList& list, std::size_t count)
+{
+    std::vector<std::string> texts;
+    list.Clear();
+    for (std::size_t i = 0; i < count; ++i) {
+        texts.push_back(make.Entry(texts));
+        list.SetColor(i, make.Color());
+        list.SetText(i, texts.back().c_str());
+    }
+    return texts;
+}
+
+std::string Describe(const std::vector<std::string>& texts)
+{
+    std::string out;
+    for (const std::string& text : texts)
+        out.append("[").append(Printable(text)).append("] ");
+    return out;
+}
+
+// Both lists of the session through their shared index, against the plain form run on the
+// strings and then on the names.
 TEST(HighlightProperty, TheIndexGivesTheBytesAndSoundsOfThePlainForm)
 {
     CaseMaker make(20261123);
-    HighlightList list;
-    HighlightMatcher matcher(list);
+    HighlightLists lists;
     int cases = 0;
     for (int round = 0; round < LISTS; ++round) {
-        std::vector<std::string> texts;
-        list.Clear();
-        const std::size_t entries = static_cast<std::size_t>(round % 13);
-        for (std::size_t i = 0; i < entries; ++i) {
-            texts.push_back(make.Entry(texts));
-            list.SetColor(i, make.Color());
-            list.SetText(i, texts.back().c_str());
-        }
+        const auto strings = RandomList(make, lists.StringHighlights, round % 13);
+        const auto names = RandomList(make, lists.NameHighlights, round % 3 == 0 ? round % 5 : 0);
         for (int n = 0; n < LINES_PER_LIST; ++n, ++cases) {
             const std::string line = make.Line();
             const std::size_t capacity = make.Capacity(line.size());
@@ -116,15 +132,14 @@ TEST(HighlightProperty, TheIndexGivesTheBytesAndSoundsOfThePlainForm)
             std::memcpy(plain, line.c_str(), line.size() + 1);
             std::memcpy(fast, line.c_str(), line.size() + 1);
             RecordedSounds plainSounds, fastSounds;
-            ApplyHighlights(list, plain, capacity, false, plainSounds);
-            matcher.ApplyHighlights(fast, capacity, false, fastSounds);
+            ApplyHighlights(lists.StringHighlights, plain, capacity, false, plainSounds);
+            ApplyHighlights(lists.NameHighlights, plain, capacity, false, plainSounds);
+            lists.ApplyHighlights(fast, capacity, false, fastSounds);
             if (std::strcmp(plain, fast) != 0 || plainSounds.played != fastSounds.played) {
-                std::string entriesText;
-                for (const std::string& text : texts)
-                    entriesText.append("[").append(Printable(text)).append("] ");
                 FAIL() << "case " << cases << " line [" << Printable(line) << "] capacity "
-                       << capacity << " entries " << entriesText << "\nplain [" << Printable(plain)
-                       << "]\nfast  [" << Printable(fast) << "]";
+                       << capacity << "\nstrings " << Describe(strings) << "\nnames "
+                       << Describe(names) << "\nplain [" << Printable(plain) << "]\nfast  ["
+                       << Printable(fast) << "]";
             }
         }
     }

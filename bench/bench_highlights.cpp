@@ -1,0 +1,250 @@
+#include "analysis/LinePipeline.h"
+#include "config/Settings.h"
+#include "connection/GameLineSink.h"
+#include "connection/PacketDump.h"
+#include "connection/StreamDecoder.h"
+#include "highlights/HighlightLists.h"
+#include "highlights/HighlightMatch.h"
+#include "panels/StatusPanel.h"
+#include "scripts/ScriptWait.h"
+#include "session/ChildWindows.h"
+#include "session/FrameQueue.h"
+
+#include <benchmark/benchmark.h>
+
+#include <cstddef>
+#include <cstdio>
+#include <cstring>
+#include <random>
+#include <string>
+#include <vector>
+
+namespace steward {
+namespace {
+
+constexpr std::size_t STREAM_LINES = 20000;
+constexpr std::size_t BLOCK_SIZE = 1024;
+
+const char* const NAMES[] = {"Mara",    "Kaelen", "Oswin",  "Thessaly",
+                             "Brannoc", "Ilse",   "Corwen", "Edda"};
+const char* const PLACES[] = {"the old mill", "the market square", "the river ford",
+                              "the chapel of the moon", "the western gate"};
+const char* const CREATURES[] = {"a grey wolf", "an orc raider", "a cave bear", "a young drake",
+                                 "a bandit archer"};
+const char* const SPOKEN[] = {"Shall we go to the market?", "Watch your back out there.",
+                              "I have silver for the ferry.", "Hail and well met!"};
+
+// One line of a day's play, with the server's colour tokens where the game sends them.
+std::string PlayLine(std::mt19937& random)
+{
+    const char* name = NAMES[random() % std::size(NAMES)];
+    const char* place = PLACES[random() % std::size(PLACES)];
+    const char* creature = CREATURES[random() % std::size(CREATURES)];
+    char line[240];
+    switch (random() % 8) {
+    case 0:
+    case 1:
+        std::snprintf(line, sizeof line,
+                      "You are standing near %s. The wind moves the long grass.\r\n", place);
+        break;
+    case 2:
+        std::snprintf(line, sizeof line,
+                      "\x1B"
+                      "1ab%s says,\x1B"
+                      "0ab \"%s\"\r\n",
+                      name, SPOKEN[random() % std::size(SPOKEN)]);
+        break;
+    case 3:
+        std::snprintf(line, sizeof line, "Obvious exits: north, east, southwest, up.\r\n");
+        break;
+    case 4:
+    case 5:
+        std::snprintf(line, sizeof line, "%s attacks %s and hits for %u damage!\r\n", name,
+                      creature, static_cast<unsigned>(random() % 40));
+        break;
+    case 6:
+        std::snprintf(line, sizeof line, "You see %s, a rusty dagger and 12 gold coins here.\r\n",
+                      creature);
+        break;
+    default:
+        std::snprintf(line, sizeof line, " ** %s just arrived in the world.\r\n", name);
+        break;
+    }
+    return line;
+}
+
+std::vector<std::string> PlayLines()
+{
+    std::mt19937 random(20261123);
+    std::vector<std::string> lines;
+    for (std::size_t i = 0; i < STREAM_LINES; ++i)
+        lines.push_back(PlayLine(random));
+    return lines;
+}
+
+// A player's lists: names built from syllables and words of the game, a third of them names,
+// with a mix of sounds and markers; the game's own names and words are among them.
+void FillLists(HighlightLists& lists, std::size_t count)
+{
+    static const char* const SYLLABLES[] = {"ar",  "bel", "cor",  "dan", "el",  "fen", "gar",
+                                            "hal", "is",  "jor",  "kel", "lin", "mor", "nor",
+                                            "os",  "per", "quin", "ros", "syl", "tor"};
+    static const char* const WORDS[] = {"wolf",    "drake", "orc",    "gold",   "dagger", "silver",
+                                        "attacks", "ferry", "chapel", "raider", "bear",   "moon"};
+    lists.StringHighlights.Clear();
+    lists.NameHighlights.Clear();
+    std::mt19937 random(4096);
+    for (std::size_t i = 0; i < count; ++i) {
+        char text[HIGHLIGHT_TEXT_MAX + 1];
+        const char* sound = i % 7 == 0 ? "{Gong}" : "";
+        const char* markers[] = {"", "", "", "*", "@", "$"};
+        const char* marker = markers[random() % std::size(markers)];
+        if (i < std::size(NAMES) + std::size(WORDS)) {
+            const char* known = i < std::size(NAMES) ? NAMES[i] : WORDS[i - std::size(NAMES)];
+            std::snprintf(text, sizeof text, "%s%s", sound, known);
+        } else if (i % 3 == 0) {
+            std::snprintf(text, sizeof text, "%c%s%s", 'A' + static_cast<int>(random() % 26),
+                          SYLLABLES[random() % std::size(SYLLABLES)],
+                          SYLLABLES[random() % std::size(SYLLABLES)]);
+        } else {
+            std::snprintf(text, sizeof text, "%s%s%s%s %s", sound, marker,
+                          SYLLABLES[random() % std::size(SYLLABLES)],
+                          SYLLABLES[random() % std::size(SYLLABLES)],
+                          WORDS[random() % std::size(WORDS)]);
+        }
+        const auto color = static_cast<unsigned char>(1 + random() % 255);
+        if (i % 3 == 0)
+            lists.NameHighlights.Add(text, color);
+        else
+            lists.StringHighlights.Add(text, color);
+    }
+}
+
+class QuietSounds : public HighlightSounds {
+  public:
+    void PlayHighlightSound(const char*) override { ++played; }
+    std::size_t played = 0;
+};
+
+std::size_t TotalBytes(const std::vector<std::string>& lines)
+{
+    std::size_t total = 0;
+    for (const std::string& line : lines)
+        total += line.size();
+    return total;
+}
+
+// The matcher's share of the pipeline: the line copied into its working buffer, then the
+// strings and the names.
+void BM_ApplyHighlights(benchmark::State& state)
+{
+    const std::vector<std::string> lines = PlayLines();
+    HighlightLists lists;
+    FillLists(lists, static_cast<std::size_t>(state.range(0)));
+    QuietSounds sounds;
+    static char buffer[LINE_COPY_SIZE];
+    for (auto _ : state) {
+        for (const std::string& line : lines) {
+            std::memcpy(buffer, line.c_str(), line.size() + 1);
+            lists.ApplyHighlights(buffer, sizeof buffer, false, sounds);
+            benchmark::DoNotOptimize(buffer);
+        }
+    }
+    state.SetBytesProcessed(static_cast<std::int64_t>(state.iterations() * TotalBytes(lines)));
+}
+
+// The same work through the plain form, which reads every entry for every line.
+void BM_ApplyHighlightsPlain(benchmark::State& state)
+{
+    const std::vector<std::string> lines = PlayLines();
+    HighlightLists lists;
+    FillLists(lists, static_cast<std::size_t>(state.range(0)));
+    QuietSounds sounds;
+    static char buffer[LINE_COPY_SIZE];
+    for (auto _ : state) {
+        for (const std::string& line : lines) {
+            std::memcpy(buffer, line.c_str(), line.size() + 1);
+            ApplyHighlights(lists.StringHighlights, buffer, sizeof buffer, false, sounds);
+            ApplyHighlights(lists.NameHighlights, buffer, sizeof buffer, false, sounds);
+            benchmark::DoNotOptimize(buffer);
+        }
+    }
+    state.SetBytesProcessed(static_cast<std::int64_t>(state.iterations() * TotalBytes(lines)));
+}
+
+// Windows are only told apart by address; the host never looks inside them.
+alignas(std::max_align_t) unsigned char GameTag[1];
+
+class BenchHost : public LineHost {
+  public:
+    explicit BenchHost(HighlightLists& lists) : lists_(lists) {}
+    void AppendText(AnsiWindow&, const char* text) override { appended += std::strlen(text); }
+    void WriteSessionLog(const char*) override {}
+    void ApplyHighlights(char* text, std::size_t capacity) override
+    {
+        lists_.ApplyHighlights(text, capacity, false, sounds_);
+    }
+    bool IsNameListed(const char* name) override { return lists_.IsNameListed(name); }
+    std::size_t appended = 0;
+
+  private:
+    HighlightLists& lists_;
+    QuietSounds sounds_;
+};
+
+class NoQueue : public FrameQueue {
+  public:
+    void PostCommand(int) override {}
+    void PostDropped() override {}
+};
+
+class NoonClock : public LocalClock {
+  public:
+    TimeOfDay Now() const override { return {12, 0}; }
+};
+
+class PipelineSink : public GameLineSink {
+  public:
+    explicit PipelineSink(LinePipeline& pipeline) : pipeline_(pipeline) {}
+    void ProcessGameLine(const char* line) override { pipeline_.ProcessGameLine(line); }
+
+  private:
+    LinePipeline& pipeline_;
+};
+
+// The whole receive path: blocks decoded into lines, the line analysis, both lists.
+void BM_ReceiveWithHighlights(benchmark::State& state)
+{
+    std::string stream;
+    for (const std::string& line : PlayLines())
+        stream += line;
+    HighlightLists lists;
+    FillLists(lists, static_cast<std::size_t>(state.range(0)));
+    BenchHost host(lists);
+    LineOptions options;
+    ChildWindows windows;
+    windows.GameWindow = reinterpret_cast<AnsiWindow*>(GameTag);
+    NoQueue queue;
+    ScriptWaitState script;
+    StatusPanel panel;
+    NoonClock clock;
+    LinePipeline pipeline({host, options, windows, queue, script, panel, clock, nullptr});
+    PipelineSink sink(pipeline);
+    PacketDump dump;
+    Settings settings;
+    StreamDecoder decoder(sink, dump, settings);
+    for (auto _ : state) {
+        for (std::size_t at = 0; at + BLOCK_SIZE <= stream.size(); at += BLOCK_SIZE)
+            decoder.HandleSocketEvent(stream.data() + at, BLOCK_SIZE);
+        benchmark::DoNotOptimize(host.appended);
+    }
+    state.SetBytesProcessed(
+        static_cast<std::int64_t>(state.iterations() * (stream.size() / BLOCK_SIZE * BLOCK_SIZE)));
+}
+
+BENCHMARK(BM_ApplyHighlights)->Arg(0)->Arg(100)->Arg(1000)->Arg(4096);
+BENCHMARK(BM_ApplyHighlightsPlain)->Arg(0)->Arg(100)->Arg(1000)->Arg(4096);
+BENCHMARK(BM_ReceiveWithHighlights)->Arg(0)->Arg(100)->Arg(1000)->Arg(4096);
+
+} // namespace
+} // namespace steward
