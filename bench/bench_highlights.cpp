@@ -1,4 +1,5 @@
 #include "analysis/LinePipeline.h"
+#include "config/BufferedLog.h"
 #include "config/Settings.h"
 #include "connection/GameLineSink.h"
 #include "connection/PacketDump.h"
@@ -179,7 +180,6 @@ class BenchHost : public LineHost {
   public:
     explicit BenchHost(HighlightLists& lists) : lists_(lists) {}
     void AppendText(AnsiWindow&, const char* text) override { appended += std::strlen(text); }
-    void WriteSessionLog(const char*) override {}
     void ApplyHighlights(char* text, std::size_t capacity) override
     {
         lists_.ApplyHighlights(text, capacity, false, sounds_);
@@ -221,17 +221,18 @@ void BM_ReceiveWithHighlights(benchmark::State& state)
     HighlightLists lists;
     FillLists(lists, static_cast<std::size_t>(state.range(0)));
     BenchHost host(lists);
-    LineOptions options;
+    Settings settings;
+    BufferedLog sessionLog;
     ChildWindows windows;
     windows.GameWindow = reinterpret_cast<AnsiWindow*>(GameTag);
     NoQueue queue;
     ScriptWaitState script;
     StatusPanel panel;
     NoonClock clock;
-    LinePipeline pipeline({host, options, windows, queue, script, panel, clock, nullptr});
+    LinePipeline pipeline(
+        {host, settings, sessionLog, windows, queue, script, panel, clock, nullptr});
     PipelineSink sink(pipeline);
     PacketDump dump;
-    Settings settings;
     StreamDecoder decoder(sink, dump, settings);
     for (auto _ : state) {
         for (std::size_t at = 0; at + BLOCK_SIZE <= stream.size(); at += BLOCK_SIZE)
