@@ -1,0 +1,439 @@
+#include "terminal/TextBuffer.h"
+
+#include <algorithm>
+#include <climits>
+#include <new>
+#include <utility>
+
+namespace steward {
+
+namespace {
+
+constexpr unsigned char BELL = 0x07;
+constexpr unsigned char TAB = 0x09;
+constexpr unsigned char CARRIAGE_RETURN = 0x0D;
+constexpr unsigned char SPACE = 0x20;
+// CopyAsText always closes with CR, LF and NUL.
+constexpr std::size_t CLOSING_SIZE = 3;
+
+bool IsLineEnd(unsigned char b)
+{
+    return b == HARD_LINE_END || b == SOFT_LINE_END;
+}
+
+// Pixel sums and character counts of a line that never ends must not overflow.
+std::int32_t Saturated(std::int64_t value)
+{
+    return static_cast<std::int32_t>(std::clamp<std::int64_t>(value, INT32_MIN, INT32_MAX));
+}
+
+} // namespace
+
+std::unique_ptr<TextBuffer> TextBuffer::CreateTextBuffer(std::uint32_t capacity)
+{
+    if (capacity < MIN_BUFFER_CAPACITY || capacity > static_cast<std::uint32_t>(INT32_MAX)) {
+        return nullptr;
+    }
+    std::unique_ptr<unsigned char[]> storage(new (std::nothrow) unsigned char[capacity]());
+    if (!storage) {
+        return nullptr;
+    }
+    return std::unique_ptr<TextBuffer>(new (std::nothrow) TextBuffer(capacity, std::move(storage)));
+}
+
+TextBuffer::TextBuffer(std::uint32_t capacity, std::unique_ptr<unsigned char[]> storage)
+    : Capacity(capacity), Storage(std::move(storage))
+{
+    CharWidth.fill(INITIAL_CHAR_WIDTH);
+    std::fill_n(Storage.get(), INITIAL_LINE_FEEDS, HARD_LINE_END);
+    WritePos = INITIAL_LINE_FEEDS - 1;
+    WalkPos = WritePos;
+    PenX = LeftMargin;
+}
+
+TextBuffer::Position TextBuffer::Next(Position p) const
+{
+    return p + 1 < Capacity ? p + 1 : 0;
+}
+
+TextBuffer::Position TextBuffer::Prev(Position p) const
+{
+    return p == 0 || p > Capacity ? Capacity - 1 : p - 1;
+}
+
+unsigned char TextBuffer::ByteAt(Position p) const
+{
+    return Storage[p < Capacity ? p : p % Capacity];
+}
+
+std::int32_t TextBuffer::Offset(Position p) const
+{
+    p = p < Capacity ? p : p % Capacity;
+    return static_cast<std::int32_t>(HeadPos <= p ? p - HeadPos : p + Capacity - HeadPos);
+}
+
+TextBuffer::Position TextBuffer::AdvancePos(Position position, std::int32_t count) const
+{
+    if (count < 1) {
+        return position;
+    }
+    return static_cast<Position>((std::uint64_t{position} + static_cast<std::uint64_t>(count)) %
+                                 Capacity);
+}
+
+void TextBuffer::SetGeometry(std::int32_t leftMargin, std::int32_t width,
+                             const CharWidthTable& charWidths)
+{
+    LeftMargin = leftMargin;
+    PenX = leftMargin;
+    CharWidth = charWidths;
+    WrapLimit = std::max(width, Saturated(std::int64_t{leftMargin} + MIN_WRAP_WIDTH));
+}
+
+void TextBuffer::AppendText(const char* text, bool trackSelection)
+{
+    const Position oldHead = HeadPos;
+    for (const char* t = text; t != nullptr && *t != '\0'; ++t) {
+        AppendByte(static_cast<unsigned char>(*t));
+    }
+    Storage[WritePos] = WRITE_MARK;
+    if (Wrapped) {
+        DropOverwrittenLine();
+    } else {
+        HeadPos = 0;
+    }
+    if (trackSelection && SelStart != SelEnd) {
+        const std::int64_t dropped =
+            HeadPos >= oldHead ? HeadPos - oldHead : std::int64_t{HeadPos} + Capacity - oldHead;
+        SelStart = Saturated(std::max<std::int64_t>(SelStart - dropped, 0));
+        SelEnd = Saturated(std::max<std::int64_t>(SelEnd - dropped, 0));
+    }
+}
+
+void TextBuffer::AppendByte(unsigned char b)
+{
+    if (IsColorCode(b)) {
+        Store(b);
+        return;
+    }
+    switch (b) {
+    case HARD_LINE_END:
+        Store(b);
+        StartLine();
+        return;
+    case CARRIAGE_RETURN:
+        StartLine();
+        return;
+    case BELL:
+        if (bell_ != nullptr) {
+            bell_->Beep();
+        }
+        return;
+    case TAB:
+        StoreTab();
+        return;
+    default:
+        StoreCharacter(b);
+    }
+}
+
+void TextBuffer::Store(unsigned char b)
+{
+    Storage[WritePos] = b;
+    WritePos = Next(WritePos);
+    if (WritePos == 0) {
+        Wrapped = true;
+    }
+}
+
+void TextBuffer::StartLine()
+{
+    Column = 0;
+    PenX = LeftMargin;
+}
+
+// The spaces of a tab are not measured: the next character's wrap test catches up.
+void TextBuffer::StoreTab()
+{
+    do {
+        Store(SPACE);
+        Column = Saturated(std::int64_t{Column} + 1);
+    } while (Column % TabWidth != TabWidth - 1);
+}
+
+void TextBuffer::StoreCharacter(unsigned char b)
+{
+    if (std::int64_t{PenX} + CharWidth[b] >= WrapLimit) {
+        BreakLine();
+    }
+    Store(b);
+    PenX = Saturated(std::int64_t{PenX} + CharWidth[b]);
+    Column = Saturated(std::int64_t{Column} + 1);
+}
+
+void TextBuffer::BreakLine()
+{
+    const Position p = FindBreak(WritePos);
+    if (p == WritePos) {
+        return;
+    }
+    Storage[p] = SOFT_LINE_END;
+    PenX = Saturated(LeftMargin + WidthFrom(Next(p), WritePos));
+    Column = 0;
+}
+
+std::int64_t TextBuffer::WidthFrom(Position start, Position end) const
+{
+    std::int64_t width = 0;
+    for (Position p = start; p != end; p = Next(p)) {
+        width += CharWidth[Storage[p]];
+    }
+    return width;
+}
+
+// The rest of the oldest line goes with whatever part of it was overwritten.
+void TextBuffer::DropOverwrittenLine()
+{
+    HeadPos = Next(WritePos);
+    while (Storage[HeadPos] != HARD_LINE_END && HeadPos != WritePos) {
+        HeadPos = Next(HeadPos);
+    }
+    if (Storage[HeadPos] == HARD_LINE_END) {
+        HeadPos = Next(HeadPos);
+    }
+}
+
+TextBuffer::Position TextBuffer::FindBreak(Position from) const
+{
+    if (from == HeadPos) {
+        return from;
+    }
+    Position p = from;
+    do {
+        p = Prev(p);
+        const unsigned char b = Storage[p];
+        if (IsLineEnd(b)) {
+            return from;
+        }
+        if (b == SPACE) {
+            return p;
+        }
+    } while (p != HeadPos);
+    return from;
+}
+
+void TextBuffer::Rewrap()
+{
+    for (Position p = HeadPos; p != WritePos; p = Next(p)) {
+        if (Storage[p] == SOFT_LINE_END) {
+            Storage[p] = SPACE;
+        }
+    }
+    std::int64_t x = LeftMargin;
+    Position p = HeadPos;
+    while (p != WritePos) {
+        const unsigned char b = Storage[p];
+        if (b == HARD_LINE_END) {
+            x = LeftMargin;
+        } else if (!IsColorCode(b)) {
+            const std::int64_t n = x + CharWidth[b];
+            if (n < WrapLimit) {
+                x = n;
+            } else if (const Position q = FindBreak(p); q != p) {
+                // The text moved to the new line is measured again from its first byte.
+                Storage[q] = SOFT_LINE_END;
+                x = LeftMargin;
+                p = Next(q);
+                continue;
+            }
+        }
+        p = Next(p);
+    }
+}
+
+std::int32_t TextBuffer::CountLines() const
+{
+    if (HeadPos == WritePos) {
+        return 0;
+    }
+    std::int32_t count = 0;
+    for (Position p = HeadPos; p != WritePos; p = Next(p)) {
+        if (IsLineEnd(Storage[p])) {
+            ++count;
+        }
+    }
+    return Storage[Prev(WritePos)] == HARD_LINE_END ? count : count + 1;
+}
+
+TextBuffer::Position TextBuffer::SeekLine(std::int32_t index)
+{
+    WalkPos = HeadPos;
+    for (std::int32_t i = 0; i < index; ++i) {
+        while (WalkPos != WritePos && !IsLineEnd(Storage[WalkPos])) {
+            WalkPos = Next(WalkPos);
+        }
+        if (WalkPos == WritePos) {
+            break;
+        }
+        WalkPos = Next(WalkPos);
+    }
+    return WalkPos;
+}
+
+void TextBuffer::SeekFromEnd(std::int32_t rows)
+{
+    WalkPos = WritePos;
+    if (rows < 1 || WritePos == HeadPos) {
+        return;
+    }
+    for (;;) {
+        if (IsLineEnd(Storage[WalkPos]) && --rows < 1) {
+            break;
+        }
+        WalkPos = Prev(WalkPos);
+        if (WalkPos == HeadPos) {
+            break;
+        }
+    }
+    if (WalkPos != HeadPos) {
+        WalkPos = Next(WalkPos);
+    }
+}
+
+char* TextBuffer::ReadLine(char* out, std::int32_t& limit, bool useSelection, bool* selectionSeen)
+{
+    const std::int32_t lo = std::min(SelStart, SelEnd);
+    const std::int32_t hi = std::max(SelStart, SelEnd);
+    const bool marks = useSelection && lo != hi;
+    bool inSelection = false;
+    bool seen = false;
+    std::int32_t n = 0;
+    std::int32_t o = Offset(WalkPos);
+    char* w = out;
+    if (marks && lo < o && o < hi) {
+        // The selection began on an earlier line.
+        *w++ = static_cast<char>(SELECTION_MARK_ON);
+        inSelection = true;
+        seen = true;
+    }
+    while (WalkPos != WritePos) {
+        const unsigned char b = Storage[WalkPos];
+        if (IsLineEnd(b)) {
+            WalkPos = Next(WalkPos);
+            break;
+        }
+        if (n < limit) {
+            if (marks && !inSelection && o == lo) {
+                *w++ = static_cast<char>(SELECTION_MARK_ON);
+                inSelection = true;
+                seen = true;
+            } else if (marks && o == hi) {
+                *w++ = static_cast<char>(SELECTION_MARK_OFF);
+                inSelection = false;
+            }
+            *w++ = static_cast<char>(b);
+            ++n;
+        }
+        WalkPos = Next(WalkPos);
+        ++o;
+    }
+    if (inSelection) {
+        *w++ = static_cast<char>(SELECTION_MARK_OFF);
+    }
+    *w = '\0';
+    limit = n;
+    if (selectionSeen != nullptr) {
+        *selectionSeen = seen;
+    }
+    return out;
+}
+
+std::int32_t TextBuffer::LineIndexOf(Position position) const
+{
+    position = position < Capacity ? position : position % Capacity;
+    std::int32_t count = 0;
+    for (Position p = HeadPos; p != position; p = Next(p)) {
+        if (p == WritePos) {
+            return 0;
+        }
+        if (IsLineEnd(Storage[p])) {
+            ++count;
+        }
+    }
+    return count;
+}
+
+std::size_t TextBuffer::CopyAsText(char* out, std::size_t room) const
+{
+    if (room < CLOSING_SIZE) {
+        if (room > 0) {
+            out[0] = '\0';
+        }
+        return 0;
+    }
+    Position p = HeadPos;
+    if (!Wrapped) {
+        // The initial blank lines, and whatever followed them without text.
+        while (p != WritePos && Storage[p] == HARD_LINE_END) {
+            p = Next(p);
+        }
+    }
+    std::size_t length = 0;
+    while (p != WritePos && room - length > CLOSING_SIZE) {
+        const unsigned char b = Storage[p];
+        if (b == HARD_LINE_END) {
+            if (room - length < CLOSING_SIZE + 2) {
+                break;
+            }
+            out[length++] = '\r';
+            out[length++] = '\n';
+        } else {
+            out[length++] = static_cast<char>(b == SOFT_LINE_END ? SPACE : b);
+        }
+        p = Next(p);
+    }
+    out[length++] = '\r';
+    out[length++] = '\n';
+    out[length] = '\0';
+    return length;
+}
+
+void TextBuffer::SetSelection(std::int32_t selStart, std::int32_t selEnd)
+{
+    SelStart = selStart;
+    SelEnd = selEnd;
+}
+
+void TextBuffer::ClearSelection()
+{
+    SetSelection(0, 0);
+}
+
+bool TextBuffer::CopyBufferTo(TextBuffer& other) const
+{
+    if (other.Capacity != Capacity) {
+        return false;
+    }
+    if (&other == this) {
+        return true;
+    }
+    std::copy_n(Storage.get(), Capacity, other.Storage.get());
+    other.WritePos = WritePos;
+    other.HeadPos = HeadPos;
+    other.SelStart = SelStart;
+    other.SelEnd = SelEnd;
+    other.Wrapped = Wrapped;
+    other.PenX = PenX;
+    other.LeftMargin = LeftMargin;
+    other.WrapLimit = WrapLimit;
+    other.CharWidth = CharWidth;
+    return true;
+}
+
+void TextBuffer::CopySelectionTo(TextBuffer& other) const
+{
+    other.SelStart = SelStart;
+    other.SelEnd = SelEnd;
+}
+
+} // namespace steward
