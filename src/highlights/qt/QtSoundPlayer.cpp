@@ -8,6 +8,17 @@
 #include <QSoundEffect>
 #include <QUrl>
 
+// The compiled-in files sit in the static ui library, whose resource initialiser nothing else
+// references, so it is called here by name; it must be called outside any namespace.
+static void LoadResources()
+{
+    static const bool loaded = [] {
+        Q_INIT_RESOURCE(resources);
+        return true;
+    }();
+    (void)loaded;
+}
+
 namespace steward {
 
 QtSoundPlayer::QtSoundPlayer()
@@ -33,6 +44,7 @@ bool QtSoundPlayer::PlayFile(const char* path)
 
 void InstallDefaultSounds(const QString& folder)
 {
+    LoadResources();
     const QDir sounds(QStringLiteral(":/sounds"));
     for (const QString& name : sounds.entryList(QDir::Files)) {
         const QString target = QDir(folder).filePath(name);
