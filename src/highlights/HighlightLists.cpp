@@ -5,9 +5,20 @@
 namespace steward {
 namespace {
 
-std::string ListPath(const std::string& folder, const std::string& character, const char* extension)
+void LoadList(HighlightList& list, const std::string& path, const HighlightTrace& trace)
 {
-    return folder + "/" + character + extension;
+    if (trace)
+        trace("HIGHLIGHTS: Loading from \"" + path + "\"\n");
+    list.Load(path.c_str());
+}
+
+void SaveList(const HighlightList& list, const std::string& path, const HighlightTrace& trace)
+{
+    if (path.empty())
+        return;
+    if (trace)
+        trace("HIGHLIGHTS: Saving to \"" + path + "\"\n");
+    list.Save(path.c_str());
 }
 
 } // namespace
@@ -23,16 +34,18 @@ bool HighlightLists::IsNameListed(const char* name) const
     return steward::IsNameListed(NameHighlights, name);
 }
 
-void HighlightLists::Load(const std::string& folder, const std::string& character)
+void HighlightLists::Load(const std::string& highlightsPath, const std::string& namesPath,
+                          const HighlightTrace& trace)
 {
-    StringHighlights.Load(ListPath(folder, character, ".Highlights").c_str());
-    NameHighlights.Load(ListPath(folder, character, ".Names").c_str());
+    LoadList(StringHighlights, highlightsPath, trace);
+    LoadList(NameHighlights, namesPath, trace);
 }
 
-void HighlightLists::Save(const std::string& folder, const std::string& character) const
+void HighlightLists::Save(const std::string& highlightsPath, const std::string& namesPath,
+                          const HighlightTrace& trace) const
 {
-    StringHighlights.Save(ListPath(folder, character, ".Highlights").c_str());
-    NameHighlights.Save(ListPath(folder, character, ".Names").c_str());
+    SaveList(StringHighlights, highlightsPath, trace);
+    SaveList(NameHighlights, namesPath, trace);
 }
 
 bool HighlightLists::CopyToHighlights(int command, ClipboardReader& clipboard)

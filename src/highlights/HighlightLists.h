@@ -6,6 +6,7 @@
 #include "highlights/SoundPlayer.h"
 
 #include <cstddef>
+#include <functional>
 #include <string>
 
 namespace steward {
@@ -13,6 +14,9 @@ namespace steward {
 // Frame commands of the "Copy Special" submenu that add the selection to a list.
 constexpr int CMD_COPY_TO_STRING_HIGHLIGHTS = 1104;
 constexpr int CMD_COPY_TO_NAME_HIGHLIGHTS = 1105;
+
+// Receives the debug trace lines of loading and saving, which the user never sees.
+using HighlightTrace = std::function<void(const std::string& line)>;
 
 // The two lists of the session, with the one index that the matcher keeps over both.
 class HighlightLists {
@@ -28,9 +32,12 @@ class HighlightLists {
     void ApplyHighlights(char* line, std::size_t capacity, bool squelch, HighlightSounds& sounds);
     bool IsNameListed(const char* name) const;
 
-    // Reads and writes "folder/character.Highlights" and "folder/character.Names".
-    void Load(const std::string& folder, const std::string& character);
-    void Save(const std::string& folder, const std::string& character) const;
+    // Reads StringHighlights from the first file and NameHighlights from the second, telling
+    // trace the debug line of each file.
+    void Load(const std::string& highlightsPath, const std::string& namesPath,
+              const HighlightTrace& trace = {});
+    void Save(const std::string& highlightsPath, const std::string& namesPath,
+              const HighlightTrace& trace = {}) const;
 
     // Copy Special: the clipboard's lines go to the list of the command; false for another one.
     bool CopyToHighlights(int command, ClipboardReader& clipboard);

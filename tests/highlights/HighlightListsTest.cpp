@@ -66,25 +66,33 @@ TEST(HighlightListsSession, StringsRunFirstAndNamesNestInside)
     EXPECT_FALSE(lists.IsNameListed("Tam"));
 }
 
-TEST(HighlightListsSession, LoadAndSaveUseTheCharactersTwoFiles)
+TEST(HighlightListsSession, LoadAndSaveUseTwoFilesAndTraceEach)
 {
     TempFolder folder;
+    const std::string strings = folder.File("Hero.Highlights");
+    const std::string names = folder.File("Hero.Names");
+    std::vector<std::string> trace;
+    auto record = [&trace](const std::string& line) { trace.push_back(line); };
     {
         HighlightLists lists;
         lists.StringHighlights.Add("{gong}*Attention", 14);
         lists.NameHighlights.Add("Mara", 0x1E);
-        lists.Save(folder.Path(), "Hero");
+        lists.Save(strings, names, record);
     }
-    std::ifstream names(folder.File("Hero.Names"));
+    EXPECT_EQ(trace, (std::vector<std::string>{"HIGHLIGHTS: Saving to \"" + strings + "\"\n",
+                                               "HIGHLIGHTS: Saving to \"" + names + "\"\n"}));
+    std::ifstream file(names);
     std::string line;
-    std::getline(names, line);
+    std::getline(file, line);
     EXPECT_EQ(line, "030 \"Mara\"");
+    trace.clear();
     HighlightLists lists;
     lists.NameHighlights.Add("stale", 1);
-    lists.Load(folder.Path(), "Hero");
+    lists.Load(strings, names, record);
+    EXPECT_EQ(trace.front(), "HIGHLIGHTS: Loading from \"" + strings + "\"\n");
     EXPECT_STREQ(lists.StringHighlights.Text(0), "{gong}*Attention");
     EXPECT_STREQ(lists.NameHighlights.Text(0), "Mara");
-    lists.Load(folder.Path(), "Nobody");
+    lists.Load(folder.File("Nobody.Highlights"), folder.File("Nobody.Names"));
     EXPECT_STREQ(lists.NameHighlights.Text(0), "") << "a character with no files has no entries";
 }
 
