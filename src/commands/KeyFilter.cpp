@@ -30,12 +30,21 @@ bool KeyFilter::KeyDown(int virtualKey, KeyModifiers modifiers)
     if (parts_.Host.RestMode())
         parts_.Host.PrintToGameWindow("\r\nLeaving rest mode.\r\n");
     parts_.Host.SetRestMode(false);
-    char first[2];
-    bool empty = parts_.Line.GetText(first, sizeof first) == 0;
-    KeyDecision decision =
-        DecideKey(virtualKey, modifiers, parts_.Options.HonorNumLock != 0, empty);
+    KeyDecision decision = Decide(virtualKey, modifiers);
     Act(decision, modifiers);
     return decision.Taken;
+}
+
+bool KeyFilter::WouldTake(int virtualKey, KeyModifiers modifiers) const
+{
+    return Decide(virtualKey, modifiers).Taken;
+}
+
+KeyDecision KeyFilter::Decide(int virtualKey, KeyModifiers modifiers) const
+{
+    char first[2];
+    bool empty = parts_.Line.GetText(first, sizeof first) == 0;
+    return DecideKey(virtualKey, modifiers, parts_.Options.HonorNumLock != 0, empty);
 }
 
 void KeyFilter::Act(const KeyDecision& decision, KeyModifiers modifiers)

@@ -24,8 +24,11 @@ class KeyFilter {
 
     // Every key press, modifiers included; true when the key was taken.
     bool KeyDown(int virtualKey, KeyModifiers modifiers);
+    // Whether KeyDown would take the key, without acting; for a shortcut's first look.
+    bool WouldTake(int virtualKey, KeyModifiers modifiers) const;
 
   private:
+    KeyDecision Decide(int virtualKey, KeyModifiers modifiers) const;
     void Act(const KeyDecision& decision, KeyModifiers modifiers);
     void SelectMacroSet(int index);
     void Escape();

@@ -1,0 +1,269 @@
+#include "commands/qt/KeyFilterQt.h"
+#include "commands/KeyboardDoubles.h"
+#include "commands/qt/CommandLine.h"
+#include "commands/qt/KeyMapQt.h"
+
+#include <QApplication>
+#include <QDialog>
+#include <QKeyEvent>
+#include <QMainWindow>
+#include <QMenu>
+#include <QMenuBar>
+#include <QSignalSpy>
+#include <QTest>
+#include <gtest/gtest.h>
+
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace steward::test {
+namespace {
+
+using Strings = std::vector<std::string>;
+
+// A frame with a File menu and the command line, the keyboard wired to recording doubles.
+class KeyFilterQtTest : public ::testing::Test {
+  protected:
+    KeyFilterQtTest()
+    {
+        fileMenu = window.menuBar()->addMenu("&File");
+        fileMenu->addAction("E&xit");
+        window.setCentralWidget(line);
+        SetDefaultMacros(macros, false);
+        qApp->installEventFilter(&qtFilter);
+        window.show();
+        QApplication::setActiveWindow(&window);
+        line->setFocus();
+        EXPECT_TRUE(QTest::qWaitForWindowActive(&window));
+    }
+    ~KeyFilterQtTest() override { qApp->removeEventFilter(&qtFilter); }
+
+    void Click(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier)
+    {
+        QTest::keyClick(QApplication::focusWidget(), key, modifiers);
+    }
+    void ServeQueue()
+    {
+        std::vector<int> posted;
+        posted.swap(queue.commands);
+        for (int command : posted) {
+            if (command == MM_ENTER_KEY)
+                road.EnterKey();
+        }
+    }
+    std::string Text() const { return line->text().toStdString(); }
+
+    QMainWindow window;
+    QMenu* fileMenu = nullptr;
+    CommandLine* line = new CommandLine(&window); // owned by the window
+    RecordingSink sink;
+    RecordingQueue queue;
+    RecordingHost host;
+    CommandHistory history;
+    MacroStore macros;
+    CommandState state;
+    Settings options;
+    CommandParts parts{*line, sink, queue, host, history, macros, state, options};
+    CommandRoad road{parts};
+    MacroPlayer player{parts, road};
+    KeyFilter filter{parts, road, player};
+    KeyFilterQt qtFilter{filter, *line};
+};
+
+TEST_F(KeyFilterQtTest, TypedLineGoesOutOnEnter)
+{
+    QTest::keyClicks(line, "look");
+    Click(Qt::Key_Return);
+    EXPECT_EQ(queue.commands, std::vector<int>{MM_ENTER_KEY});
+    ServeQueue();
+    EXPECT_EQ(sink.sent, Strings{"look"});
+    EXPECT_EQ(Text(), "");
+    EXPECT_STREQ(history.EntryAt(0), "look");
+}
+
+TEST_F(KeyFilterQtTest, AltFIsAMacroKeyAndNeverOpensTheFileMenu)
+{
+    QSignalSpy shown(fileMenu, &QMenu::aboutToShow);
+    Click(Qt::Key_F, Qt::AltModifier);
+    EXPECT_EQ(shown.count(), 0);
+    EXPECT_EQ(QApplication::activePopupWidget(), nullptr);
+    EXPECT_EQ(Text(), "");
+    macros.SetMacro(KEY_ALT, 'F', "flee");
+    Click(Qt::Key_F, Qt::AltModifier);
+    EXPECT_EQ(Text(), "flee");
+    EXPECT_EQ(shown.count(), 0);
+}
+
+TEST_F(KeyFilterQtTest, BareAltKeepsTheFocusOnTheLine)
+{
+    Click(Qt::Key_Alt, Qt::AltModifier);
+    EXPECT_EQ(QApplication::focusWidget(), line);
+    EXPECT_EQ(window.menuBar()->activeAction(), nullptr);
+    QTest::keyClicks(line, "ok");
+    EXPECT_EQ(Text(), "ok");
+}
+
+TEST_F(KeyFilterQtTest, KeypadPlaysMacrosWithNumLockOnAndOff)
+{
+    Click(Qt::Key_8, Qt::KeypadModifier);
+    Click(Qt::Key_Up, Qt::KeypadModifier);
+    EXPECT_EQ(sink.sent, (Strings{"n", "n"}));
+    EXPECT_EQ(Text(), "");
+}
+
+TEST_F(KeyFilterQtTest, HonouredNumLockTypesDigitsAndOffPlaysMacros)
+{
+    options.HonorNumLock = 1;
+    Click(Qt::Key_8, Qt::KeypadModifier);
+    Click(Qt::Key_Asterisk, Qt::KeypadModifier);
+    EXPECT_EQ(Text(), "8*");
+    EXPECT_TRUE(qtFilter.NumLockOn());
+    Click(Qt::Key_Up, Qt::KeypadModifier);
+    EXPECT_FALSE(qtFilter.NumLockOn());
+    EXPECT_EQ(sink.sent, Strings{"n"}); // the macro's \x drops the typed digits
+    Click(Qt::Key_Asterisk, Qt::KeypadModifier);
+    EXPECT_EQ(sink.sent, (Strings{"n", "exp"}));
+}
+
+TEST_F(KeyFilterQtTest, KeypadEnterOnAnEmptyLineRepeatsAndSendsAnEmptyCommand)
+{
+    history.RememberCommand("kill rat", 4);
+    Click(Qt::Key_Enter, Qt::KeypadModifier);
+    ServeQueue();
+    EXPECT_EQ(sink.sent, (Strings{"kill rat", ""}));
+}
+
+TEST_F(KeyFilterQtTest, ArrowsBrowseTheHistory)
+{
+    history.RememberCommand("look", 4);
+    history.RememberCommand("kill rat", 4);
+    Click(Qt::Key_Up);
+    Click(Qt::Key_Up);
+    EXPECT_EQ(Text(), "look");
+    EXPECT_EQ(line->cursorPosition(), 4);
+    Click(Qt::Key_Down);
+    EXPECT_EQ(Text(), "kill rat");
+    Click(Qt::Key_Left);
+    Click(Qt::Key_Backspace);
+    EXPECT_EQ(Text(), "kill rt");
+}
+
+TEST_F(KeyFilterQtTest, EscapeEmptiesTheLineAndLeavesScrollback)
+{
+    QTest::keyClicks(line, "half");
+    Click(Qt::Key_Escape);
+    EXPECT_EQ(Text(), "");
+    EXPECT_EQ(host.calls, Strings{"endscrollback"});
+}
+
+TEST_F(KeyFilterQtTest, ModalDialogsKeepTheirKeys)
+{
+    macros.SetMacro(KEY_ALT, 'F', "flee");
+    QDialog dialog(&window);
+    auto* field = new QLineEdit(&dialog);
+    dialog.open();
+    field->setFocus();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&dialog));
+    QTest::keyClick(field, Qt::Key_F, Qt::AltModifier);
+    QTest::keyClick(field, Qt::Key_8, Qt::KeypadModifier);
+    EXPECT_EQ(Text(), "");
+    EXPECT_EQ(field->text().toStdString(), "f8");
+    EXPECT_TRUE(sink.sent.empty());
+    dialog.reject();
+}
+
+TEST_F(KeyFilterQtTest, TypedCharactersOutsideAsciiBecomeQuestionMarks)
+{
+    QTest::keyClicks(line, "caf");
+    QKeyEvent accent(QEvent::KeyPress, Qt::Key_Eacute, Qt::NoModifier,
+                     QString::fromUtf8("\xc3\xa9"));
+    QApplication::sendEvent(line, &accent);
+    QTest::keyClick(line, '!');
+    EXPECT_EQ(Text(), "caf?!");
+}
+
+TEST_F(KeyFilterQtTest, TheLineHoldsAt255Characters)
+{
+    QTest::keyClicks(line, QString(300, 'a'));
+    EXPECT_EQ(line->text().size(), 255);
+    line->SetSelection(0, 1);
+    line->TypeCharacter('b');
+    EXPECT_EQ(line->text().left(2).toStdString(), "ba");
+    EXPECT_EQ(line->text().size(), 255);
+}
+
+TEST_F(KeyFilterQtTest, AltDigitChangesTheMacroSet)
+{
+    Click(Qt::Key_4, Qt::AltModifier);
+    EXPECT_EQ(macros.CurrentMacroSet(), 3);
+    EXPECT_EQ(host.title, "Thornmere [Ayla]: Current Macro Set: 4 - ");
+}
+
+TEST(CommandLineEdit, ActsAsAnEditControl)
+{
+    CommandLine line;
+    line.SetText("tell bob hi");
+    EXPECT_EQ(line.cursorPosition(), 0);
+    line.SetSelection(5, 8);
+    int start = 0;
+    int end = 0;
+    line.GetSelection(start, end);
+    EXPECT_EQ(start, 5);
+    EXPECT_EQ(end, 8);
+    line.TypeCharacter('X');
+    EXPECT_EQ(line.text().toStdString(), "tell X hi");
+    line.GetSelection(start, end);
+    EXPECT_EQ(start, 6);
+    EXPECT_EQ(end, 6);
+    line.Clear();
+    EXPECT_EQ(line.text().toStdString(), "tell X hi");
+    line.SetSelection(900, 900);
+    EXPECT_EQ(line.cursorPosition(), 9);
+    line.TypeCharacter('\x85');
+    char text[8];
+    EXPECT_EQ(line.GetText(text, sizeof text), 7u);
+    EXPECT_STREQ(text, "tell X ");
+}
+
+struct MapCase {
+    Qt::Key key;
+    Qt::KeyboardModifiers modifiers;
+    bool numLockBefore;
+    int virtualKey;
+    KeyModifiers expected;
+    bool numLockAfter;
+};
+
+TEST(KeyMap, QtKeysBecomeVirtualKeysAndModifiers)
+{
+    const Qt::KeyboardModifiers none = Qt::NoModifier;
+    const Qt::KeyboardModifiers pad = Qt::KeypadModifier;
+    const MapCase cases[] = {
+        {Qt::Key_A, Qt::AltModifier | Qt::ShiftModifier, false, 'A', KEY_ALT | KEY_SHIFT, false},
+        {Qt::Key_7, Qt::ControlModifier, true, '7', KEY_CTRL | KEY_NUMLOCK, true},
+        {Qt::Key_F12, none, false, VK_F12, 0, false},
+        {Qt::Key_Up, none, false, VK_UP, KEY_EXTENDED, false},
+        {Qt::Key_Up, pad, true, VK_UP, 0, false},
+        {Qt::Key_Clear, pad, true, VK_CLEAR, 0, false},
+        {Qt::Key_5, pad, false, VK_NUMPAD0 + 5, KEY_NUMLOCK, true},
+        {Qt::Key_Period, pad, false, VK_DECIMAL, KEY_NUMLOCK, true},
+        {Qt::Key_Slash, pad, true, VK_DIVIDE, KEY_NUMLOCK, true},
+        {Qt::Key_Minus, pad, false, VK_SUBTRACT, 0, false},
+        {Qt::Key_Enter, pad, false, VK_RETURN, KEY_EXTENDED, false},
+        {Qt::Key_Return, none, false, VK_RETURN, 0, false},
+        {Qt::Key_Backtab, Qt::ShiftModifier, false, VK_TAB, KEY_SHIFT, false},
+        {Qt::Key_Alt, Qt::AltModifier, false, VK_MENU, KEY_ALT, false},
+        {Qt::Key_Backspace, none, false, 0, 0, false},
+    };
+    for (const MapCase& c : cases) {
+        bool numLock = c.numLockBefore;
+        TranslatedKey key = TranslateKey(c.key, c.modifiers, numLock);
+        EXPECT_EQ(key.VirtualKey, c.virtualKey) << c.key;
+        EXPECT_EQ(key.Modifiers, c.expected) << c.key;
+        EXPECT_EQ(numLock, c.numLockAfter) << c.key;
+    }
+}
+
+} // namespace
+} // namespace steward::test
