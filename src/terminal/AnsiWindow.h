@@ -1,0 +1,171 @@
+#pragma once
+
+#include "analysis/PromptState.h"
+#include "config/BinaryRecords.h"
+#include "config/Settings.h"
+#include "terminal/AnsiWindowHost.h"
+#include "terminal/ColorStacks.h"
+#include "terminal/DrawingLayer.h"
+#include "terminal/TextBuffer.h"
+
+#include <cstddef>
+#include <cstdint>
+#include <memory>
+
+namespace steward {
+
+constexpr std::size_t SECTION_NAME_SIZE = 256;
+constexpr std::size_t WINDOW_NAME_SIZE = 64;
+constexpr std::size_t LABEL_SIZE = 128;
+
+// Text starts this many pixels right of the client area's left edge.
+constexpr std::int32_t TEXT_LEFT = 4;
+// A font that measures less than one pixel high gets rows of this height.
+constexpr std::int32_t FALLBACK_LINE_HEIGHT = 8;
+// While live, the scroll bar stands at the bottom of this artificial range.
+constexpr std::int32_t LIVE_SCROLL_MAX = 100;
+// TopLine while live; every freeze replaces it.
+constexpr std::int32_t NO_TOP_LINE = -100;
+
+// Scroll commands, with the values of the window system's scroll bar.
+constexpr int SB_LINEUP = 0;
+constexpr int SB_LINEDOWN = 1;
+constexpr int SB_PAGEUP = 2;
+constexpr int SB_PAGEDOWN = 3;
+constexpr int SB_THUMBPOSITION = 4;
+constexpr int SB_THUMBTRACK = 5;
+constexpr int SB_TOP = 6;
+constexpr int SB_BOTTOM = 7;
+
+// What a text window is built from. ProfilePath is the profile's .Dat file, a buffer that
+// outlives the window; Prompt is given to the Game window only, which also draws the cursor.
+struct AnsiWindowParts {
+    AnsiWindowHost& Host;
+    const Settings& Options;
+    const char* ProfilePath;
+    PromptState* Prompt = nullptr;
+};
+
+// One text window: its two buffers, layout, colours and font measurements, the frozen view of
+// its scrollback, and the painting of its rows. Each window message is a call of its name.
+class AnsiWindow : public FontTarget {
+  public:
+    // Null when a buffer cannot be made.
+    static std::unique_ptr<AnsiWindow> Create(const char* name, const AnsiWindowParts& parts);
+
+    AnsiWindow(const AnsiWindow&) = delete;
+    AnsiWindow& operator=(const AnsiWindow&) = delete;
+
+    // Window messages of the program.
+    void SetName(const char* text);
+    void SetLogFont(const LogFontRecord& record);
+    COLORREF GetBkColor() const { return BackColor; }
+    COLORREF GetTextColor() const { return TextColor; }
+    std::uint16_t GetText(char* out, std::uint16_t room) const;
+    int AppendText(const char* text, bool lineFeedFirst = false);
+    void EndScrollback();
+    std::int32_t GetLineCount() const { return LiveBuffer->CountLines(); }
+    std::int32_t GetViewLineCount() const { return ViewBuffer->CountLines(); }
+    void SaveState();
+    // Null when no buffer can be made; the caller owns the copy.
+    std::unique_ptr<TextBuffer> CloneBuffer() const;
+    void RestoreBuffer(std::unique_ptr<TextBuffer> buffer);
+    void SetLabel(const char* text);
+    // out has room for LABEL_SIZE bytes.
+    std::size_t GetLabel(char* out) const;
+    bool HasSelection() const;
+
+    // Events of the window system.
+    // WM_SETFONT: a null record gives the system's fixed-pitch font.
+    void SetFont(const LogFontRecord* record, bool redraw) override;
+    const LogFontRecord& GetFont() const { return Font; }
+    // WM_SIZE: relayout from the host's client area; a minimised window changes nothing.
+    void Size(bool minimized);
+    // WM_PAINT.
+    void Paint(DrawingLayer& layer, bool erase);
+    // WM_VSCROLL.
+    void VScroll(int command, std::int32_t thumb);
+    // WM_MDIACTIVATE: the selection shows only in the active window.
+    void MdiActivate();
+    // WM_DESTROY: the window's font, placement and colours go to the profile.
+    void Destroy() { SaveState(); }
+
+    // The popup menu's Appearance commands.
+    void ChangeForegroundColor();
+    void ChangeBackgroundColor();
+    void ChangeFont();
+
+    void PaintText(DrawingLayer& layer);
+
+    // The frozen view of the scrollback.
+    void FreezeView();
+    void ThawView();
+    void ClampView(bool repaint);
+    void ScrollUpOne(bool repaint);
+    void ScrollDownOne(bool repaint);
+    void ApplyScrollCommand(int command, std::int32_t thumb);
+
+    bool IsFrozen() const { return Frozen; }
+    bool IsGameWindow() const { return prompt_ != nullptr; }
+    std::int32_t GetTopLine() const { return TopLine; }
+    std::int32_t GetViewLines() const { return ViewLines; }
+    std::int32_t GetRows() const { return Rows; }
+    std::int32_t GetTextTop() const { return TextTop; }
+    std::int32_t GetTextLeft() const { return TextLeft; }
+    std::int32_t GetLineHeight() const { return LineHeight; }
+    const Rect& GetClientRect() const { return ClientRect; }
+    const CharWidthTable& GetCharWidth() const { return CharWidth; }
+    const char* GetWindowName() const { return WindowName; }
+    const char* GetSectionName() const { return SectionName; }
+    TextBuffer& GetLiveBuffer() { return *LiveBuffer; }
+    TextBuffer& GetViewBuffer() { return *ViewBuffer; }
+    // The ViewBuffer while frozen, else the LiveBuffer.
+    TextBuffer& DisplayedBuffer() { return Frozen ? *ViewBuffer : *LiveBuffer; }
+    const TextBuffer& DisplayedBuffer() const { return Frozen ? *ViewBuffer : *LiveBuffer; }
+
+  private:
+    AnsiWindow(const AnsiWindowParts& parts, std::unique_ptr<TextBuffer> live,
+               std::unique_ptr<TextBuffer> view);
+
+    void LoadColors();
+    void LoadFont();
+    void Layout();
+    void KeepTopLineAfterResize();
+    void PrepareScrollBack();
+    void ChangeColor(COLORREF& color, bool foregroundRule);
+    std::int32_t PaintRow(DrawingLayer& layer, TextBuffer& shown, std::int32_t y, bool active);
+    void ApplyColorCode(DrawingLayer& layer, unsigned char code, bool selectionSeen);
+    void Fill(DrawingLayer& layer, const Rect& rect);
+
+    AnsiWindowHost& host_;
+    const Settings& options_;
+    const char* profilePath_;
+    PromptState* prompt_;
+
+    std::unique_ptr<TextBuffer> LiveBuffer;
+    std::unique_ptr<TextBuffer> ViewBuffer;
+    std::int32_t TopLine = NO_TOP_LINE;
+    std::int32_t ViewLines = 0;
+    CharWidthTable CharWidth{};
+    bool Frozen = false;
+    Rect ClientRect;
+    std::int32_t Rows = 0;
+    std::int32_t TextLeft = TEXT_LEFT;
+    std::int32_t TextTop = 0;
+    COLORREF TextColor = 0;
+    COLORREF BackColor = 0;
+    LogFontRecord Font;
+    std::int32_t Overhang = 0;
+    std::int32_t LineHeight = FALLBACK_LINE_HEIGHT;
+    char SectionName[SECTION_NAME_SIZE] = {};
+    char WindowName[WINDOW_NAME_SIZE] = {};
+    char Label[LABEL_SIZE] = {};
+    ColorStacks Stacks;
+    // Filled by ReadLine on each painted row, so painting allocates nothing.
+    char line_[READ_LINE_BUFFER_SIZE] = {};
+};
+
+// "Ga" at the start of the name asks for the large ring.
+std::uint32_t BufferCapacityFor(const char* name);
+
+} // namespace steward

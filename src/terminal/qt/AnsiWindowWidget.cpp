@@ -1,0 +1,306 @@
+#include "terminal/qt/AnsiWindowWidget.h"
+
+#include "session/Wheel.h"
+#include "terminal/qt/FontRecord.h"
+
+#include <QApplication>
+#include <QMdiArea>
+#include <QMdiSubWindow>
+#include <QMenu>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QScrollBar>
+#include <QWheelEvent>
+
+namespace steward {
+namespace {
+
+constexpr std::uint32_t SW_SHOWMINIMIZED = 2;
+constexpr std::uint32_t SW_SHOWMAXIMIZED = 3;
+
+} // namespace
+
+std::unique_ptr<AnsiWindowWidget> AnsiWindowWidget::Create(const char* name, const Parts& parts)
+{
+    std::unique_ptr<AnsiWindowWidget> widget(new AnsiWindowWidget(parts));
+    widget->setWindowTitle(QString::fromLatin1(name));
+    widget->window_ = AnsiWindow::Create(
+        name, AnsiWindowParts{*widget, parts.Options, parts.ProfilePath, parts.Prompt});
+    if (!widget->window_)
+        return nullptr;
+    widget->layer_.SetCharWidths(&widget->window_->GetCharWidth());
+    return widget;
+}
+
+AnsiWindowWidget::AnsiWindowWidget(const Parts& parts)
+    : dialogs_(parts.Dialogs ? parts.Dialogs : &qtDialogs_),
+      scrollBar_(new QScrollBar(Qt::Vertical, this))
+{
+    setAttribute(Qt::WA_OpaquePaintEvent);
+    setFocusPolicy(Qt::ClickFocus);
+    setCursor(Qt::IBeamCursor);
+    scrollBar_->setFocusPolicy(Qt::NoFocus);
+    connect(scrollBar_, &QScrollBar::actionTriggered, this, &AnsiWindowWidget::ScrollBarAction);
+    repaintTimer_.setSingleShot(true);
+    repaintTimer_.setInterval(REPAINT_INTERVAL_MS);
+    connect(&repaintTimer_, &QTimer::timeout, this, [this] {
+        repaintPending_ = false;
+        update();
+    });
+}
+
+AnsiWindowWidget::~AnsiWindowWidget()
+{
+    if (window_)
+        window_->Destroy();
+}
+
+void AnsiWindowWidget::MenuCommand(int id)
+{
+    if (id == IDM_CHANGE_FOREGROUND)
+        window_->ChangeForegroundColor();
+    else if (id == IDM_CHANGE_BACKGROUND)
+        window_->ChangeBackgroundColor();
+    else if (id == IDM_CHANGE_FONT)
+        window_->ChangeFont();
+}
+
+Rect AnsiWindowWidget::GetClientRect() const
+{
+    const int bar = scrollBar_->sizeHint().width();
+    return Rect{0, 0, std::max(0, width() - bar), height()};
+}
+
+void AnsiWindowWidget::InvalidateRect(bool)
+{
+    repaintPending_ = true;
+    if (!repaintTimer_.isActive())
+        repaintTimer_.start();
+}
+
+void AnsiWindowWidget::UpdateWindow()
+{
+    if (!repaintPending_)
+        return;
+    repaintTimer_.stop();
+    repaintPending_ = false;
+    repaint();
+}
+
+void AnsiWindowWidget::SetScrollRange(std::int32_t minimum, std::int32_t maximum, bool)
+{
+    scrollBar_->setRange(minimum, std::max(minimum, maximum));
+    scrollPos_ = scrollBar_->value();
+}
+
+void AnsiWindowWidget::SetScrollPos(std::int32_t position, bool)
+{
+    scrollBar_->setValue(position);
+    scrollPos_ = scrollBar_->value();
+}
+
+bool AnsiWindowWidget::IsActiveChild() const
+{
+    if (!subWindow_)
+        return true;
+    const QMdiArea* area = subWindow_->mdiArea();
+    return area && area->activeSubWindow() == subWindow_;
+}
+
+void AnsiWindowWidget::FocusCommandLine()
+{
+    if (commandLine_)
+        commandLine_->setFocus();
+}
+
+void AnsiWindowWidget::ClearTitle()
+{
+    setWindowTitle(QString());
+    if (subWindow_)
+        subWindow_->setWindowTitle(QString());
+}
+
+void AnsiWindowWidget::SelectFont(const LogFontRecord* record, LogFontRecord& inUse,
+                                  FontMeasure& measure)
+{
+    font_ = record ? FontFromRecord(*record) : SystemFixedFont();
+    layer_.SetFont(font_);
+    inUse = RecordFromFont(font_);
+    measure.Height = layer_.Height();
+    measure.Overhang = 0;
+    layer_.MeasureWidths(measure.Widths);
+}
+
+QWidget* AnsiWindowWidget::Frame()
+{
+    return subWindow_ ? static_cast<QWidget*>(subWindow_) : this;
+}
+
+bool AnsiWindowWidget::GetWindowPlacement(WindowPlacementRecord& placement)
+{
+    const QWidget* frame = Frame();
+    placement = WindowPlacementRecord{};
+    if (frame->isMinimized())
+        placement.showCmd = SW_SHOWMINIMIZED;
+    else if (frame->isMaximized())
+        placement.showCmd = SW_SHOWMAXIMIZED;
+    const QRect area = frame->geometry();
+    placement.rcNormalPosition = {area.left(), area.top(), area.left() + area.width(),
+                                  area.top() + area.height()};
+    return true;
+}
+
+void AnsiWindowWidget::SetWindowPlacement(const WindowPlacementRecord& placement)
+{
+    const RectRecord& area = placement.rcNormalPosition;
+    QWidget* frame = Frame();
+    frame->setGeometry(area.left, area.top, area.right - area.left, area.bottom - area.top);
+    ShowWindow(placement.showCmd);
+}
+
+void AnsiWindowWidget::ShowWindow(std::uint32_t showCmd)
+{
+    QWidget* frame = Frame();
+    if (showCmd == SW_SHOWMINIMIZED)
+        frame->showMinimized();
+    else if (showCmd == SW_SHOWMAXIMIZED)
+        frame->showMaximized();
+    else
+        frame->showNormal();
+}
+
+bool AnsiWindowWidget::PickColor(COLORREF& color, bool foregroundRule)
+{
+    QColor chosen = ToQColor(color);
+    if (!dialogs_->PickColor(this, chosen, foregroundRule))
+        return false;
+    color = FromQColor(chosen);
+    return true;
+}
+
+bool AnsiWindowWidget::PickFont(const LogFontRecord&, LogFontRecord& record)
+{
+    QFont chosen = font_;
+    if (!dialogs_->PickFont(this, chosen))
+        return false;
+    record = RecordFromFont(chosen);
+    return true;
+}
+
+void AnsiWindowWidget::Beep()
+{
+    QApplication::beep();
+}
+
+bool AnsiWindowWidget::event(QEvent* event)
+{
+    if (event->type() == QEvent::ParentChange)
+        FollowSubWindow();
+    return QWidget::event(event);
+}
+
+void AnsiWindowWidget::paintEvent(QPaintEvent*)
+{
+    if (!window_)
+        return;
+    QPainter painter(this);
+    layer_.Begin(&painter);
+    // Qt keeps no erase request, so every paint fills the bands beside the rows as well.
+    window_->Paint(layer_, true);
+    layer_.End();
+}
+
+void AnsiWindowWidget::resizeEvent(QResizeEvent*)
+{
+    const int bar = scrollBar_->sizeHint().width();
+    scrollBar_->setGeometry(std::max(0, width() - bar), 0, bar, height());
+    if (window_)
+        window_->Size(subWindow_ && subWindow_->isMinimized());
+}
+
+void AnsiWindowWidget::wheelEvent(QWheelEvent* event)
+{
+    const QPoint delta = event->angleDelta();
+    const int amount = delta.y() != 0 ? delta.y() : delta.x();
+    if (amount != 0 && window_) {
+        const bool shift = event->modifiers() & Qt::ShiftModifier;
+        window_->VScroll(WheelScrollCommand(shift, amount), 0);
+    }
+    event->accept();
+}
+
+void AnsiWindowWidget::mouseReleaseEvent(QMouseEvent* event)
+{
+    if (event->button() == Qt::RightButton)
+        ShowPopupMenu(event->globalPosition().toPoint());
+}
+
+void AnsiWindowWidget::focusInEvent(QFocusEvent*)
+{
+    FocusCommandLine();
+}
+
+// Qt moves the slider by itself; the window decides where it stands, as the core set it.
+void AnsiWindowWidget::ScrollBarAction(int action)
+{
+    int command = -1;
+    std::int32_t thumb = 0;
+    switch (action) {
+    case QAbstractSlider::SliderSingleStepSub:
+        command = SB_LINEUP;
+        break;
+    case QAbstractSlider::SliderSingleStepAdd:
+        command = SB_LINEDOWN;
+        break;
+    case QAbstractSlider::SliderPageStepSub:
+        command = SB_PAGEUP;
+        break;
+    case QAbstractSlider::SliderPageStepAdd:
+        command = SB_PAGEDOWN;
+        break;
+    case QAbstractSlider::SliderToMinimum:
+        command = SB_TOP;
+        break;
+    case QAbstractSlider::SliderToMaximum:
+        command = SB_BOTTOM;
+        break;
+    case QAbstractSlider::SliderMove:
+        command = SB_THUMBTRACK;
+        thumb = scrollBar_->sliderPosition();
+        break;
+    default:
+        return;
+    }
+    window_->VScroll(command, thumb);
+    scrollBar_->setSliderPosition(scrollPos_);
+}
+
+void AnsiWindowWidget::FollowSubWindow()
+{
+    disconnect(subWindowConnection_);
+    subWindow_ = qobject_cast<QMdiSubWindow*>(parentWidget());
+    if (subWindow_)
+        subWindowConnection_ = connect(subWindow_, &QMdiSubWindow::windowStateChanged, this,
+                                       &AnsiWindowWidget::SubWindowStateChanged);
+}
+
+void AnsiWindowWidget::SubWindowStateChanged(Qt::WindowStates before, Qt::WindowStates now)
+{
+    if (window_ && ((before ^ now) & Qt::WindowActive))
+        window_->MdiActivate();
+}
+
+void AnsiWindowWidget::ShowPopupMenu(const QPoint& at)
+{
+    QMenu menu(this);
+    QMenu* appearance = menu.addMenu(QStringLiteral("Appearance"));
+    appearance->addAction(QStringLiteral("Change Foreground Color..."))
+        ->setData(IDM_CHANGE_FOREGROUND);
+    appearance->addAction(QStringLiteral("Change Background Color..."))
+        ->setData(IDM_CHANGE_BACKGROUND);
+    appearance->addAction(QStringLiteral("Change Font..."))->setData(IDM_CHANGE_FONT);
+    if (const QAction* chosen = menu.exec(at))
+        MenuCommand(chosen->data().toInt());
+}
+
+} // namespace steward

@@ -1,0 +1,242 @@
+#include "WindowFixture.h"
+
+#include <cstdio>
+#include <string>
+
+namespace steward::testing {
+namespace {
+
+// A fresh ring reads as 99 empty lines; 30 more make 129, shown in 10 rows.
+constexpr std::int32_t TEXT_LINES = 30;
+constexpr std::int32_t LINES = 99 + TEXT_LINES;
+constexpr std::int32_t ROWS = 10;
+constexpr std::int32_t LAST_PAGE = LINES - ROWS;
+
+class ScrollTest : public WindowTest {
+  protected:
+    ScrollTest() : window(Make("Thought Window")) { AppendLines(*window, TEXT_LINES); }
+
+    std::unique_ptr<AnsiWindow> window;
+};
+
+TEST_F(ScrollTest, CommandsOnALiveWindow)
+{
+    struct Case {
+        const char* name;
+        int command;
+        std::int32_t thumb;
+        bool frozen;
+        std::int32_t topLine;
+    };
+    const Case cases[] = {
+        {"line up freezes one line above the last page", SB_LINEUP, 0, true, LAST_PAGE - 1},
+        {"page up", SB_PAGEUP, 0, true, LAST_PAGE - ROWS},
+        {"top", SB_TOP, 0, true, 0},
+        {"thumb as a percentage", SB_THUMBTRACK, 50, true, LINES * 50 / 100 - ROWS / 2},
+        {"thumb position alike", SB_THUMBPOSITION, 10, true, LINES * 10 / 100 - ROWS / 2},
+        {"thumb at the bottom stays live", SB_THUMBTRACK, 100, false, NO_TOP_LINE},
+    };
+    for (const Case& c : cases) {
+        SCOPED_TRACE(c.name);
+        window->EndScrollback();
+        window->ApplyScrollCommand(c.command, c.thumb);
+        EXPECT_EQ(window->IsFrozen(), c.frozen);
+        EXPECT_EQ(window->GetTopLine(), c.topLine);
+        if (!c.frozen)
+            continue;
+        EXPECT_EQ(host.scroll.maximum, LAST_PAGE);
+        EXPECT_EQ(host.scroll.position, c.topLine);
+        EXPECT_EQ(window->GetViewLines(), LINES);
+    }
+}
+
+TEST_F(ScrollTest, DownwardCommandsNeverFreezeALiveWindow)
+{
+    for (int command : {SB_LINEDOWN, SB_PAGEDOWN, SB_BOTTOM}) {
+        host.invalidations.clear();
+        window->ApplyScrollCommand(command, 0);
+        EXPECT_FALSE(window->IsFrozen()) << command;
+        EXPECT_TRUE(host.invalidations.empty()) << command;
+        EXPECT_EQ(host.scroll.maximum, LIVE_SCROLL_MAX);
+        EXPECT_EQ(host.scroll.position, LIVE_SCROLL_MAX);
+    }
+}
+
+TEST_F(ScrollTest, CommandsOnAFrozenView)
+{
+    struct Case {
+        const char* name;
+        std::int32_t from;
+        int command;
+        std::int32_t thumb;
+        bool frozen;
+        std::int32_t topLine;
+    };
+    const Case cases[] = {
+        {"line down", 10, SB_LINEDOWN, 0, true, 11},
+        {"line up", 10, SB_LINEUP, 0, true, 9},
+        {"line up at the top stays", 0, SB_LINEUP, 0, true, 0},
+        {"page down", 10, SB_PAGEDOWN, 0, true, 20},
+        {"page up below the top stops at 0", 4, SB_PAGEUP, 0, true, 0},
+        {"thumb is the top line", 10, SB_THUMBTRACK, 57, true, 57},
+        {"top", 50, SB_TOP, 0, true, 0},
+        {"bottom ends the freeze", 10, SB_BOTTOM, 0, false, NO_TOP_LINE},
+        {"line down at the last but one page ends it", LAST_PAGE - 1, SB_LINEDOWN, 0, false,
+         NO_TOP_LINE},
+        {"page down past the end ends it", LAST_PAGE - 3, SB_PAGEDOWN, 0, false, NO_TOP_LINE},
+        {"an unknown command does nothing", 10, 8, 0, true, 10},
+    };
+    for (const Case& c : cases) {
+        SCOPED_TRACE(c.name);
+        window->EndScrollback();
+        window->ApplyScrollCommand(SB_TOP, 0);
+        window->ApplyScrollCommand(SB_THUMBTRACK, c.from);
+        ASSERT_EQ(window->GetTopLine(), c.from);
+        window->ApplyScrollCommand(c.command, c.thumb);
+        EXPECT_EQ(window->IsFrozen(), c.frozen);
+        EXPECT_EQ(window->GetTopLine(), c.topLine);
+        EXPECT_EQ(host.scroll.position, c.frozen ? c.topLine : LIVE_SCROLL_MAX);
+        if (!c.frozen) {
+            EXPECT_EQ(host.scroll.maximum, LIVE_SCROLL_MAX);
+        }
+    }
+}
+
+TEST_F(ScrollTest, AWindowThatShowsAllItsLinesCannotBeFrozen)
+{
+    host.client = {0, 0, 400, 2000};
+    window->Size(false);
+    for (int command : {SB_LINEUP, SB_PAGEUP, SB_TOP, SB_THUMBTRACK}) {
+        window->ApplyScrollCommand(command, 30);
+        EXPECT_FALSE(window->IsFrozen()) << command;
+        EXPECT_EQ(host.scroll.position, LIVE_SCROLL_MAX);
+    }
+}
+
+TEST_F(ScrollTest, TextArrivingWhileFrozenWaitsUnseenInTheLiveBuffer)
+{
+    window->ApplyScrollCommand(SB_PAGEUP, 0);
+    host.invalidations.clear();
+    EXPECT_EQ(window->AppendText("while away\n"), 1);
+    EXPECT_TRUE(host.invalidations.empty());
+    EXPECT_EQ(window->GetViewLineCount(), LINES);
+    EXPECT_EQ(window->GetLineCount(), LINES + 1);
+    EXPECT_EQ(window->GetTopLine(), LAST_PAGE - ROWS);
+
+    window->EndScrollback();
+    EXPECT_FALSE(window->IsFrozen());
+    EXPECT_EQ(host.scroll.maximum, LIVE_SCROLL_MAX);
+    EXPECT_EQ(host.scroll.position, LIVE_SCROLL_MAX);
+    ASSERT_FALSE(host.invalidations.empty());
+    EXPECT_FALSE(host.invalidations.back());
+    RecordingLayer layer;
+    window->PaintText(layer);
+    EXPECT_EQ(layer.RowText(2 + 8 * CELL_HEIGHT), "while away");
+}
+
+TEST_F(ScrollTest, EndScrollbackRepaintsALiveWindowToo)
+{
+    host.invalidations.clear();
+    window->EndScrollback();
+    EXPECT_EQ(host.invalidations, std::vector<bool>{false});
+}
+
+TEST_F(ScrollTest, TheSelectionMadeInTheViewGoesBackToTheLiveBuffer)
+{
+    window->ApplyScrollCommand(SB_TOP, 0);
+    window->GetViewBuffer().SetSelection(120, 130);
+    EXPECT_TRUE(window->HasSelection());
+    window->ThawView();
+    EXPECT_EQ(window->GetLiveBuffer().GetSelStart(), 120);
+    EXPECT_EQ(window->GetLiveBuffer().GetSelEnd(), 130);
+}
+
+TEST_F(ScrollTest, ScrollingOneLineAtATimeAsADragDoes)
+{
+    window->ScrollUpOne(false);
+    EXPECT_TRUE(window->IsFrozen());
+    EXPECT_EQ(window->GetTopLine(), LAST_PAGE - 1);
+    window->ScrollUpOne(true);
+    EXPECT_EQ(window->GetTopLine(), LAST_PAGE - 2);
+    window->ScrollDownOne(true);
+    window->ScrollDownOne(true);
+    EXPECT_FALSE(window->IsFrozen());
+}
+
+TEST_F(ScrollTest, ResizingALiveWindowKeepsTheBarAtTheBottom)
+{
+    host.scroll = {};
+    host.client = {0, 0, 250, 300};
+    window->Size(false);
+    EXPECT_EQ(window->GetRows(), (300 - 5) / 10);
+    EXPECT_EQ(host.scroll.minimum, 0);
+    EXPECT_EQ(host.scroll.maximum, LIVE_SCROLL_MAX);
+    EXPECT_EQ(host.scroll.position, LIVE_SCROLL_MAX);
+}
+
+TEST_F(ScrollTest, AMinimisedSizeChangesNothing)
+{
+    host.client = {0, 0, 50, 30};
+    window->Size(true);
+    EXPECT_EQ(window->GetRows(), ROWS);
+    EXPECT_EQ(window->GetClientRect().right, 400);
+}
+
+// Lines of about 80 characters wrap into two rows of a 400 pixel window.
+class WrappedScrollTest : public WindowTest {
+  protected:
+    WrappedScrollTest() : window(Make("Thought Window"))
+    {
+        for (int i = 0; i < 30; ++i) {
+            char line[96];
+            int length = std::snprintf(line, sizeof line, "L%d", i);
+            while (length < 80)
+                length += std::snprintf(line + length, sizeof line - length, " word");
+            std::snprintf(line + length, sizeof line - length, "\n");
+            window->AppendText(line);
+        }
+    }
+
+    std::string TopRow()
+    {
+        RecordingLayer layer;
+        window->PaintText(layer);
+        return layer.RowText(window->GetTextTop());
+    }
+
+    std::unique_ptr<AnsiWindow> window;
+};
+
+TEST_F(WrappedScrollTest, ResizingAFrozenViewKeepsItsTopLine)
+{
+    window->ApplyScrollCommand(SB_TOP, 0);
+    window->ApplyScrollCommand(SB_THUMBTRACK, 99 + 2 * 5);
+    ASSERT_EQ(TopRow().substr(0, 3), "L5 ");
+    const std::int32_t linesBefore = window->GetViewLines();
+
+    host.client = {0, 0, 200, 105};
+    window->Size(false);
+    EXPECT_TRUE(window->IsFrozen());
+    EXPECT_GT(window->GetViewLines(), linesBefore);
+    EXPECT_EQ(window->GetViewLineCount(), window->GetViewLines());
+    EXPECT_EQ(TopRow().substr(0, 3), "L5 ");
+    EXPECT_EQ(host.scroll.maximum, window->GetViewLines() - 1);
+    EXPECT_EQ(host.scroll.position, window->GetTopLine());
+}
+
+TEST_F(WrappedScrollTest, ANewFontRewrapsBothBuffersAndChangesTheRows)
+{
+    window->ApplyScrollCommand(SB_TOP, 0);
+    const std::int32_t liveBefore = window->GetLineCount();
+    const std::int32_t viewBefore = window->GetViewLineCount();
+    LogFontRecord larger;
+    larger.lfHeight = -20;
+    window->SetLogFont(larger);
+    EXPECT_EQ(window->GetLineHeight(), 2 * CELL_HEIGHT);
+    EXPECT_EQ(window->GetRows(), (105 - CELL_HEIGHT) / (2 * CELL_HEIGHT));
+    EXPECT_GT(window->GetLineCount(), liveBefore);
+    EXPECT_GT(window->GetViewLineCount(), viewBefore);
+}
+
+} // namespace
+} // namespace steward::testing

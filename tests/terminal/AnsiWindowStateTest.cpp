@@ -1,0 +1,77 @@
+#include "WindowFixture.h"
+
+#include "config/IniStore.h"
+#include "config/TempFolder.h"
+
+#include <cstring>
+
+namespace steward::testing {
+namespace {
+
+class StateTest : public WindowTest {
+  protected:
+    std::unique_ptr<AnsiWindow> MakeSaved(const char* name)
+    {
+        return AnsiWindow::Create(name, {host, settings, profile.c_str(), nullptr});
+    }
+
+    TempFolder folder;
+    std::string profile = folder.File("Default.Dat");
+};
+
+TEST_F(StateTest, ColoursFontAndPlacementComeBackWithTheNextWindowOfThatName)
+{
+    LogFontRecord font;
+    font.lfHeight = -20;
+    std::strcpy(font.lfFaceName, "Mono");
+    host.placement.rcNormalPosition = {5, 6, 305, 206};
+    {
+        auto window = MakeSaved("Thought Window");
+        host.pickedColor = MakeRgb(1, 2, 3);
+        window->ChangeForegroundColor();
+        host.pickedColor = MakeRgb(4, 5, 6);
+        window->ChangeBackgroundColor();
+        window->SetLogFont(font);
+        window->Destroy();
+    }
+    auto again = MakeSaved("Thought Window");
+    EXPECT_EQ(again->GetTextColor(), MakeRgb(1, 2, 3));
+    EXPECT_EQ(again->GetBkColor(), MakeRgb(4, 5, 6));
+    EXPECT_STREQ(again->GetFont().lfFaceName, "Mono");
+    EXPECT_EQ(again->GetLineHeight(), 2 * CELL_HEIGHT);
+
+    host.placement = {};
+    ASSERT_TRUE(ReadPlacement(profile, "Thought Window", "Position", host));
+    EXPECT_EQ(host.placement.rcNormalPosition.right, 305);
+}
+
+TEST_F(StateTest, StateInfoHoldsTheTextColourFirst)
+{
+    auto window = MakeSaved("Arrival Window");
+    host.pickedColor = MakeRgb(0x11, 0x22, 0x33);
+    window->ChangeForegroundColor();
+    window->SaveState();
+    EXPECT_NE(ReadTextFile(profile).find("StateInfo=11223300"), std::string::npos);
+}
+
+TEST_F(StateTest, AnotherWindowKeepsItsOwnSection)
+{
+    auto thought = MakeSaved("Thought Window");
+    host.pickedColor = MakeRgb(7, 7, 7);
+    thought->ChangeForegroundColor();
+    thought->SaveState();
+    settings.DefaultTextColor = MakeRgb(9, 9, 9);
+    auto arrival = MakeSaved("Arrival Window");
+    EXPECT_EQ(arrival->GetTextColor(), MakeRgb(9, 9, 9));
+}
+
+TEST_F(StateTest, AStateInfoOfTheWrongLengthGivesTheDefaults)
+{
+    WriteTextFile(profile, "[Thought Window]\nStateInfo=1122330044556600AA\n");
+    settings.DefaultTextColor = MakeRgb(9, 9, 9);
+    auto window = MakeSaved("Thought Window");
+    EXPECT_EQ(window->GetTextColor(), MakeRgb(9, 9, 9));
+}
+
+} // namespace
+} // namespace steward::testing
