@@ -60,7 +60,9 @@ struct FullWindow {
         for (int i = 0; i < 2000; ++i) {
             std::snprintf(line, sizeof line,
                           "\x8B%d\xA0 The \x8Cquick\xA0 brown fox jumps over the lazy dog, "
-                          "\x99again\xA1 and again and again in line %d.\n",
+                          "\x99"
+                          "again\xA1"
+                          " and again and again in line %d.\n",
                           i, i);
             window->AppendText(line);
         }
