@@ -241,6 +241,42 @@ TEST_F(WidgetTest, InATextAreaTheSubWindowCarriesPlacementAndTitle)
     EXPECT_TRUE(sub->windowTitle().isEmpty());
 }
 
+TEST_F(WidgetTest, OnlyTheActiveSubWindowCountsAsActive)
+{
+    QMdiArea area;
+    area.resize(800, 600);
+    area.show();
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(&area));
+    auto first = Make("Thought Window");
+    auto second = Make("Arrival Window");
+    AnsiWindowWidget* one = first.get();
+    AnsiWindowWidget* two = second.get();
+    QMdiSubWindow* subOne = area.addSubWindow(first.release());
+    QMdiSubWindow* subTwo = area.addSubWindow(second.release());
+    subOne->show();
+    subTwo->show();
+
+    area.setActiveSubWindow(subOne);
+    EXPECT_TRUE(one->IsActiveChild());
+    EXPECT_FALSE(two->IsActiveChild());
+    area.setActiveSubWindow(subTwo);
+    EXPECT_FALSE(one->IsActiveChild());
+    EXPECT_TRUE(two->IsActiveChild());
+}
+
+TEST_F(WidgetTest, AStoredPlacementMovesTheSubWindow)
+{
+    QMdiArea area;
+    area.resize(800, 600);
+    auto widget = Make();
+    AnsiWindowWidget* raw = widget.get();
+    QMdiSubWindow* sub = area.addSubWindow(widget.release());
+    WindowPlacementRecord placement;
+    placement.rcNormalPosition = {30, 40, 430, 340};
+    raw->SetWindowPlacement(placement);
+    EXPECT_EQ(sub->geometry(), QRect(30, 40, 400, 300));
+}
+
 TEST(FontRecord, ARecordSurvivesTheWayThroughAQtFont)
 {
     LogFontRecord record;
