@@ -27,6 +27,18 @@ using File = std::unique_ptr<std::FILE, FileCloser>;
 
 HighlightList::HighlightList() : slots_(HIGHLIGHT_SLOTS), version_(NextVersion()) {}
 
+HighlightList::HighlightList(const HighlightList& other)
+    : slots_(other.slots_), version_(NextVersion())
+{
+}
+
+HighlightList& HighlightList::operator=(const HighlightList& other)
+{
+    slots_ = other.slots_;
+    Changed();
+    return *this;
+}
+
 void HighlightList::Changed()
 {
     version_ = NextVersion();

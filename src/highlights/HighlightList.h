@@ -25,6 +25,10 @@ static_assert(sizeof(HighlightEntry) == HIGHLIGHT_SLOT_SIZE + 1);
 class HighlightList {
   public:
     HighlightList();
+    // A copy, and a list assigned to, get a version of their own, so that no index built over
+    // a list takes another list's slots for its own; moves are copies for the same reason.
+    HighlightList(const HighlightList& other);
+    HighlightList& operator=(const HighlightList& other);
 
     // Empties every slot's text; the colours stay.
     void Clear();

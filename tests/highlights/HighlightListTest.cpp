@@ -99,6 +99,13 @@ TEST(HighlightListStore, EveryChangeGivesANewVersion)
     EXPECT_NE(list.Version(), before);
     HighlightList other;
     EXPECT_NE(other.Version(), list.Version());
+    HighlightList copy = list;
+    EXPECT_NE(copy.Version(), list.Version());
+    before = list.Version();
+    list = copy;
+    EXPECT_NE(list.Version(), before);
+    EXPECT_NE(list.Version(), copy.Version());
+    EXPECT_STREQ(list.Text(0), "Mara");
 }
 
 TEST(HighlightListFile, SaveWritesOneQuotedLinePerEntryInSlotOrder)

@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 
 #include <cstring>
+#include <utility>
 
 namespace steward::testing {
 namespace {
@@ -231,6 +232,12 @@ TEST(HighlightMatcherIndex, TheIndexFollowsChangesOfItsList)
     std::strcpy(line, "elf");
     matcher.ApplyHighlights(line, sizeof line, false, sounds);
     EXPECT_EQ(std::string(line), Lit(3, "elf"));
+    HighlightList working = list;
+    working.SetText(0, "orc");
+    list = std::move(working);
+    std::strcpy(line, "orc elf");
+    matcher.ApplyHighlights(line, sizeof line, false, sounds);
+    EXPECT_EQ(std::string(line), Lit(3, "orc") + " elf") << "an assigned list is indexed anew";
 }
 
 TEST(NameListed, NamesAreSearchedCaseSensitively)
