@@ -1,0 +1,149 @@
+#include "session/qt/MdiClient.h"
+
+#include <QMdiSubWindow>
+#include <QPainter>
+
+namespace steward {
+
+MdiClient::MdiClient(QWidget* parent)
+    : QMdiArea(parent), background_(QStringLiteral(":/Background.png"))
+{
+    setBackground(Qt::black);
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+}
+
+MdiClient::~MdiClient()
+{
+    dying_ = true;
+}
+
+QMdiSubWindow* MdiClient::AddChild(WindowRow row, QWidget* widget, const Area& place)
+{
+    auto* sub = new QMdiSubWindow(nullptr);
+    sub->setAttribute(Qt::WA_DeleteOnClose);
+    sub->setWidget(widget);
+    sub->setWindowTitle(QString::fromLatin1(WindowTable[row].Name));
+    addSubWindow(sub);
+    sub->setGeometry(place.X, place.Y, place.Width, place.Height);
+    rows_[row] = sub;
+    connect(sub, &QObject::destroyed, this, [this, row] { ChildClosed(row); });
+    return sub;
+}
+
+int MdiClient::ActiveRow() const
+{
+    QMdiSubWindow* active = activeSubWindow();
+    for (const WindowTableRow& row : WindowTable)
+        if (active && rows_[row.Row] == active)
+            return row.Row;
+    return -1;
+}
+
+void MdiClient::SetChildClosedHandler(std::function<void(WindowRow)> handler)
+{
+    childClosed_ = std::move(handler);
+}
+
+void MdiClient::ChildClosed(WindowRow row)
+{
+    rows_[row] = nullptr;
+    if (!dying_ && childClosed_)
+        childClosed_(row);
+}
+
+void MdiClient::TileHorizontally()
+{
+    Tile(true);
+}
+
+void MdiClient::TileVertically()
+{
+    Tile(false);
+}
+
+void MdiClient::Tile(bool stacked)
+{
+    QList<QMdiSubWindow*> shown;
+    for (QMdiSubWindow* sub : subWindowList())
+        if (!sub->isMinimized()) {
+            sub->showNormal();
+            shown.append(sub);
+        }
+    if (shown.isEmpty())
+        return;
+    const int count = static_cast<int>(shown.size());
+    const QRect area = viewport()->rect();
+    for (int i = 0; i < count; ++i) {
+        if (stacked) {
+            int h = area.height() / count;
+            shown[i]->setGeometry(0, i * h, area.width(), h);
+        } else {
+            int w = area.width() / count;
+            shown[i]->setGeometry(i * w, 0, w, area.height());
+        }
+    }
+}
+
+bool MdiClient::Exists(WindowRow row) const
+{
+    return rows_[row] != nullptr;
+}
+
+bool MdiClient::IsMinimised(WindowRow row) const
+{
+    return rows_[row] && rows_[row]->isMinimized();
+}
+
+bool MdiClient::IsMaximised(WindowRow row) const
+{
+    return rows_[row] && rows_[row]->isMaximized();
+}
+
+void MdiClient::Restore(WindowRow row)
+{
+    if (rows_[row])
+        rows_[row]->showNormal();
+}
+
+void MdiClient::Maximise(WindowRow row)
+{
+    if (rows_[row])
+        rows_[row]->showMaximized();
+}
+
+void MdiClient::Move(WindowRow row, const Area& place)
+{
+    if (rows_[row])
+        rows_[row]->setGeometry(place.X, place.Y, place.Width, place.Height);
+}
+
+void MdiClient::Activate(WindowRow row)
+{
+    if (rows_[row])
+        setActiveSubWindow(rows_[row]);
+}
+
+Area MdiClient::ClientArea() const
+{
+    return {0, 0, viewport()->width(), viewport()->height()};
+}
+
+void MdiClient::FocusCommandLine()
+{
+    if (commandLine_)
+        commandLine_->setFocus();
+}
+
+void MdiClient::paintEvent(QPaintEvent*)
+{
+    QPainter painter(viewport());
+    painter.fillRect(viewport()->rect(), Qt::black);
+    if (background_.isNull())
+        return;
+    QPoint corner((viewport()->width() - background_.width()) / 2,
+                  (viewport()->height() - background_.height()) / 2);
+    painter.drawImage(corner, background_);
+}
+
+} // namespace steward

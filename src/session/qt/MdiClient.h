@@ -1,0 +1,63 @@
+#pragma once
+
+#include "session/WindowArrangement.h"
+
+#include <QImage>
+#include <QMdiArea>
+#include <QPointer>
+
+#include <functional>
+
+class QMdiSubWindow;
+
+namespace steward {
+
+// The area that holds the text windows: black, with the background picture in its middle,
+// and one sub-window per row of the WindowTable at most.
+class MdiClient : public QMdiArea, public ChildWindowHost {
+    Q_OBJECT
+  public:
+    explicit MdiClient(QWidget* parent = nullptr);
+    // The children die with the area; none of them starts an arrangement then.
+    ~MdiClient() override;
+
+    // Puts the widget into a new sub-window for the row, titled with the row's name.
+    QMdiSubWindow* AddChild(WindowRow row, QWidget* widget, const Area& place);
+    QMdiSubWindow* Child(WindowRow row) const { return rows_[row]; }
+    // The row of the active sub-window, or -1.
+    int ActiveRow() const;
+
+    // FWM_CHILDCLOSED: what to do once a row's window is gone and the area still lives.
+    void SetChildClosedHandler(std::function<void(WindowRow)> handler);
+    void SetCommandLine(QWidget* commandLine) { commandLine_ = commandLine; }
+
+    // WM_MDITILE: horizontal tiling stacks the windows, vertical tiling sets them side by side.
+    void TileHorizontally();
+    void TileVertically();
+
+    // ChildWindowHost.
+    bool Exists(WindowRow row) const override;
+    bool IsMinimised(WindowRow row) const override;
+    bool IsMaximised(WindowRow row) const override;
+    void Restore(WindowRow row) override;
+    void Maximise(WindowRow row) override;
+    void Move(WindowRow row, const Area& place) override;
+    void Activate(WindowRow row) override;
+    Area ClientArea() const override;
+    void FocusCommandLine() override;
+
+  protected:
+    void paintEvent(QPaintEvent* event) override;
+
+  private:
+    void ChildClosed(WindowRow row);
+    void Tile(bool stacked);
+
+    QImage background_;
+    QPointer<QMdiSubWindow> rows_[WINDOW_ROWS];
+    std::function<void(WindowRow)> childClosed_;
+    QPointer<QWidget> commandLine_;
+    bool dying_ = false;
+};
+
+} // namespace steward
