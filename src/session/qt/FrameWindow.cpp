@@ -1,11 +1,143 @@
 #include "session/qt/FrameWindow.h"
 
+#include "session/qt/FrameMenu.h"
+#include "session/qt/MdiClient.h"
+
+#include <QCloseEvent>
+#include <QMenuBar>
+#include <QPainter>
+#include <QStyle>
+#include <QStyleOptionFrame>
+#include <QWheelEvent>
+
 namespace steward {
 
-FrameWindow::FrameWindow(QWidget* parent) : QMainWindow(parent)
+namespace {
+
+const QColor SURFACE_COLOR(0x5F, 0x5F, 0x5F);
+// The sunken edge drawn around the text area.
+constexpr int EDGE = 2;
+
+} // namespace
+
+FrameSurface::FrameSurface(QWidget* parent) : QWidget(parent)
 {
-    setWindowTitle("Thornmere Steward");
-    resize(800, 600);
+    setAutoFillBackground(false);
+}
+
+void FrameSurface::paintEvent(QPaintEvent*)
+{
+    QPainter painter(this);
+    painter.fillRect(rect(), SURFACE_COLOR);
+    if (edge_.isEmpty())
+        return;
+    QRect outer = edge_.adjusted(-EDGE, -EDGE, EDGE, EDGE);
+    painter.setPen(SURFACE_COLOR.darker(200));
+    painter.drawLine(outer.topLeft(), outer.topRight());
+    painter.drawLine(outer.topLeft(), outer.bottomLeft());
+    painter.setPen(SURFACE_COLOR.lighter(160));
+    painter.drawLine(outer.bottomLeft(), outer.bottomRight());
+    painter.drawLine(outer.topRight(), outer.bottomRight());
+}
+
+FrameWindow::FrameWindow(Handlers handlers, QWidget* parent)
+    : QMainWindow(parent), handlers_(std::move(handlers)), surface_(new FrameSurface(this)),
+      mdi_(new MdiClient(surface_)), menu_(nullptr)
+{
+    setWindowTitle(QStringLiteral("Thornmere Steward"));
+    setWindowIcon(QIcon(QStringLiteral(":/AppIcon.png")));
+    setMinimumSize(MIN_TRACK_SIZE, MIN_TRACK_SIZE);
+    setCentralWidget(surface_);
+    menu_ = new FrameMenu(*menuBar(), *mdi_, handlers_.Command, handlers_.MenuInputs);
+}
+
+FrameWindow::~FrameWindow() = default;
+
+void FrameWindow::SetCommandLine(QWidget* commandLine)
+{
+    commandLine_ = commandLine;
+    commandLine->setParent(surface_);
+    commandLine->show();
+    mdi_->SetCommandLine(commandLine);
+    LayoutFrame();
+}
+
+void FrameWindow::SetPanel(QWidget* panel)
+{
+    panel_ = panel;
+    panel->setParent(surface_);
+    panel->show();
+    LayoutFrame();
+}
+
+void FrameWindow::SetDisplayMode(std::uint8_t mode)
+{
+    displayMode_ = mode;
+    LayoutFrame();
+}
+
+int FrameWindow::CommandLineHeight() const
+{
+    if (!commandLine_)
+        return fontMetrics().height() + 4;
+    return commandLine_->sizeHint().height();
+}
+
+void FrameWindow::LayoutFrame()
+{
+    const int h = CommandLineHeight();
+    FrameLayout layout = steward::LayoutFrame(surface_->width(), surface_->height(), h, displayMode_);
+    const Area& mdi = layout.MdiClient;
+    mdi_->setGeometry(mdi.X, mdi.Y, mdi.Width, mdi.Height);
+    surface_->SetEdge(mdi_->geometry());
+    if (commandLine_) {
+        const Area& line = layout.CommandLine;
+        commandLine_->setGeometry(line.X, line.Y, line.Width, line.Height);
+    }
+    if (panel_) {
+        int top = displayMode_ == 1 ? PanelTopBelow(mdi_->viewport()->height()) : layout.PanelTop;
+        panel_->move(0, top);
+    }
+    surface_->update();
+}
+
+void FrameWindow::FocusCommandLine()
+{
+    if (commandLine_)
+        commandLine_->setFocus();
+}
+
+void FrameWindow::closeEvent(QCloseEvent* event)
+{
+    if (handlers_.Close && !handlers_.Close()) {
+        event->ignore();
+        return;
+    }
+    event->accept();
+}
+
+void FrameWindow::resizeEvent(QResizeEvent* event)
+{
+    QMainWindow::resizeEvent(event);
+    LayoutFrame();
+}
+
+void FrameWindow::wheelEvent(QWheelEvent* event)
+{
+    const int amount = event->angleDelta().y();
+    if (amount == 0 || !handlers_.Wheel) {
+        event->ignore();
+        return;
+    }
+    handlers_.Wheel((event->modifiers() & Qt::ShiftModifier) != 0, amount);
+    event->accept();
+}
+
+void FrameWindow::changeEvent(QEvent* event)
+{
+    QMainWindow::changeEvent(event);
+    if (event->type() == QEvent::ActivationChange && isActiveWindow())
+        FocusCommandLine();
 }
 
 } // namespace steward

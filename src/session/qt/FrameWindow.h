@@ -1,14 +1,82 @@
 #pragma once
 
+#include "session/FrameLayout.h"
+#include "session/MenuState.h"
+
 #include <QMainWindow>
+#include <QPointer>
+
+#include <cstdint>
+#include <functional>
 
 namespace steward {
 
-// The client's main window.
+class FrameMenu;
+class MdiClient;
+
+// The frame's own surface: the panel's grey with a sunken edge around the text area.
+class FrameSurface : public QWidget {
+    Q_OBJECT
+  public:
+    explicit FrameSurface(QWidget* parent = nullptr);
+    void SetEdge(const QRect& edge) { edge_ = edge; }
+
+  protected:
+    void paintEvent(QPaintEvent* event) override;
+
+  private:
+    QRect edge_;
+};
+
+// The client's main window: the menu bar, the text area, the command line and the panel,
+// placed for the display mode. Everything it is asked to do goes back to the program through
+// its handlers, by command number.
 class FrameWindow : public QMainWindow {
     Q_OBJECT
-public:
-    explicit FrameWindow(QWidget* parent = nullptr);
+  public:
+    struct Handlers {
+        std::function<void(int)> Command;
+        std::function<MenuInputs()> MenuInputs;
+        // WM_CLOSE: true lets the frame close.
+        std::function<bool()> Close;
+        // A wheel turn over the frame: Shift held, and the amount.
+        std::function<void(bool, int)> Wheel;
+    };
+
+    static constexpr int MIN_TRACK_SIZE = 350;
+
+    explicit FrameWindow(Handlers handlers, QWidget* parent = nullptr);
+    ~FrameWindow() override;
+
+    MdiClient& Mdi() { return *mdi_; }
+    FrameMenu& Menu() { return *menu_; }
+    FrameSurface& Surface() { return *surface_; }
+
+    // The command line and the panel are made elsewhere and placed here.
+    void SetCommandLine(QWidget* commandLine);
+    void SetPanel(QWidget* panel);
+    QWidget* CommandLine() const { return commandLine_; }
+    void SetDisplayMode(std::uint8_t mode);
+    // WM_SIZE: places everything for the display mode.
+    void LayoutFrame();
+    void FocusCommandLine();
+
+  protected:
+    void closeEvent(QCloseEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+    void wheelEvent(QWheelEvent* event) override;
+    void changeEvent(QEvent* event) override;
+
+  private:
+    int CommandLineHeight() const;
+
+    Handlers handlers_;
+    FrameSurface* surface_;
+    MdiClient* mdi_;
+    FrameMenu* menu_;
+    QPointer<QWidget> commandLine_;
+    QPointer<QWidget> panel_;
+    std::uint8_t displayMode_ = 0;
 };
 
 } // namespace steward

@@ -1,0 +1,18 @@
+#include "session/Session.h"
+
+#include <cstdio>
+#include <cstring>
+
+namespace steward {
+
+void SetConnectionString(Session& session, const char* text)
+{
+    std::snprintf(session.ConnectionString, CONNECTION_STRING_SIZE, "%s", text);
+}
+
+void FormatConnectionString(char (&out)[CONNECTION_STRING_SIZE], const char* host, int port)
+{
+    std::snprintf(out, CONNECTION_STRING_SIZE, "/H%s/P%d", host, port);
+}
+
+} // namespace steward
