@@ -33,9 +33,12 @@ ConnectDialog::ConnectDialog(const std::string& host, int port, QWidget* parent)
     fields->addRow(QStringLiteral("Port:"), port_);
 
     auto* buttons = new QDialogButtonBox(this);
-    QPushButton* connectButton = buttons->addButton(QStringLiteral("Connect"), QDialogButtonBox::AcceptRole);
-    QPushButton* offline = buttons->addButton(QStringLiteral("Run in OFFLINE Mode"), QDialogButtonBox::ActionRole);
-    QPushButton* cancel = buttons->addButton(QStringLiteral("Cancel"), QDialogButtonBox::RejectRole);
+    QPushButton* connectButton =
+        buttons->addButton(QStringLiteral("Connect"), QDialogButtonBox::AcceptRole);
+    QPushButton* offline =
+        buttons->addButton(QStringLiteral("Run in OFFLINE Mode"), QDialogButtonBox::ActionRole);
+    QPushButton* cancel =
+        buttons->addButton(QStringLiteral("Cancel"), QDialogButtonBox::RejectRole);
     connectButton->setDefault(true);
     connect(connectButton, &QPushButton::clicked, this, [this] { Finish(ConnectChoice::Connect); });
     connect(offline, &QPushButton::clicked, this, [this] { Finish(ConnectChoice::Offline); });

@@ -45,7 +45,8 @@ FrameMenu::FrameMenu(QMenuBar& bar, QMdiArea& mdi, CommandHandler onCommand, Inp
                 QAction* action = current->addAction(QString::fromLatin1(item.Text));
                 action->setCheckable(IsCheckable(item.Command));
                 const int command = item.Command;
-                connect(action, &QAction::triggered, this, [this, command] { onCommand_(command); });
+                connect(action, &QAction::triggered, this,
+                        [this, command] { onCommand_(command); });
                 actions_.insert(command, action);
                 break;
             }
@@ -97,15 +98,14 @@ void FrameMenu::FillWindowList()
     windowListActions_.append(windowMenu_->addSeparator());
     int n = 1;
     for (QMdiSubWindow* sub : windows) {
-        QAction* action = windowMenu_->addAction(
-            QStringLiteral("&%1 %2").arg(n++).arg(sub->windowTitle()));
+        QAction* action =
+            windowMenu_->addAction(QStringLiteral("&%1 %2").arg(n++).arg(sub->windowTitle()));
         action->setCheckable(true);
         action->setChecked(sub == mdi_.activeSubWindow());
-        connect(action, &QAction::triggered, &mdi_,
-                [this, target = QPointer<QMdiSubWindow>(sub)] {
-                    if (target)
-                        mdi_.setActiveSubWindow(target);
-                });
+        connect(action, &QAction::triggered, &mdi_, [this, target = QPointer<QMdiSubWindow>(sub)] {
+            if (target)
+                mdi_.setActiveSubWindow(target);
+        });
         windowListActions_.append(action);
     }
 }

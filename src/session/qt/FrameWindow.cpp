@@ -48,7 +48,7 @@ FrameWindow::FrameWindow(Handlers handlers, QWidget* parent)
     setWindowIcon(QIcon(QStringLiteral(":/AppIcon.png")));
     setMinimumSize(MIN_TRACK_SIZE, MIN_TRACK_SIZE);
     setCentralWidget(surface_);
-    menu_ = new FrameMenu(*menuBar(), *mdi_, handlers_.Command, handlers_.MenuInputs);
+    menu_ = new FrameMenu(*menuBar(), *mdi_, handlers_.Command, handlers_.ReadMenuInputs);
 }
 
 FrameWindow::~FrameWindow() = default;
@@ -86,7 +86,8 @@ int FrameWindow::CommandLineHeight() const
 void FrameWindow::LayoutFrame()
 {
     const int h = CommandLineHeight();
-    FrameLayout layout = steward::LayoutFrame(surface_->width(), surface_->height(), h, displayMode_);
+    FrameLayout layout =
+        steward::LayoutFrame(surface_->width(), surface_->height(), h, displayMode_);
     const Area& mdi = layout.MdiClient;
     mdi_->setGeometry(mdi.X, mdi.Y, mdi.Width, mdi.Height);
     surface_->SetEdge(mdi_->geometry());
@@ -99,6 +100,8 @@ void FrameWindow::LayoutFrame()
         panel_->move(0, top);
     }
     surface_->update();
+    if (handlers_.Resized)
+        handlers_.Resized();
 }
 
 void FrameWindow::FocusCommandLine()

@@ -36,11 +36,13 @@ class FrameWindow : public QMainWindow {
   public:
     struct Handlers {
         std::function<void(int)> Command;
-        std::function<MenuInputs()> MenuInputs;
+        std::function<MenuInputs()> ReadMenuInputs;
         // WM_CLOSE: true lets the frame close.
         std::function<bool()> Close;
         // A wheel turn over the frame: Shift held, and the amount.
         std::function<void(bool, int)> Wheel;
+        // WM_SIZE, after the frame was laid out anew.
+        std::function<void()> Resized;
     };
 
     static constexpr int MIN_TRACK_SIZE = 350;

@@ -4,11 +4,10 @@
 
 #include <QImage>
 #include <QMdiArea>
+#include <QMdiSubWindow>
 #include <QPointer>
 
 #include <functional>
-
-class QMdiSubWindow;
 
 namespace steward {
 

@@ -1,0 +1,63 @@
+#include "session/qt/Desktop.h"
+
+#include "session/qt/ExitDialog.h"
+
+#include <QApplication>
+#include <QDesktopServices>
+#include <QDir>
+#include <QFileDialog>
+#include <QMessageBox>
+#include <QUrl>
+
+#include <cstdio>
+
+namespace steward {
+
+ConnectChoice QtDesktop::AskConnection(QWidget* parent, std::string& host, int& port)
+{
+    return ShowConnectDialog(parent, host, port);
+}
+
+bool QtDesktop::AskExit(QWidget* parent)
+{
+    return steward::AskExit(parent);
+}
+
+void QtDesktop::ShowMessage(QWidget* parent, const char* text, const char* title)
+{
+    QMessageBox box(parent);
+    if (title)
+        box.setWindowTitle(QString::fromLatin1(title));
+    box.setText(QString::fromLatin1(text));
+    box.exec();
+}
+
+bool QtDesktop::RunEditor(const std::string& path)
+{
+    return QDesktopServices::openUrl(QUrl::fromLocalFile(QString::fromLocal8Bit(path.c_str())));
+}
+
+bool QtDesktop::AskSaveFileName(QWidget* parent, const SaveFileRequest& request, char* path,
+                                std::size_t capacity)
+{
+    const QString start = QDir(QString::fromLocal8Bit(request.Folder))
+                              .filePath(QString::fromLatin1(request.FileName) + '.' +
+                                        QString::fromLatin1(request.DefaultExtension));
+    const QString filter = QStringLiteral("%1 (%2)").arg(
+        QString::fromLatin1(request.FilterName), QString::fromLatin1(request.FilterPattern));
+    QFileDialog dialog(parent, QString::fromLatin1(request.Title), start, filter);
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    dialog.setDefaultSuffix(QString::fromLatin1(request.DefaultExtension));
+    if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty())
+        return false;
+    const QByteArray chosen = dialog.selectedFiles().front().toLocal8Bit();
+    std::snprintf(path, capacity, "%s", chosen.constData());
+    return true;
+}
+
+void QtDesktop::Beep()
+{
+    QApplication::beep();
+}
+
+} // namespace steward

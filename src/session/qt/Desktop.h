@@ -1,0 +1,45 @@
+#pragma once
+
+#include "config/LogHost.h"
+#include "session/qt/ConnectDialog.h"
+
+#include <cstddef>
+#include <string>
+
+class QWidget;
+
+namespace steward {
+
+// Everything the program asks of the person and of the desktop: dialogs, message boxes and
+// the text editor. Tests give a recording double, so that no dialog waits and no program
+// opens on the desktop.
+class Desktop {
+  public:
+    virtual ~Desktop() = default;
+
+    // GET_HOST; host and port come back as the player left them.
+    virtual ConnectChoice AskConnection(QWidget* parent, std::string& host, int& port) = 0;
+    // EXIT_DIALOG: true to leave.
+    virtual bool AskExit(QWidget* parent) = 0;
+    // A message box; a null title shows none.
+    virtual void ShowMessage(QWidget* parent, const char* text, const char* title) = 0;
+    // Opens the file in the desktop's text editor without waiting; false when none started.
+    virtual bool RunEditor(const std::string& path) = 0;
+    virtual bool AskSaveFileName(QWidget* parent, const SaveFileRequest& request, char* path,
+                                 std::size_t capacity) = 0;
+    virtual void Beep() = 0;
+};
+
+// The real dialogs and the desktop's own editor.
+class QtDesktop : public Desktop {
+  public:
+    ConnectChoice AskConnection(QWidget* parent, std::string& host, int& port) override;
+    bool AskExit(QWidget* parent) override;
+    void ShowMessage(QWidget* parent, const char* text, const char* title) override;
+    bool RunEditor(const std::string& path) override;
+    bool AskSaveFileName(QWidget* parent, const SaveFileRequest& request, char* path,
+                         std::size_t capacity) override;
+    void Beep() override;
+};
+
+} // namespace steward

@@ -1,0 +1,28 @@
+#pragma once
+
+#include "config/IniStore.h"
+
+class QWidget;
+
+namespace steward {
+
+// Show commands of a stored placement.
+constexpr std::uint32_t SW_SHOWMINIMIZED = 2;
+constexpr std::uint32_t SW_SHOWMAXIMIZED = 3;
+
+// A top-level window's placement as the profile stores it: its normal geometry, never the
+// maximised one, so that it does not drift from run to run.
+class FramePlacement : public PlacementTarget {
+  public:
+    explicit FramePlacement(QWidget& window) : window_(window) {}
+
+    bool GetWindowPlacement(WindowPlacementRecord& placement) override;
+    void SetWindowPlacement(const WindowPlacementRecord& placement) override;
+    void ShowWindow(std::uint32_t showCmd) override;
+    void UpdateWindow() override;
+
+  private:
+    QWidget& window_;
+};
+
+} // namespace steward
