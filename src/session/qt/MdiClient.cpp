@@ -16,6 +16,8 @@ MdiClient::MdiClient(QWidget* parent)
 MdiClient::~MdiClient()
 {
     dying_ = true;
+    for (QMdiSubWindow* sub : subWindowList())
+        delete sub;
 }
 
 QMdiSubWindow* MdiClient::AddChild(WindowRow row, QWidget* widget, const Area& place)
@@ -26,6 +28,7 @@ QMdiSubWindow* MdiClient::AddChild(WindowRow row, QWidget* widget, const Area& p
     sub->setWindowTitle(QString::fromLatin1(WindowTable[row].Name));
     addSubWindow(sub);
     sub->setGeometry(place.X, place.Y, place.Width, place.Height);
+    sub->show();
     rows_[row] = sub;
     connect(sub, &QObject::destroyed, this, [this, row] { ChildClosed(row); });
     return sub;
