@@ -4,6 +4,7 @@
 #include "commands/CommandHistory.h"
 #include "commands/CommandLineEdit.h"
 #include "commands/CommandSink.h"
+#include "commands/KeyboardHost.h"
 #include "commands/ScriptNames.h"
 #include "config/Settings.h"
 #include "scripts/Rewrites.h"
@@ -63,6 +64,7 @@ void CommandRoad::EnterKey(bool remember)
     if (remember)
         RememberCommand(text);
     parts_.History.ResetHistoryPosition();
+    parts_.Host.Trace("Exiting MM_ENTER_KEY\n");
 }
 
 void CommandRoad::RunCommandScript(const char* text)

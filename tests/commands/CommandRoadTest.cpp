@@ -18,7 +18,7 @@ class EnterRoadTest : public ::testing::Test {
         kb.line.SetText(typed.c_str());
         kb.road.EnterKey(remember);
     }
-    Keyboard kb;
+    KeyboardBench kb;
 };
 
 TEST_F(EnterRoadTest, SendsEchoesEmptiesAndRecordsInOrder)
@@ -29,6 +29,7 @@ TEST_F(EnterRoadTest, SendsEchoesEmptiesAndRecordsInOrder)
     EXPECT_EQ(kb.line.text, "");
     EXPECT_EQ(kb.line.focused, 1);
     EXPECT_STREQ(kb.history.EntryAt(0), "look");
+    EXPECT_EQ(kb.host.traces, Strings{"Exiting MM_ENTER_KEY\n"});
 }
 
 TEST_F(EnterRoadTest, ContactAndEscapeRewrites)

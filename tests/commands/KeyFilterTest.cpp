@@ -14,7 +14,7 @@ class KeyFilterTest : public ::testing::Test {
   protected:
     KeyFilterTest() { SetDefaultMacros(kb.macros, false); }
     bool Press(int key, KeyModifiers modifiers = 0) { return kb.filter.KeyDown(key, modifiers); }
-    Keyboard kb;
+    KeyboardBench kb;
 };
 
 TEST_F(KeyFilterTest, AnyKeyLeavesRestModeOnce)

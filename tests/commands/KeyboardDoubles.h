@@ -6,6 +6,7 @@
 #include "commands/CommandRoad.h"
 #include "commands/CommandSink.h"
 #include "commands/KeyFilter.h"
+#include "commands/Keyboard.h"
 #include "commands/KeyboardHost.h"
 #include "commands/MacroPlayer.h"
 #include "commands/MacroStore.h"
@@ -110,6 +111,19 @@ class RecordingQueue : public FrameQueue {
     std::vector<int> commands;
 };
 
+// Serves each posted MM_ENTER_KEY and keeps the other commands.
+inline void ServeEnterKeys(RecordingQueue& queue, CommandRoad& road)
+{
+    std::vector<int> posted;
+    posted.swap(queue.commands);
+    for (int command : posted) {
+        if (command == MM_ENTER_KEY)
+            road.EnterKey();
+        else
+            queue.commands.push_back(command);
+    }
+}
+
 class RecordingHost : public KeyboardHost {
   public:
     bool RestMode() const override { return rest; }
@@ -139,6 +153,7 @@ class RecordingHost : public KeyboardHost {
         std::snprintf(answer, capacity, "%s", given.c_str());
         return given != "<cancel>";
     }
+    void Trace(const char* line) override { traces.push_back(line); }
     void PumpFor(int seconds) override
     {
         calls.push_back("pump " + std::to_string(seconds));
@@ -151,38 +166,29 @@ class RecordingHost : public KeyboardHost {
     std::vector<std::string> printed;
     std::vector<std::string> calls;
     std::vector<std::string> asked;
+    std::vector<std::string> traces;
     std::deque<std::string> answers;
     std::string title;
     std::function<void()> onPump;
 };
 
 // The whole keyboard wired to recording doubles, as the frame wires it to the real windows.
-struct Keyboard {
+struct KeyboardBench {
     EditLine line;
     RecordingSink sink;
     RecordingQueue queue;
     RecordingHost host;
-    CommandHistory history;
-    MacroStore macros;
-    CommandState state;
     Settings options;
-    CommandParts parts{line, sink, queue, host, history, macros, state, options};
-    CommandRoad road{parts};
-    MacroPlayer player{parts, road};
-    KeyFilter filter{parts, road, player};
+    Keyboard keyboard{line, sink, queue, host, options};
+    CommandHistory& history = keyboard.History;
+    MacroStore& macros = keyboard.Macros;
+    CommandState& state = keyboard.State;
+    CommandRoad& road = keyboard.Road;
+    MacroPlayer& player = keyboard.Player;
+    KeyFilter& filter = keyboard.Filter;
 
     // Serves what the keys posted, as the frame's switchboard does for MM_ENTER_KEY.
-    void ServeQueue()
-    {
-        std::vector<int> posted;
-        posted.swap(queue.commands);
-        for (int command : posted) {
-            if (command == MM_ENTER_KEY)
-                road.EnterKey();
-            else
-                queue.commands.push_back(command);
-        }
-    }
+    void ServeQueue() { ServeEnterKeys(queue, road); }
     void Type(const std::string& text)
     {
         for (char c : text)

@@ -14,7 +14,7 @@ class MacroPlayerTest : public ::testing::Test {
   protected:
     MacroPlayerTest() { kb.options.MinCommandLength = 0; }
     void Play(const char* text) { kb.player.PlayMacro(text); }
-    Keyboard kb;
+    KeyboardBench kb;
 };
 
 TEST_F(MacroPlayerTest, DefaultKeypadMacroReplacesAHalfTypedLine)

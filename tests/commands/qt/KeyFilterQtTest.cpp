@@ -43,15 +43,7 @@ class KeyFilterQtTest : public ::testing::Test {
     {
         QTest::keyClick(QApplication::focusWidget(), key, modifiers);
     }
-    void ServeQueue()
-    {
-        std::vector<int> posted;
-        posted.swap(queue.commands);
-        for (int command : posted) {
-            if (command == MM_ENTER_KEY)
-                road.EnterKey();
-        }
-    }
+    void ServeQueue() { ServeEnterKeys(queue, keyboard.Road); }
     std::string Text() const { return line->text().toStdString(); }
 
     QMainWindow window;
@@ -60,15 +52,11 @@ class KeyFilterQtTest : public ::testing::Test {
     RecordingSink sink;
     RecordingQueue queue;
     RecordingHost host;
-    CommandHistory history;
-    MacroStore macros;
-    CommandState state;
     Settings options;
-    CommandParts parts{*line, sink, queue, host, history, macros, state, options};
-    CommandRoad road{parts};
-    MacroPlayer player{parts, road};
-    KeyFilter filter{parts, road, player};
-    KeyFilterQt qtFilter{filter, *line};
+    Keyboard keyboard{*line, sink, queue, host, options};
+    CommandHistory& history = keyboard.History;
+    MacroStore& macros = keyboard.Macros;
+    KeyFilterQt qtFilter{keyboard.Filter, *line};
 };
 
 TEST_F(KeyFilterQtTest, TypedLineGoesOutOnEnter)
