@@ -95,6 +95,21 @@ void BM_AppendGameLines(benchmark::State& state)
 }
 BENCHMARK(BM_AppendGameLines);
 
+// A flood without spaces or line feeds: no break is possible, and every character asks again.
+void BM_AppendUnbreakableFlood(benchmark::State& state)
+{
+    const std::string block(4096, 'x');
+    auto buffer = GameBuffer();
+    std::int64_t bytes = 0;
+    for (auto _ : state) {
+        buffer->AppendText(block.c_str(), true);
+        bytes += static_cast<std::int64_t>(block.size());
+    }
+    benchmark::DoNotOptimize(buffer->GetWritePos());
+    state.SetBytesProcessed(bytes);
+}
+BENCHMARK(BM_AppendUnbreakableFlood);
+
 // The paint path of a live window: position on the tail, read one screen of rows.
 void BM_ReadLastScreen(benchmark::State& state)
 {

@@ -98,6 +98,7 @@ void TextBuffer::AppendText(const char* text, bool trackSelection)
     }
     Storage[WritePos] = WRITE_MARK;
     if (Wrapped) {
+        ForgetBreakScan();
         DropOverwrittenLine();
     } else {
         HeadPos = 0;
@@ -139,6 +140,9 @@ void TextBuffer::AppendByte(unsigned char b)
 
 void TextBuffer::Store(unsigned char b)
 {
+    if (WritePos == scanStop_) {
+        ForgetBreakScan();
+    }
     Storage[WritePos] = b;
     WritePos = Next(WritePos);
     if (WritePos == 0) {
@@ -173,7 +177,7 @@ void TextBuffer::StoreCharacter(unsigned char b)
 
 void TextBuffer::BreakLine()
 {
-    const Position p = FindBreak(WritePos);
+    const Position p = FindAppendBreak();
     if (p == WritePos) {
         return;
     }
@@ -203,33 +207,53 @@ void TextBuffer::DropOverwrittenLine()
     }
 }
 
-TextBuffer::Position TextBuffer::FindBreak(Position from) const
+// The walk ends early on mark when an earlier walk from mark found no space; a walk that
+// finds none leaves in stop the byte it stopped on.
+TextBuffer::Position TextBuffer::FindBreak(Position from, Position mark, Position& stop) const
 {
     if (from == HeadPos) {
+        stop = from;
         return from;
     }
-    Position p = from;
-    do {
+    for (Position p = from; p != mark;) {
         p = Prev(p);
         const unsigned char b = Storage[p];
         if (IsLineEnd(b)) {
+            stop = p;
             return from;
         }
         if (b == SPACE) {
             return p;
         }
-    } while (p != HeadPos);
+        if (p == HeadPos) {
+            stop = p;
+            return from;
+        }
+    }
     return from;
+}
+
+// FindBreak(WritePos), walking back only over the bytes stored since the last search that
+// found no break.
+TextBuffer::Position TextBuffer::FindAppendBreak()
+{
+    const Position p = FindBreak(WritePos, scanMark_, scanStop_);
+    scanMark_ = p == WritePos ? WritePos : NO_POSITION;
+    return p;
 }
 
 void TextBuffer::Rewrap()
 {
+    ForgetBreakScan();
     for (Position p = HeadPos; p != WritePos; p = Next(p)) {
         if (Storage[p] == SOFT_LINE_END) {
             Storage[p] = SPACE;
         }
     }
     std::int64_t x = LeftMargin;
+    // Behind noSpace a search has found no space, so a long unbreakable line is walked once.
+    Position noSpace = NO_POSITION;
+    Position stop = NO_POSITION;
     Position p = HeadPos;
     while (p != WritePos) {
         const unsigned char b = Storage[p];
@@ -239,12 +263,15 @@ void TextBuffer::Rewrap()
             const std::int64_t n = x + CharWidth[b];
             if (n < WrapLimit) {
                 x = n;
-            } else if (const Position q = FindBreak(p); q != p) {
+            } else if (const Position q = FindBreak(p, noSpace, stop); q != p) {
                 // The text moved to the new line is measured again from its first byte.
                 Storage[q] = SOFT_LINE_END;
                 x = LeftMargin;
+                noSpace = NO_POSITION;
                 p = Next(q);
                 continue;
+            } else {
+                noSpace = p;
             }
         }
         p = Next(p);
@@ -418,6 +445,7 @@ bool TextBuffer::CopyBufferTo(TextBuffer& other) const
         return true;
     }
     std::copy_n(Storage.get(), Capacity, other.Storage.get());
+    other.ForgetBreakScan();
     other.WritePos = WritePos;
     other.HeadPos = HeadPos;
     other.SelStart = SelStart;

@@ -129,7 +129,9 @@ class TextBuffer {
     void BreakLine();
     std::int64_t WidthFrom(Position start, Position end) const;
     void DropOverwrittenLine();
-    Position FindBreak(Position from) const;
+    Position FindBreak(Position from, Position mark, Position& stop) const;
+    Position FindAppendBreak();
+    void ForgetBreakScan() { scanMark_ = NO_POSITION; }
 
     std::uint32_t Capacity;
     std::unique_ptr<unsigned char[]> Storage;
@@ -146,6 +148,14 @@ class TextBuffer {
     std::int32_t WrapLimit = INITIAL_WRAP_LIMIT;
     CharWidthTable CharWidth{};
     BellListener* bell_ = nullptr;
+
+    // What the last unsuccessful break search of the append path learnt: walking back from
+    // scanMark_ meets no space before it stops on scanStop_. While the bytes behind scanMark_
+    // and HeadPos stay as they were, a line that cannot be broken is not walked again for
+    // every character.
+    static constexpr Position NO_POSITION = UINT32_MAX;
+    Position scanMark_ = NO_POSITION;
+    Position scanStop_ = NO_POSITION;
 };
 
 } // namespace steward
