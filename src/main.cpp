@@ -1,11 +1,69 @@
-#include "session/qt/FrameWindow.h"
+#include "config/ConfigFiles.h"
+#include "session/Trace.h"
+#include "session/qt/Client.h"
+#include "session/qt/Desktop.h"
+#include "session/qt/ProgramFiles.h"
+#include "session/qt/SignalPipe.h"
 
 #include <QApplication>
+#include <QDir>
+#include <QLockFile>
+#include <QStringList>
+
+#include <cstdlib>
+#include <string>
+
+namespace {
+
+constexpr char LOCK_FILE_NAME[] = "Thornmere Steward.lock";
+
+// The diagnostic options first, then the connection string as it stands.
+steward::ClientOptions ReadCommandLine(const QStringList& arguments)
+{
+    steward::ClientOptions options;
+    int i = 1;
+    for (; i < arguments.size(); ++i) {
+        if (arguments[i] == QLatin1String("--trace")) {
+            steward::SetTraceEnabled(true);
+        } else if (arguments[i] == QLatin1String("--packet-dump") && i + 1 < arguments.size()) {
+            options.PacketDumpPath = arguments[++i].toLocal8Bit().toStdString();
+        } else {
+            break;
+        }
+    }
+    options.ConnectionString = arguments.mid(i).join(' ').toLatin1().toStdString();
+    return options;
+}
+
+std::string ProgramFolder()
+{
+    const char* xdg = std::getenv("XDG_DATA_HOME");
+    const char* home = std::getenv("HOME");
+    const QByteArray executable = QCoreApplication::applicationDirPath().toLocal8Bit();
+    return steward::FindProgramFolder(executable.constData(), xdg ? xdg : "", home ? home : "");
+}
+
+} // namespace
 
 int main(int argc, char** argv)
 {
     QApplication app(argc, argv);
-    steward::FrameWindow frame;
-    frame.show();
-    return app.exec();
+    steward::ClientOptions options = ReadCommandLine(QCoreApplication::arguments());
+    const std::string folder = ProgramFolder();
+
+    QLockFile lock(QDir(QString::fromLocal8Bit(folder.c_str())).filePath(LOCK_FILE_NAME));
+    lock.setStaleLockTime(0);
+    if (!lock.tryLock(0))
+        return 0;
+
+    options.Files = steward::MakeConfigFiles(folder);
+    steward::InstallProgramFiles(folder);
+    steward::QtDesktop desktop;
+    steward::Client client(std::move(options), desktop);
+    if (!client.Start())
+        return 0;
+    steward::SignalPipe stopSignals([&client] { client.Terminate(); });
+    const int code = app.exec();
+    client.Finish();
+    return code;
 }

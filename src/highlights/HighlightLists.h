@@ -4,16 +4,13 @@
 #include "highlights/HighlightList.h"
 #include "highlights/HighlightMatcher.h"
 #include "highlights/SoundPlayer.h"
+#include "session/FrameCommand.h"
 
 #include <cstddef>
 #include <functional>
 #include <string>
 
 namespace steward {
-
-// Frame commands of the "Copy Special" submenu that add the selection to a list.
-constexpr int CMD_COPY_TO_STRING_HIGHLIGHTS = 1104;
-constexpr int CMD_COPY_TO_NAME_HIGHLIGHTS = 1105;
 
 // Receives the debug trace lines of loading and saving, which the user never sees.
 using HighlightTrace = std::function<void(const std::string& line)>;

@@ -1,5 +1,6 @@
 #include "session/qt/FrameMenu.h"
 
+#include "session/CommandTable.h"
 #include "session/FrameCommand.h"
 #include "session/MenuBar.h"
 
@@ -65,7 +66,8 @@ FrameMenu::FrameMenu(QMenuBar& bar, QMdiArea& mdi, CommandHandler onCommand, Inp
             }
         }
     }
-    Refresh();
+    for (auto it = actions_.cbegin(); it != actions_.cend(); ++it)
+        it.value()->setEnabled(IsCommandAvailable(it.key()));
 }
 
 void FrameMenu::Refresh()

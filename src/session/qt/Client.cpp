@@ -1,0 +1,257 @@
+#include "session/qt/Client.h"
+
+#include "config/IniStore.h"
+#include "config/SessionLog.h"
+#include "session/FrameCommand.h"
+#include "session/Trace.h"
+#include "session/qt/Desktop.h"
+#include "session/qt/FrameMenu.h"
+#include "session/qt/FramePlacement.h"
+#include "session/qt/FrameWindow.h"
+#include "session/qt/MdiClient.h"
+#include "terminal/AnsiWindow.h"
+
+#include <QAbstractEventDispatcher>
+#include <QCoreApplication>
+#include <QThread>
+#include <QTime>
+
+#include <cstring>
+
+namespace steward {
+
+namespace {
+
+// The version whose notes were last shown; notes appear once when it is below this.
+constexpr std::int32_t NOTES_VERSION = 0x68;
+constexpr char OFFLINE_TEXT[] = "\r\n\r\n*** Operating in an Offline mode.\r\n\r\n";
+constexpr char FATAL_ERROR_TITLE[] = "Fatal Error";
+
+} // namespace
+
+Client::Client(ClientOptions options, Desktop& desktop)
+    : options_(std::move(options)), desktop_(desktop),
+      pipeline_({*this, session_.Profile.Settings, session_.SessionLog, session_.Windows, *this,
+                 session_.Script, session_.Panel, *this, nullptr}),
+      decoder_(pipeline_, session_.PacketDump, session_.Profile.Settings), socket_(*this),
+      connection_(socket_, decoder_)
+{
+    session_.Files = options_.Files;
+    sounds_.SetSoundPath(SoundPath(session_.Files));
+    FrameWindow::Handlers handlers;
+    handlers.Command = [this](int command) { OnCommand(command); };
+    handlers.ReadMenuInputs = [this] { return ReadMenuInputs(); };
+    handlers.Close = [this] { return OnClose(); };
+    handlers.Wheel = [this](bool shift, int amount) { OnWheel(shift, amount); };
+    handlers.Resized = [this] { ArrangeWindows(false); };
+    frame_ = std::make_unique<FrameWindow>(std::move(handlers));
+    frame_->Mdi().SetChildClosedHandler([this](WindowRow row) { ChildClosed(row); });
+    connect(&timer_, &QTimer::timeout, this, &Client::OnTimer);
+    connect(QAbstractEventDispatcher::instance(), &QAbstractEventDispatcher::awake, this,
+            &Client::OnLoopTurn);
+    if (!options_.PacketDumpPath.empty())
+        session_.PacketDump.OpenNew(options_.PacketDumpPath.c_str());
+}
+
+Client::~Client()
+{
+    Finish();
+}
+
+bool Client::Start()
+{
+    LoadProfile(session_.Files, session_.Profile, *this, nullptr, false);
+    frame_->SetDisplayMode(session_.Profile.Settings.DisplayMode);
+    PlaceFrame();
+    ShowVersionNotesOnce();
+    if (!ChooseAndConnect())
+        return false;
+    timer_.start(FRAME_TIMER_MS);
+    if (AnsiWindow* game = session_.Windows.GameWindow) {
+        session_.Profile.Settings.DefaultTextColor = game->GetTextColor();
+        session_.Profile.Settings.DefaultBackColor = game->GetBkColor();
+    }
+    if (!connection_.IsDisconnected() && session_.Profile.Settings.AutoLog)
+        OnCommand(CMD_OPEN_DATED_LOG);
+    AnnouncePacketDump(session_.PacketDump, *this);
+    PlayStartMusic(sounds_, session_.Profile.Settings.SquelchSounds != 0);
+    frame_->FocusCommandLine();
+    return true;
+}
+
+void Client::PlaceFrame()
+{
+    FramePlacement placement(*frame_);
+    if (!ReadPlacement(session_.Profile.ProfilePath, "Windows", "MainWindow", placement))
+        frame_->showMaximized();
+    frame_->update();
+}
+
+void Client::ShowVersionNotesOnce()
+{
+    const std::string& ini = session_.Files.MainIni;
+    if (ReadInt(ini, "Version Info", "Version", 0) >= NOTES_VERSION)
+        return;
+    WriteInt(ini, "Version Info", "Version", NOTES_VERSION);
+    PostCommand(CMD_VERSION_NOTES);
+}
+
+bool Client::ChooseAndConnect()
+{
+    char connection[CONNECTION_STRING_SIZE] = {};
+    std::string host = DEFAULT_HOST;
+    int port = DEFAULT_PORT;
+    if (!options_.ConnectionString.empty()) {
+        std::snprintf(connection, sizeof connection, "%s", options_.ConnectionString.c_str());
+    } else {
+        const std::string& ini = session_.Files.MainIni;
+        char stored[256];
+        ReadString(ini, "Connection", "Host", stored, sizeof stored, DEFAULT_HOST);
+        host = stored;
+        port = ReadInt(ini, "Connection", "Port", DEFAULT_PORT);
+        switch (desktop_.AskConnection(frame_.get(), host, port)) {
+        case ConnectChoice::Cancel:
+            return false;
+        case ConnectChoice::Offline:
+            host = DEFAULT_HOST;
+            port = DEFAULT_PORT;
+            break;
+        case ConnectChoice::Connect:
+            FormatConnectionString(connection, host.c_str(), port);
+            WriteString(ini, "Connection", "Host", host.c_str());
+            WriteInt(ini, "Connection", "Port", port);
+            break;
+        }
+    }
+    SetConnectionString(session_, connection);
+    const int result = connection_.ConnectToGame(session_.ConnectionString);
+    if (result == CONNECT_OFFLINE) {
+        FormatConnectionString(session_.ConnectionString, host.c_str(), port);
+        PrintToGameWindow(OFFLINE_TEXT);
+        return true;
+    }
+    if (const char* failure = ConnectFailureText(result)) {
+        desktop_.ShowMessage(frame_.get(), failure, FATAL_ERROR_TITLE);
+        return false;
+    }
+    return true;
+}
+
+bool Client::OnClose()
+{
+    if (closed_)
+        return true;
+    if (!connection_.IsDisconnected()) {
+        if (!terminating_ && !desktop_.AskExit(frame_.get()))
+            return false;
+        SendCommand("quit");
+    }
+    SaveProfile(session_.Files, session_.Profile, *this, session_.Profile.CurrentCharacter);
+    closed_ = true;
+    QCoreApplication::quit();
+    return true;
+}
+
+void Client::Terminate()
+{
+    terminating_ = true;
+    if (frame_)
+        frame_->close();
+    if (!closed_)
+        OnClose();
+}
+
+void Client::Finish()
+{
+    if (!frame_)
+        return;
+    frame_.reset();
+    connection_.ShutdownConnection();
+    WriteLastChar(session_.Files, session_.Profile);
+    timer_.stop();
+    session_.SessionLog.Close();
+    session_.PacketDump.Close();
+}
+
+void Client::OnDropped()
+{
+    connection_.ShutdownConnection();
+    PrintToGameWindow(DROPPED_TEXT);
+}
+
+void Client::OnTimer()
+{
+    session_.Rest.OnTimer(*this);
+}
+
+void Client::OnLoopTurn()
+{
+    if (QThread::currentThread()->loopLevel() != 1)
+        return;
+    FlushLogIfFull(session_.SessionLog, *this);
+    FlushLogIfFull(session_.PacketDump, *this);
+}
+
+std::size_t Client::BlockSize() const
+{
+    return decoder_.ReceiveChunkSize();
+}
+
+void Client::ReceiveBlock(const char* bytes, std::size_t length)
+{
+    decoder_.HandleSocketEvent(bytes, length);
+}
+
+void Client::ConnectionClosed()
+{
+    PostDropped();
+}
+
+void Client::PostCommand(int command)
+{
+    QMetaObject::invokeMethod(
+        this, [this, command] { OnCommand(command); }, Qt::QueuedConnection);
+}
+
+void Client::PostDropped()
+{
+    QMetaObject::invokeMethod(
+        this, [this] { OnDropped(); }, Qt::QueuedConnection);
+}
+
+TimeOfDay Client::Now() const
+{
+    const QTime now = QTime::currentTime();
+    return {now.hour(), now.minute()};
+}
+
+void Client::Trace(const std::string& line)
+{
+    steward::Trace("%s", line.c_str());
+}
+
+bool Client::AskSaveFileName(const SaveFileRequest& request, char* path, std::size_t capacity)
+{
+    return desktop_.AskSaveFileName(frame_.get(), request, path, capacity);
+}
+
+void Client::ShowMessage(const char* text, const char* title)
+{
+    desktop_.ShowMessage(nullptr, text, title);
+}
+
+void Client::Beep()
+{
+    desktop_.Beep();
+}
+
+bool Client::Exists(const char* path) const
+{
+    std::FILE* file = std::fopen(path, "rb");
+    if (!file)
+        return false;
+    std::fclose(file);
+    return true;
+}
+
+} // namespace steward

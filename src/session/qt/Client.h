@@ -1,0 +1,168 @@
+#pragma once
+
+#include "analysis/LineHost.h"
+#include "analysis/LinePipeline.h"
+#include "commands/CommandHistory.h"
+#include "commands/MacroStore.h"
+#include "config/LogHost.h"
+#include "config/ProfileParts.h"
+#include "connection/Connection.h"
+#include "connection/GameSocket.h"
+#include "connection/StreamDecoder.h"
+#include "connection/qt/QtGameSocket.h"
+#include "highlights/HighlightLists.h"
+#include "highlights/HighlightSound.h"
+#include "highlights/qt/QtSoundPlayer.h"
+#include "session/FrameQueue.h"
+#include "session/LogNames.h"
+#include "session/MenuState.h"
+#include "session/RestMode.h"
+#include "session/Session.h"
+#include "session/WindowTable.h"
+
+#include <QObject>
+#include <QTimer>
+
+#include <memory>
+#include <string>
+
+namespace steward {
+
+class CommandLineEdit;
+class Desktop;
+class FrameWindow;
+
+// What the process was started with.
+struct ClientOptions {
+    ConfigFiles Files;
+    // The connection string of the command line; empty asks with the connect dialog.
+    std::string ConnectionString;
+    // --packet-dump FILE.
+    std::string PacketDumpPath;
+};
+
+// The whole client: the session's state, the frame, the connection and the road of every
+// line between them. It serves the frame's commands through one switchboard.
+class Client : public QObject,
+               private SocketListener,
+               private FrameQueue,
+               private LineHost,
+               private LocalClock,
+               private ProfileParts,
+               private LogHost,
+               private RestSender,
+               private FileProbe {
+    Q_OBJECT
+  public:
+    Client(ClientOptions options, Desktop& desktop);
+    ~Client() override;
+
+    // Start-up from the profile to the frame's timer; false when the program ends here, after
+    // a cancelled dialog or a failed connect.
+    bool Start();
+    // After the loop: the frame's windows, the connection, LastChar, the timer and the logs.
+    void Finish();
+    // SIGTERM: the way of a close, without the question.
+    void Terminate();
+
+    // The switchboard: every frame command ends here.
+    void OnCommand(int command);
+    // The full road of a text to the game, with its echo.
+    void SendCommand(const char* text) override;
+    void PrintToGameWindow(const char* text) override;
+
+    FrameWindow& Frame() { return *frame_; }
+    Session& State() { return session_; }
+    bool IsDisconnected() const { return connection_.IsDisconnected(); }
+
+  private:
+    // Start-up steps.
+    void PlaceFrame();
+    void ShowVersionNotesOnce();
+    bool ChooseAndConnect();
+    void AfterConnect(int result);
+
+    // The frame's messages.
+    bool OnClose();
+    void OnDropped();
+    void OnTimer();
+    void OnWheel(bool shift, int amount);
+    void OnLoopTurn();
+    MenuInputs ReadMenuInputs() const;
+    void ReadEditInputs(MenuInputs& in) const;
+
+    // Commands.
+    bool ServeFixedCommand(int command);
+    void RunNotes();
+    void RunNotepad(const std::string& path);
+    void OpenDatedLog();
+    void ToggleAutoLog();
+    void Reconnect();
+    void ResetStewardMode();
+    void EnterRestMode(bool silent);
+    void SetDisplayMode(std::uint8_t mode);
+    void OpenWindowCommand(WindowRow row);
+    void ArrangeCommand();
+    void EditCommand(int command);
+    void SendEquipment(int command);
+
+    // Child windows.
+    AnsiWindow*& Handle(WindowRow row);
+    AnsiWindow* OpenChildWindow(WindowRow row);
+    void ChildClosed(WindowRow row);
+    void ArrangeWindows(bool force);
+    AnsiWindow* ActiveChild() const;
+
+    // SocketListener.
+    std::size_t BlockSize() const override;
+    void ReceiveBlock(const char* bytes, std::size_t length) override;
+    void ConnectionClosed() override;
+    // FrameQueue.
+    void PostCommand(int command) override;
+    void PostDropped() override;
+    // LineHost.
+    void AppendText(AnsiWindow& window, const char* text) override;
+    void ApplyHighlights(char* text, std::size_t capacity) override;
+    bool IsNameListed(const char* name) override;
+    // LocalClock.
+    TimeOfDay Now() const override;
+    // ProfileParts.
+    void Trace(const std::string& line) override;
+    GaugeColors GetGaugeColors(ProfileGauge gauge) override;
+    void SetGaugeColors(ProfileGauge gauge, const GaugeColors& colors) override;
+    void SetNumLockOff() override;
+    void RestoreChildWindows(const std::string& profilePath) override;
+    void SaveChildWindows(const std::string& profilePath) override;
+    void LoadMacros(const std::string& macrosPath) override;
+    void SaveMacros(const std::string& macrosPath) override;
+    void LoadHighlights(const std::string& highlightsPath, const std::string& namesPath) override;
+    void SaveHighlights(const std::string& highlightsPath, const std::string& namesPath) override;
+    void SetDefaultMacros(bool newProfile) override;
+    void UpdateTitle() override;
+    // LogHost.
+    bool AskSaveFileName(const SaveFileRequest& request, char* path, std::size_t capacity) override;
+    void ShowMessage(const char* text, const char* title) override;
+    void Beep() override;
+    // FileProbe.
+    bool Exists(const char* path) const override;
+
+    ClientOptions options_;
+    Desktop& desktop_;
+    Session session_;
+    HighlightLists highlights_;
+    MacroStore macros_;
+    CommandHistory history_;
+    QtSoundPlayer soundPlayer_;
+    SoundFolder sounds_{soundPlayer_};
+    LinePipeline pipeline_;
+    StreamDecoder decoder_;
+    QtGameSocket socket_;
+    Connection connection_;
+    std::unique_ptr<FrameWindow> frame_;
+    CommandLineEdit* commandLine_ = nullptr;
+    QTimer timer_;
+    bool terminating_ = false;
+    bool closed_ = false;
+};
+
+} // namespace steward

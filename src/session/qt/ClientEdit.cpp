@@ -1,0 +1,66 @@
+#include "session/qt/Client.h"
+
+#include "commands/CommandLineEdit.h"
+#include "session/FrameCommand.h"
+#include "session/qt/FrameWindow.h"
+#include "session/qt/MdiClient.h"
+#include "terminal/AnsiWindow.h"
+
+#include <QClipboard>
+#include <QGuiApplication>
+
+namespace steward {
+
+namespace {
+
+bool HasSelection(const CommandLineEdit& line)
+{
+    int start = 0;
+    int end = 0;
+    line.GetSelection(start, end);
+    return start != end;
+}
+
+} // namespace
+
+AnsiWindow* Client::ActiveChild() const
+{
+    const int row = frame_->Mdi().ActiveRow();
+    if (row < 0)
+        return nullptr;
+    return const_cast<Client*>(this)->Handle(static_cast<WindowRow>(row));
+}
+
+void Client::EditCommand(int command)
+{
+    if (!commandLine_)
+        return;
+    CommandLineEdit& line = *commandLine_;
+    switch (command) {
+    case CMD_CUT:
+        line.Cut();
+        break;
+    case CMD_COPY:
+        if (HasSelection(line))
+            line.Copy();
+        break;
+    case CMD_CLEAR:
+        line.Clear();
+        break;
+    case CMD_PASTE:
+        line.Paste();
+        break;
+    default:
+        break;
+    }
+}
+
+void Client::ReadEditInputs(MenuInputs& in) const
+{
+    in.CommandLineHasSelection = commandLine_ && HasSelection(*commandLine_);
+    AnsiWindow* child = ActiveChild();
+    in.ActiveChildHasSelection = child && child->HasSelection();
+    in.ClipboardHasText = !QGuiApplication::clipboard()->text().isEmpty();
+}
+
+} // namespace steward

@@ -1,0 +1,84 @@
+#include "session/qt/Client.h"
+
+#include "commands/KeyFilter.h"
+#include "session/qt/FrameWindow.h"
+#include "session/qt/MdiClient.h"
+#include "terminal/AnsiWindow.h"
+
+namespace steward {
+
+void Client::SendCommand(const char* text)
+{
+    pipeline_.EchoCommand(text);
+    pipeline_.Prompt().EchoPending = true;
+    connection_.SendLine(text);
+}
+
+void Client::PrintToGameWindow(const char* text)
+{
+    pipeline_.PrintToWindow(session_.Windows.GameWindow, text);
+}
+
+void Client::AppendText(AnsiWindow& window, const char* text)
+{
+    window.AppendText(text);
+}
+
+void Client::ApplyHighlights(char* text, std::size_t capacity)
+{
+    highlights_.ApplyHighlights(text, capacity, session_.Profile.Settings.SquelchSounds != 0,
+                                sounds_);
+}
+
+bool Client::IsNameListed(const char* name)
+{
+    return highlights_.IsNameListed(name);
+}
+
+GaugeColors Client::GetGaugeColors(ProfileGauge gauge)
+{
+    return GaugeFor(session_.Panel, gauge).Colors();
+}
+
+void Client::SetGaugeColors(ProfileGauge gauge, const GaugeColors& colors)
+{
+    GaugeFor(session_.Panel, gauge).SetColors(colors);
+}
+
+void Client::SetNumLockOff() {}
+
+void Client::LoadMacros(const std::string& macrosPath)
+{
+    macros_.LoadMacros(macrosPath.c_str());
+}
+
+void Client::SaveMacros(const std::string& macrosPath)
+{
+    macros_.SaveMacros(macrosPath.c_str());
+}
+
+void Client::SetDefaultMacros(bool newProfile)
+{
+    steward::SetDefaultMacros(macros_, newProfile);
+}
+
+void Client::LoadHighlights(const std::string& highlightsPath, const std::string& namesPath)
+{
+    highlights_.StringHighlights.Load(highlightsPath.c_str());
+    highlights_.NameHighlights.Load(namesPath.c_str());
+}
+
+void Client::SaveHighlights(const std::string& highlightsPath, const std::string& namesPath)
+{
+    highlights_.StringHighlights.Save(highlightsPath.c_str());
+    highlights_.NameHighlights.Save(namesPath.c_str());
+}
+
+void Client::UpdateTitle()
+{
+    char title[FRAME_TITLE_SIZE];
+    MacroSetTitle(title, sizeof title, session_.Profile.CurrentCharacter, macros_);
+    frame_->setWindowTitle(QString::fromLatin1(title));
+}
+
+} // namespace steward
