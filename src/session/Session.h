@@ -1,6 +1,5 @@
 #pragma once
 
-#include "commands/CommandParts.h"
 #include "config/BufferedLog.h"
 #include "config/CharacterProfile.h"
 #include "config/ConfigFiles.h"
@@ -35,9 +34,8 @@ struct Session {
     // Timer and rest mode.
     RestState Rest;
 
-    // Running work.
+    // Running work; the keyboard keeps DragTarget and the script's name and parameters.
     ScriptWaitState Script;
-    CommandState Commands;
 
     // What the status record feeds.
     StatusPanel Panel;

@@ -1,5 +1,8 @@
 #include "session/qt/Client.h"
 
+#include "commands/Keyboard.h"
+#include "commands/qt/CommandLine.h"
+#include "commands/qt/KeyFilterQt.h"
 #include "config/IniStore.h"
 #include "config/SessionLog.h"
 #include "session/FrameCommand.h"
@@ -12,6 +15,7 @@
 #include "terminal/AnsiWindow.h"
 
 #include <QAbstractEventDispatcher>
+#include <QApplication>
 #include <QCoreApplication>
 #include <QThread>
 #include <QTime>
@@ -45,6 +49,15 @@ Client::Client(ClientOptions options, Desktop& desktop)
     handlers.Wheel = [this](bool shift, int amount) { OnWheel(shift, amount); };
     handlers.Resized = [this] { ArrangeWindows(false); };
     frame_ = std::make_unique<FrameWindow>(std::move(handlers));
+    commandLine_ = new CommandLine;
+    frame_->SetCommandLine(commandLine_);
+    CommandSink& sink = *this;
+    FrameQueue& queue = *this;
+    KeyboardHost& host = *this;
+    keyboard_ =
+        std::make_unique<Keyboard>(*commandLine_, sink, queue, host, session_.Profile.Settings);
+    keyFilter_ = std::make_unique<KeyFilterQt>(keyboard_->Filter, *commandLine_);
+    qApp->installEventFilter(keyFilter_.get());
     frame_->Mdi().SetChildClosedHandler([this](WindowRow row) { ChildClosed(row); });
     connect(&timer_, &QTimer::timeout, this, &Client::OnTimer);
     connect(QAbstractEventDispatcher::instance(), &QAbstractEventDispatcher::awake, this,
@@ -165,6 +178,7 @@ void Client::Finish()
 {
     if (!frame_)
         return;
+    keyFilter_.reset();
     frame_.reset();
     connection_.ShutdownConnection();
     WriteLastChar(session_.Files, session_.Profile);

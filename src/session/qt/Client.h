@@ -2,8 +2,8 @@
 
 #include "analysis/LineHost.h"
 #include "analysis/LinePipeline.h"
-#include "commands/CommandHistory.h"
-#include "commands/MacroStore.h"
+#include "commands/CommandSink.h"
+#include "commands/KeyboardHost.h"
 #include "config/LogHost.h"
 #include "config/ProfileParts.h"
 #include "connection/Connection.h"
@@ -28,9 +28,11 @@
 
 namespace steward {
 
-class CommandLineEdit;
+class CommandLine;
 class Desktop;
 class FrameWindow;
+class Keyboard;
+class KeyFilterQt;
 
 // What the process was started with.
 struct ClientOptions {
@@ -51,7 +53,9 @@ class Client : public QObject,
                private ProfileParts,
                private LogHost,
                private RestSender,
-               private FileProbe {
+               private FileProbe,
+               private CommandSink,
+               private KeyboardHost {
     Q_OBJECT
   public:
     Client(ClientOptions options, Desktop& desktop);
@@ -145,13 +149,32 @@ class Client : public QObject,
     void Beep() override;
     // FileProbe.
     bool Exists(const char* path) const override;
+    // CommandSink.
+    void EchoCommand(const char* text) override;
+    void SetEchoPending() override;
+    void SendLine(const char* text) override;
+    void RecordCommand(const char* text) override;
+    // KeyboardHost.
+    bool RestMode() const override;
+    void SetRestMode(bool on) override;
+    void ScrollActiveChild(int scrollCode) override;
+    void NextChildWindow() override;
+    void ToggleGameWindowMaximized() override;
+    bool ScriptRunning() const override;
+    void AbortScript() override;
+    void EndScrollback() override;
+    void SetFrameTitle(const char* title) override;
+    const char* CurrentCharacter() const override;
+    void CopyFromActiveChild() override;
+    void PostClose() override;
+    bool AskString(const char* title, char* answer, std::size_t capacity) override;
+    void PumpFor(int seconds) override;
+    void Trace(const char* line) override;
 
     ClientOptions options_;
     Desktop& desktop_;
     Session session_;
     HighlightLists highlights_;
-    MacroStore macros_;
-    CommandHistory history_;
     QtSoundPlayer soundPlayer_;
     SoundFolder sounds_{soundPlayer_};
     LinePipeline pipeline_;
@@ -159,7 +182,10 @@ class Client : public QObject,
     QtGameSocket socket_;
     Connection connection_;
     std::unique_ptr<FrameWindow> frame_;
-    CommandLineEdit* commandLine_ = nullptr;
+    // The command line belongs to the frame; the keyboard works on it.
+    CommandLine* commandLine_ = nullptr;
+    std::unique_ptr<Keyboard> keyboard_;
+    std::unique_ptr<KeyFilterQt> keyFilter_;
     QTimer timer_;
     bool terminating_ = false;
     bool closed_ = false;

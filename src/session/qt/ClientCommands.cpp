@@ -1,5 +1,6 @@
 #include "session/qt/Client.h"
 
+#include "commands/Keyboard.h"
 #include "config/IniStore.h"
 #include "config/SessionLog.h"
 #include "session/CommandTable.h"
@@ -73,6 +74,9 @@ void Client::OnCommand(int command)
         break;
     case CMD_ARRANGE:
         ArrangeCommand();
+        break;
+    case MM_ENTER_KEY:
+        keyboard_->Road.EnterKey();
         break;
     case CMD_RESET_STEWARD_MODE:
         ResetStewardMode();

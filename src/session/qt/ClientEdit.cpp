@@ -1,6 +1,6 @@
 #include "session/qt/Client.h"
 
-#include "commands/CommandLineEdit.h"
+#include "commands/qt/CommandLine.h"
 #include "session/FrameCommand.h"
 #include "session/qt/FrameWindow.h"
 #include "session/qt/MdiClient.h"
@@ -33,8 +33,6 @@ AnsiWindow* Client::ActiveChild() const
 
 void Client::EditCommand(int command)
 {
-    if (!commandLine_)
-        return;
     CommandLineEdit& line = *commandLine_;
     switch (command) {
     case CMD_CUT:
@@ -57,7 +55,7 @@ void Client::EditCommand(int command)
 
 void Client::ReadEditInputs(MenuInputs& in) const
 {
-    in.CommandLineHasSelection = commandLine_ && HasSelection(*commandLine_);
+    in.CommandLineHasSelection = HasSelection(*commandLine_);
     AnsiWindow* child = ActiveChild();
     in.ActiveChildHasSelection = child && child->HasSelection();
     in.ClipboardHasText = !QGuiApplication::clipboard()->text().isEmpty();

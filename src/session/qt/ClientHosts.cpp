@@ -1,6 +1,7 @@
 #include "session/qt/Client.h"
 
-#include "commands/KeyFilter.h"
+#include "commands/Keyboard.h"
+#include "commands/qt/KeyFilterQt.h"
 #include "session/qt/FrameWindow.h"
 #include "session/qt/MdiClient.h"
 #include "terminal/AnsiWindow.h"
@@ -9,9 +10,7 @@ namespace steward {
 
 void Client::SendCommand(const char* text)
 {
-    pipeline_.EchoCommand(text);
-    pipeline_.Prompt().EchoPending = true;
-    connection_.SendLine(text);
+    keyboard_->Road.SendCommand(text);
 }
 
 void Client::PrintToGameWindow(const char* text)
@@ -45,21 +44,24 @@ void Client::SetGaugeColors(ProfileGauge gauge, const GaugeColors& colors)
     GaugeFor(session_.Panel, gauge).SetColors(colors);
 }
 
-void Client::SetNumLockOff() {}
+void Client::SetNumLockOff()
+{
+    keyFilter_->SetNumLockOff();
+}
 
 void Client::LoadMacros(const std::string& macrosPath)
 {
-    macros_.LoadMacros(macrosPath.c_str());
+    keyboard_->Macros.LoadMacros(macrosPath.c_str());
 }
 
 void Client::SaveMacros(const std::string& macrosPath)
 {
-    macros_.SaveMacros(macrosPath.c_str());
+    keyboard_->Macros.SaveMacros(macrosPath.c_str());
 }
 
 void Client::SetDefaultMacros(bool newProfile)
 {
-    steward::SetDefaultMacros(macros_, newProfile);
+    steward::SetDefaultMacros(keyboard_->Macros, newProfile);
 }
 
 void Client::LoadHighlights(const std::string& highlightsPath, const std::string& namesPath)
@@ -77,7 +79,7 @@ void Client::SaveHighlights(const std::string& highlightsPath, const std::string
 void Client::UpdateTitle()
 {
     char title[FRAME_TITLE_SIZE];
-    MacroSetTitle(title, sizeof title, session_.Profile.CurrentCharacter, macros_);
+    MacroSetTitle(title, sizeof title, session_.Profile.CurrentCharacter, keyboard_->Macros);
     frame_->setWindowTitle(QString::fromLatin1(title));
 }
 

@@ -6,6 +6,8 @@
 #include <QDesktopServices>
 #include <QDir>
 #include <QFileDialog>
+#include <QInputDialog>
+#include <QLineEdit>
 #include <QMessageBox>
 #include <QUrl>
 
@@ -52,6 +54,17 @@ bool QtDesktop::AskSaveFileName(QWidget* parent, const SaveFileRequest& request,
         return false;
     const QByteArray chosen = dialog.selectedFiles().front().toLocal8Bit();
     std::snprintf(path, capacity, "%s", chosen.constData());
+    return true;
+}
+
+bool QtDesktop::AskString(QWidget* parent, const char* title, char* answer, std::size_t capacity)
+{
+    bool ok = false;
+    const QString text = QInputDialog::getText(parent, QString::fromLatin1(title), QString(),
+                                               QLineEdit::Normal, QString(), &ok);
+    if (!ok)
+        return false;
+    std::snprintf(answer, capacity, "%s", text.toLatin1().constData());
     return true;
 }
 

@@ -28,6 +28,9 @@ class Desktop {
     virtual bool AskSaveFileName(QWidget* parent, const SaveFileRequest& request, char* path,
                                  std::size_t capacity) = 0;
     virtual void Beep() = 0;
+    // GETSTR_DIALOG: false on Cancel; the answer holds at most capacity - 1 characters.
+    virtual bool AskString(QWidget* parent, const char* title, char* answer,
+                           std::size_t capacity) = 0;
 };
 
 // The real dialogs and the desktop's own editor.
@@ -40,6 +43,7 @@ class QtDesktop : public Desktop {
     bool AskSaveFileName(QWidget* parent, const SaveFileRequest& request, char* path,
                          std::size_t capacity) override;
     void Beep() override;
+    bool AskString(QWidget* parent, const char* title, char* answer, std::size_t capacity) override;
 };
 
 } // namespace steward

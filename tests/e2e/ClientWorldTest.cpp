@@ -1,0 +1,264 @@
+#include "config/ConfigFiles.h"
+#include "config/IniStore.h"
+#include "session/qt/Client.h"
+#include "session/qt/Desktop.h"
+#include "session/qt/FrameWindow.h"
+#include "terminal/AnsiWindow.h"
+
+#include <QApplication>
+#include <QFile>
+#include <QProcess>
+#include <QTemporaryDir>
+#include <QTest>
+#include <gtest/gtest.h>
+
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace steward::test {
+namespace {
+
+constexpr int WAIT_MS = 10000;
+
+// Dialogs answer as the test says; nothing opens on the desktop.
+class RecordingDesktop : public Desktop {
+  public:
+    ConnectChoice AskConnection(QWidget*, std::string& host, int& port) override
+    {
+        asked.push_back(host + ":" + std::to_string(port));
+        host = answerHost;
+        port = answerPort;
+        return choice;
+    }
+    bool AskExit(QWidget*) override
+    {
+        ++exitQuestions;
+        return leave;
+    }
+    void ShowMessage(QWidget*, const char* text, const char* title) override
+    {
+        messages.push_back(std::string(title ? title : "") + "|" + text);
+    }
+    bool RunEditor(const std::string& path) override
+    {
+        edited.push_back(path);
+        return true;
+    }
+    bool AskSaveFileName(QWidget*, const SaveFileRequest&, char*, std::size_t) override
+    {
+        return false;
+    }
+    void Beep() override {}
+    bool AskString(QWidget*, const char*, char*, std::size_t) override { return false; }
+
+    ConnectChoice choice = ConnectChoice::Connect;
+    std::string answerHost;
+    int answerPort = 0;
+    bool leave = true;
+    int exitQuestions = 0;
+    std::vector<std::string> asked;
+    std::vector<std::string> messages;
+    std::vector<std::string> edited;
+};
+
+// The practice world as a separate process on a free port of 127.0.0.1, recording every byte
+// that its clients send.
+class WorldProcess {
+  public:
+    explicit WorldProcess(const QString& recordFile)
+    {
+        process.start(QStringLiteral(WORLD_BINARY),
+                      {"--port", "0", "--quiet", "--listen", "127.0.0.1", "--record", recordFile});
+        if (!process.waitForStarted(WAIT_MS))
+            return;
+        if (QTest::qWaitFor([this] { return process.canReadLine(); }, WAIT_MS))
+            port = process.readLine().trimmed().toInt();
+    }
+    ~WorldProcess() { Stop(); }
+
+    void Stop()
+    {
+        if (process.state() == QProcess::NotRunning)
+            return;
+        process.kill();
+        process.waitForFinished(WAIT_MS);
+    }
+
+    QProcess process;
+    int port = 0;
+};
+
+class ClientWorldTest : public ::testing::Test {
+  protected:
+    void SetUp() override
+    {
+        ASSERT_TRUE(folder.isValid());
+        world = std::make_unique<WorldProcess>(folder.filePath("sent.bin"));
+        ASSERT_GT(world->port, 0);
+    }
+
+    std::unique_ptr<Client> MakeClient(const std::string& connection)
+    {
+        ClientOptions options;
+        options.Files = MakeConfigFiles(folder.path().toStdString());
+        options.ConnectionString = connection;
+        return std::make_unique<Client>(std::move(options), desktop);
+    }
+
+    std::string Address() const { return "/H127.0.0.1/P" + std::to_string(world->port); }
+
+    static std::string GameText(Client& client)
+    {
+        AnsiWindow* game = client.State().Windows.GameWindow;
+        if (!game)
+            return {};
+        std::vector<char> text(60000);
+        game->GetText(text.data(), static_cast<std::uint16_t>(text.size()));
+        return text.data();
+    }
+
+    static bool WaitForGameText(Client& client, const std::string& needle)
+    {
+        return QTest::qWaitFor([&] { return GameText(client).find(needle) != std::string::npos; },
+                               WAIT_MS);
+    }
+
+    QByteArray Sent() const
+    {
+        QFile file(folder.filePath("sent.bin"));
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    }
+
+    bool WaitForSent(const QByteArray& needle) const
+    {
+        return QTest::qWaitFor([&] { return Sent().contains(needle); }, WAIT_MS);
+    }
+
+    static void Type(Client& client, const char* text)
+    {
+        FrameWindow& frame = client.Frame();
+        QApplication::setActiveWindow(&frame);
+        QWidget* line = frame.CommandLine();
+        line->setFocus();
+        QTest::keyClicks(line, QString::fromLatin1(text));
+        QTest::keyClick(line, Qt::Key_Return);
+    }
+
+    QTemporaryDir folder;
+    std::unique_ptr<WorldProcess> world;
+    RecordingDesktop desktop;
+};
+
+TEST_F(ClientWorldTest, ConnectsShowsTheRoomAndAsksForStatusRecords)
+{
+    auto client = MakeClient(Address());
+    ASSERT_TRUE(client->Start());
+    EXPECT_FALSE(client->IsDisconnected());
+    EXPECT_TRUE(desktop.asked.empty());
+    ASSERT_TRUE(WaitForGameText(*client, "By what name are you known?"));
+
+    Type(*client, "Tester");
+    ASSERT_TRUE(WaitForGameText(*client, "[Thornmere, Market Square]"));
+    EXPECT_TRUE(WaitForSent("Tester\n\rSet Steward On\n\r")) << Sent().toStdString();
+}
+
+TEST_F(ClientWorldTest, TypedCommandReachesTheWorldWithLineFeedThenReturnAndIsEchoed)
+{
+    auto client = MakeClient(Address());
+    ASSERT_TRUE(client->Start());
+    ASSERT_TRUE(WaitForGameText(*client, "By what name are you known?"));
+    Type(*client, "Tester");
+    ASSERT_TRUE(WaitForSent("Set Steward On\n\r"));
+
+    Type(*client, "look");
+    EXPECT_TRUE(WaitForSent("look\n\r"));
+    EXPECT_NE(GameText(*client).find("look"), std::string::npos);
+    EXPECT_TRUE(QTest::qWaitFor(
+        [&] {
+            const std::string text = GameText(*client);
+            return text.find("[Thornmere, Market Square]") !=
+                   text.rfind("[Thornmere, Market Square]");
+        },
+        WAIT_MS));
+}
+
+TEST_F(ClientWorldTest, DroppedConnectionIsSaidInTheGameWindow)
+{
+    auto client = MakeClient(Address());
+    ASSERT_TRUE(client->Start());
+    ASSERT_TRUE(WaitForGameText(*client, "By what name are you known?"));
+    world->Stop();
+    ASSERT_TRUE(WaitForGameText(*client, "* Connection to the game has been dropped."));
+    EXPECT_TRUE(client->IsDisconnected());
+}
+
+TEST_F(ClientWorldTest, ExitWhileConnectedAsksAndSaysQuit)
+{
+    auto client = MakeClient(Address());
+    ASSERT_TRUE(client->Start());
+    ASSERT_TRUE(WaitForGameText(*client, "By what name are you known?"));
+
+    desktop.leave = false;
+    client->Frame().close();
+    EXPECT_EQ(desktop.exitQuestions, 1);
+    EXPECT_TRUE(client->Frame().isVisible());
+
+    desktop.leave = true;
+    client->Frame().close();
+    EXPECT_EQ(desktop.exitQuestions, 2);
+    client->Finish();
+    EXPECT_TRUE(WaitForSent("quit\n\r"));
+    EXPECT_TRUE(QFile::exists(folder.filePath("Default.Dat")));
+}
+
+TEST_F(ClientWorldTest, DialogChoosesTheHostAndRemembersIt)
+{
+    desktop.answerHost = "127.0.0.1";
+    desktop.answerPort = world->port;
+    auto client = MakeClient("");
+    ASSERT_TRUE(client->Start());
+    EXPECT_EQ(desktop.asked, std::vector<std::string>{"127.0.0.1:34283"});
+    EXPECT_FALSE(client->IsDisconnected());
+    const std::string ini = folder.filePath("Thornmere.Ini").toStdString();
+    EXPECT_EQ(ReadInt(ini, "Connection", "Port", 0), world->port);
+}
+
+TEST_F(ClientWorldTest, OfflineStartsWithoutAConnection)
+{
+    desktop.choice = ConnectChoice::Offline;
+    auto client = MakeClient("");
+    ASSERT_TRUE(client->Start());
+    EXPECT_TRUE(client->IsDisconnected());
+    EXPECT_NE(GameText(*client).find("*** Operating in an Offline mode."), std::string::npos);
+    EXPECT_STREQ(client->State().ConnectionString, "/H127.0.0.1/P34283");
+    const std::string ini = folder.filePath("Thornmere.Ini").toStdString();
+    EXPECT_EQ(ReadInt(ini, "Connection", "Port", 0), 0);
+
+    client->Frame().close();
+    EXPECT_EQ(desktop.exitQuestions, 0);
+}
+
+TEST_F(ClientWorldTest, ClosedPortEndsTheStartWithItsMessage)
+{
+    const int port = world->port;
+    world->Stop();
+    auto client = MakeClient("/H127.0.0.1/P" + std::to_string(port));
+    EXPECT_FALSE(client->Start());
+    EXPECT_EQ(desktop.messages,
+              std::vector<std::string>{"Fatal Error|Unable to connect to the server!"});
+}
+
+TEST_F(ClientWorldTest, CancelEndsTheStartAndSavesNothing)
+{
+    desktop.choice = ConnectChoice::Cancel;
+    auto client = MakeClient("");
+    EXPECT_FALSE(client->Start());
+    const std::string ini = folder.filePath("Thornmere.Ini").toStdString();
+    char host[64];
+    ReadString(ini, "Connection", "Host", host, sizeof host, "none");
+    EXPECT_STREQ(host, "none");
+}
+
+} // namespace
+} // namespace steward::test
