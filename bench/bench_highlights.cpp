@@ -10,12 +10,16 @@
 #include "scripts/ScriptWait.h"
 #include "session/ChildWindows.h"
 #include "session/FrameQueue.h"
+#include "terminal/AnsiWindow.h"
+
+#include "NullWindowHost.h"
 
 #include <benchmark/benchmark.h>
 
 #include <cstddef>
 #include <cstdio>
 #include <cstring>
+#include <memory>
 #include <random>
 #include <string>
 #include <vector>
@@ -173,25 +177,6 @@ void BM_ApplyHighlightsPlain(benchmark::State& state)
     state.SetBytesProcessed(static_cast<std::int64_t>(state.iterations() * TotalBytes(lines)));
 }
 
-// Windows are only told apart by address; the host never looks inside them.
-alignas(std::max_align_t) unsigned char GameTag[1];
-
-class BenchHost : public LineHost {
-  public:
-    explicit BenchHost(HighlightLists& lists) : lists_(lists) {}
-    void AppendText(AnsiWindow&, const char* text) override { appended += std::strlen(text); }
-    void ApplyHighlights(char* text, std::size_t capacity) override
-    {
-        lists_.ApplyHighlights(text, capacity, false, sounds_);
-    }
-    bool IsNameListed(const char* name) override { return lists_.IsNameListed(name); }
-    std::size_t appended = 0;
-
-  private:
-    HighlightLists& lists_;
-    QuietSounds sounds_;
-};
-
 class NoQueue : public FrameQueue {
   public:
     void PostCommand(int) override {}
@@ -212,7 +197,8 @@ class PipelineSink : public GameLineSink {
     LinePipeline& pipeline_;
 };
 
-// The whole receive path: blocks decoded into lines, the line analysis, both lists.
+// The whole receive path: blocks decoded into lines, the line analysis with both lists, and
+// the Game window storing the text.
 void BM_ReceiveWithHighlights(benchmark::State& state)
 {
     std::string stream;
@@ -220,24 +206,27 @@ void BM_ReceiveWithHighlights(benchmark::State& state)
         stream += line;
     HighlightLists lists;
     FillLists(lists, static_cast<std::size_t>(state.range(0)));
-    BenchHost host(lists);
+    QuietSounds sounds;
     Settings settings;
     BufferedLog sessionLog;
-    ChildWindows windows;
-    windows.GameWindow = reinterpret_cast<AnsiWindow*>(GameTag);
     NoQueue queue;
     ScriptWaitState script;
     StatusPanel panel;
     NoonClock clock;
+    ChildWindows windows;
     LinePipeline pipeline(
-        {host, settings, sessionLog, windows, queue, script, panel, clock, nullptr});
+        {settings, sessionLog, lists, sounds, windows, queue, script, panel, clock, nullptr});
+    NullWindowHost host;
+    std::unique_ptr<AnsiWindow> game =
+        AnsiWindow::Create("Game Window", {host, settings, nullptr, &pipeline.Prompt()});
+    windows.GameWindow = game.get();
     PipelineSink sink(pipeline);
     PacketDump dump;
     StreamDecoder decoder(sink, dump, settings);
     for (auto _ : state) {
         for (std::size_t at = 0; at + BLOCK_SIZE <= stream.size(); at += BLOCK_SIZE)
             decoder.HandleSocketEvent(stream.data() + at, BLOCK_SIZE);
-        benchmark::DoNotOptimize(host.appended);
+        benchmark::DoNotOptimize(game->GetLiveBuffer().GetWritePos());
     }
     state.SetBytesProcessed(
         static_cast<std::int64_t>(state.iterations() * (stream.size() / BLOCK_SIZE * BLOCK_SIZE)));

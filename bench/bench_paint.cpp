@@ -2,6 +2,8 @@
 // the top line while frozen.
 #include "terminal/AnsiWindow.h"
 
+#include "NullWindowHost.h"
+
 #include <benchmark/benchmark.h>
 
 #include <cstdio>
@@ -30,28 +32,6 @@ class NullLayer : public DrawingLayer {
 };
 
 // A 1000 by 800 pixel window with a font of 8 by 16 pixels: 50 rows.
-class NullHost : public AnsiWindowHost {
-  public:
-    Rect GetClientRect() const override { return {0, 0, 1000, 808}; }
-    void InvalidateRect(bool) override {}
-    void UpdateWindow() override {}
-    void SetScrollRange(std::int32_t, std::int32_t, bool) override {}
-    void SetScrollPos(std::int32_t, bool) override {}
-    bool IsActiveChild() const override { return true; }
-    void FocusCommandLine() override {}
-    void ClearTitle() override {}
-    void SelectFont(const LogFontRecord*, LogFontRecord&, FontMeasure& measure) override
-    {
-        measure.Height = 16;
-        measure.Widths.fill(8);
-    }
-    bool GetWindowPlacement(WindowPlacementRecord&) override { return false; }
-    void SetWindowPlacement(const WindowPlacementRecord&) override {}
-    void ShowWindow(std::uint32_t) override {}
-    bool PickColor(COLORREF&, bool) override { return false; }
-    bool PickFont(const LogFontRecord&, LogFontRecord&) override { return false; }
-    void Beep() override {}
-};
 
 struct FullWindow {
     FullWindow()
@@ -67,7 +47,7 @@ struct FullWindow {
             window->AppendText(line);
         }
     }
-    NullHost host;
+    NullWindowHost host;
     Settings settings;
     PromptState prompt;
     std::unique_ptr<AnsiWindow> window =

@@ -2,6 +2,7 @@
 #include "analysis/LinePipeline.h"
 
 #include "config/Settings.h"
+#include "highlights/HighlightLists.h"
 #include "panels/StatusPanel.h"
 #include "scripts/ScriptWait.h"
 #include "session/ChildWindows.h"
@@ -97,7 +98,7 @@ void LinePipeline::FilterLine(char* text, std::size_t capacity)
         return;
     if (EqualNoCase(word, "Obvious") && std::strchr(text, ':'))
         ParseExits(std::strchr(text, ':') + 1);
-    host_.ApplyHighlights(text, capacity);
+    highlights_.ApplyHighlights(text, capacity, options_.SquelchSounds, sounds_);
 }
 
 void LinePipeline::ParseExits(const char* list)

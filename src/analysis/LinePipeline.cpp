@@ -8,6 +8,7 @@
 #include "session/ChildWindows.h"
 #include "session/FrameCommand.h"
 #include "session/FrameQueue.h"
+#include "terminal/AnsiWindow.h"
 
 #include <cstring>
 
@@ -26,8 +27,9 @@ bool IsHiddenByte(char c)
 } // namespace
 
 LinePipeline::LinePipeline(const Parts& parts)
-    : host_(parts.Host), options_(parts.Options), sessionLog_(parts.SessionLog), windows_(parts.Windows), queue_(parts.Queue),
-      script_(parts.Script), panel_(parts.Panel), clock_(parts.Clock), frame_(parts.Frame),
+    : options_(parts.Options), sessionLog_(parts.SessionLog), highlights_(parts.Highlights),
+      sounds_(parts.Sounds), windows_(parts.Windows), queue_(parts.Queue), script_(parts.Script),
+      panel_(parts.Panel), clock_(parts.Clock), frame_(parts.Frame),
       ColoredCopy(new char[LINE_COPY_SIZE]()), PlainCopy(new char[LINE_COPY_SIZE]())
 {
 }
@@ -77,7 +79,7 @@ void LinePipeline::SendToWindow(AnsiWindow* window, char* text, std::size_t capa
     if (!window)
         return;
     FilterLine(text, capacity);
-    host_.AppendText(*window, text);
+    window->AppendText(text);
 }
 
 void LinePipeline::PrintToWindow(AnsiWindow* window, const char* text)
@@ -95,8 +97,8 @@ void LinePipeline::EchoCommand(const char* text)
     prompt_.EchoPending = true;
     if (!windows_.GameWindow)
         return;
-    host_.AppendText(*windows_.GameWindow, text);
-    host_.AppendText(*windows_.GameWindow, "\r\n");
+    windows_.GameWindow->AppendText(text);
+    windows_.GameWindow->AppendText("\r\n");
 }
 
 } // namespace steward

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "analysis/LineHost.h"
+#include "analysis/LocalClock.h"
 #include "analysis/PromptState.h"
 #include "connection/GameLineSink.h"
 
@@ -15,6 +15,8 @@ class BufferedLog;
 class CountdownListener;
 class FrameQueue;
 class Gauge;
+class HighlightLists;
+class HighlightSounds;
 struct ChildWindows;
 struct Settings;
 struct ScriptWaitState;
@@ -41,9 +43,10 @@ void TrimLineEnd(char* text);
 class LinePipeline : public GameLineSink {
   public:
     struct Parts {
-        LineHost& Host;
         const Settings& Options;
         BufferedLog& SessionLog;
+        HighlightLists& Highlights;
+        HighlightSounds& Sounds;
         const ChildWindows& Windows;
         FrameQueue& Queue;
         ScriptWaitState& Script;
@@ -81,9 +84,10 @@ class LinePipeline : public GameLineSink {
     void RouteStarText(char* line, const char* name, const char* built);
     void ParseExits(const char* text);
 
-    LineHost& host_;
     const Settings& options_;
     BufferedLog& sessionLog_;
+    HighlightLists& highlights_;
+    HighlightSounds& sounds_;
     const ChildWindows& windows_;
     FrameQueue& queue_;
     ScriptWaitState& script_;

@@ -2,6 +2,7 @@
 #include "analysis/LinePipeline.h"
 
 #include "config/Settings.h"
+#include "highlights/HighlightLists.h"
 #include "panels/StatusPanel.h"
 #include "session/ChildWindows.h"
 
@@ -111,7 +112,7 @@ bool LinePipeline::HandleStarLine(char* line, std::size_t capacity)
 
 void LinePipeline::RouteStarText(char* line, const char* name, const char* built)
 {
-    if (options_.OnlyListedArrivals && !host_.IsNameListed(name))
+    if (options_.OnlyListedArrivals && !highlights_.IsNameListed(name))
         return;
     if (windows_.ArrivalWindow) {
         PrintToWindow(windows_.ArrivalWindow, built);

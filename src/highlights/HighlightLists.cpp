@@ -1,6 +1,7 @@
 #include "highlights/HighlightLists.h"
 
 #include "highlights/HighlightMatch.h"
+#include "session/FrameCommand.h"
 
 namespace steward {
 namespace {

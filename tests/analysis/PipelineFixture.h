@@ -3,56 +3,37 @@
 #include "analysis/LinePipeline.h"
 #include "config/BufferedLog.h"
 #include "config/Settings.h"
+#include "connection/ColorCode.h"
+#include "highlights/HighlightLists.h"
 #include "panels/StatusPanel.h"
 #include "scripts/ScriptWait.h"
 #include "session/ChildWindows.h"
 #include "session/FrameQueue.h"
 #include "support/TempFolder.h"
+#include "terminal/AnsiWindow.h"
+#include "terminal/TextBufferFixture.h"
+#include "terminal/WindowFixture.h"
 
 #include <gtest/gtest.h>
 
 #include <cstring>
+#include <memory>
 #include <string>
 #include <vector>
 
 namespace steward::testing {
 
-// Windows are only told apart by address here; the recording host never looks inside them.
-struct WindowTags {
-    alignas(std::max_align_t) unsigned char game[1];
-    alignas(std::max_align_t) unsigned char thought[1];
-    alignas(std::max_align_t) unsigned char arrival[1];
-};
+inline std::string On(unsigned char color)
+{
+    char out[8];
+    return std::string(out, AppendColorOn(out, color));
+}
 
-struct Appended {
-    const AnsiWindow* window;
-    std::string text;
-};
-
-class RecordingHost : public LineHost {
-  public:
-    void AppendText(AnsiWindow& window, const char* text) override
-    {
-        appended.push_back({&window, text});
-    }
-    void ApplyHighlights(char* text, std::size_t capacity) override
-    {
-        highlighted.emplace_back(text);
-        lastCapacity = capacity;
-    }
-    bool IsNameListed(const char* name) override
-    {
-        for (const std::string& listed : names)
-            if (listed == name)
-                return true;
-        return false;
-    }
-
-    std::vector<Appended> appended;
-    std::vector<std::string> highlighted;
-    std::vector<std::string> names;
-    std::size_t lastCapacity = 0;
-};
+inline std::string Off(unsigned char color)
+{
+    char out[8];
+    return std::string(out, AppendColorOff(out, color));
+}
 
 class RecordingQueue : public FrameQueue {
   public:
@@ -68,26 +49,38 @@ class FixedClock : public LocalClock {
     TimeOfDay time{17, 30};
 };
 
+class RecordingSounds : public HighlightSounds {
+  public:
+    void PlayHighlightSound(const char* name) override { played.emplace_back(name); }
+    std::vector<std::string> played;
+};
+
+// The pipeline with real text windows, a real session log and real highlight lists; only the
+// frame's queue, the clock and the sound output are doubles.
 class PipelineTest : public ::testing::Test {
   protected:
     PipelineTest()
     {
+        // Wide enough that no test line wraps.
+        host.client = {0, 0, 100000, 105};
+        game = AnsiWindow::Create("Game Window", {host, options, nullptr, &pipeline.Prompt()});
+        thought = AnsiWindow::Create("Thought Window", {host, options, nullptr, nullptr});
+        arrival = AnsiWindow::Create("Arrival Window", {host, options, nullptr, nullptr});
         windows.GameWindow = Game();
+        freshLength = steward::test::RingText(game->GetLiveBuffer()).size();
         sessionLog.OpenNew(logPath.c_str());
     }
 
-    AnsiWindow* Game() { return reinterpret_cast<AnsiWindow*>(tags.game); }
-    AnsiWindow* Thought() { return reinterpret_cast<AnsiWindow*>(tags.thought); }
-    AnsiWindow* Arrival() { return reinterpret_cast<AnsiWindow*>(tags.arrival); }
+    AnsiWindow* Game() { return game.get(); }
+    AnsiWindow* Thought() { return thought.get(); }
+    AnsiWindow* Arrival() { return arrival.get(); }
 
-    // Texts that reached one window, in order.
-    std::vector<std::string> In(AnsiWindow* window) const
+    // What a window stores behind the line feeds that every fresh window starts with: colour
+    // codes and line feeds as they are kept, without carriage returns and bells.
+    std::string In(AnsiWindow* window) const
     {
-        std::vector<std::string> texts;
-        for (const Appended& a : host.appended)
-            if (a.window == window)
-                texts.push_back(a.text);
-        return texts;
+        const std::string text = steward::test::RingText(window->GetLiveBuffer());
+        return text.substr(std::min(text.size(), freshLength));
     }
 
     // Everything the session log took so far.
@@ -97,18 +90,24 @@ class PipelineTest : public ::testing::Test {
         return ReadBytes(logPath);
     }
 
-    WindowTags tags;
-    RecordingHost host;
+    FakeHost host;
     RecordingQueue queue;
     FixedClock clock;
+    RecordingSounds sounds;
     Settings options;
     TempFolder folder;
     std::string logPath = folder.File("Session.Log");
     BufferedLog sessionLog;
+    HighlightLists highlights;
     ChildWindows windows;
     ScriptWaitState script;
     StatusPanel panel;
-    LinePipeline pipeline{{host, options, sessionLog, windows, queue, script, panel, clock, nullptr}};
+    LinePipeline pipeline{
+        {options, sessionLog, highlights, sounds, windows, queue, script, panel, clock, nullptr}};
+    std::unique_ptr<AnsiWindow> game;
+    std::unique_ptr<AnsiWindow> thought;
+    std::unique_ptr<AnsiWindow> arrival;
+    std::size_t freshLength = 0;
 };
 
 } // namespace steward::testing

@@ -84,7 +84,7 @@ TEST_F(PipelineTest, ARecordWithoutTheClosingEscIsDroppedSilently)
     text[67] = '0';
     script.ScriptWait = WAIT_PROMPT;
     pipeline.ProcessGameLine(text.c_str());
-    EXPECT_TRUE(host.appended.empty());
+    EXPECT_EQ(In(Game()), "");
     EXPECT_EQ(Logged(), "");
     EXPECT_EQ(script.ScriptWait, WAIT_PROMPT);
     EXPECT_TRUE(pipeline.StatusModeWasRequested());
@@ -96,7 +96,7 @@ TEST_F(PipelineTest, TheRecordPrintsAndLogsItsPrompt)
     std::string line = "\x82";
     line += Record(Fields);
     pipeline.ProcessGameLine(line.c_str());
-    EXPECT_EQ(In(Game()), std::vector<std::string>{">"});
+    EXPECT_EQ(In(Game()), ">");
     EXPECT_EQ(Logged(), ">");
     EXPECT_TRUE(pipeline.Prompt().PromptPending);
     EXPECT_EQ(script.ScriptWait, WAIT_NONE);
@@ -105,9 +105,10 @@ TEST_F(PipelineTest, TheRecordPrintsAndLogsItsPrompt)
 TEST_F(PipelineTest, TheLongPromptShowsHitPointsAndFatigue)
 {
     options.ShowStatusPrompt = true;
+    highlights.StringHighlights.Add("ftg", 12);
     pipeline.ProcessGameLine(Record(Fields).c_str());
-    EXPECT_EQ(In(Game()), std::vector<std::string>{"[45/100 hp, 7/30 ftg] >"});
-    EXPECT_EQ(host.highlighted, std::vector<std::string>{"[45/100 hp, 7/30 ftg] >"});
+    EXPECT_EQ(In(Game()), "[45/100 hp, 7/30 " + On(12) + "ftg" + Off(12) + "] >")
+        << "the prompt runs through the filters";
 }
 
 TEST_F(PipelineTest, PostureBytesMapToFigureStates)
@@ -134,7 +135,8 @@ TEST_F(PipelineTest, RoundTimeFieldHoldsSecondsPlusOneCappedAtSixty)
                  {"3D", true, 60000}, {"7F", true, 60000}, {"80", false, 0}};
     for (const auto& c : cases) {
         StatusPanel fresh;
-        LinePipeline local{{host, options, sessionLog, windows, queue, script, fresh, clock, nullptr}};
+        LinePipeline local{{options, sessionLog, highlights, sounds, windows, queue, script, fresh,
+                            clock, nullptr}};
         std::string fields = Fields;
         fields.replace(62, 2, c.field);
         local.ProcessGameLine(Record(fields).c_str());

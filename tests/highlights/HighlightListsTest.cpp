@@ -1,5 +1,6 @@
 #include "highlights/HighlightLists.h"
 #include "HighlightDoubles.h"
+#include "session/FrameCommand.h"
 
 #include <gtest/gtest.h>
 
