@@ -239,6 +239,44 @@ TEST_F(ClientWorldTest, OfflineStartsWithoutAConnection)
     EXPECT_EQ(desktop.exitQuestions, 0);
 }
 
+TEST_F(ClientWorldTest, PauseRestsAndAnyKeyWakes)
+{
+    desktop.choice = ConnectChoice::Offline;
+    auto client = MakeClient("");
+    ASSERT_TRUE(client->Start());
+    FrameWindow& frame = client->Frame();
+    QApplication::setActiveWindow(&frame);
+    frame.CommandLine()->setFocus();
+    QTest::keyClick(frame.CommandLine(), Qt::Key_Pause);
+    EXPECT_TRUE(client->State().Rest.RestMode);
+    EXPECT_FALSE(client->State().Rest.RestSilent);
+    EXPECT_NE(GameText(*client).find("Entering rest mode...press any key to resume."),
+              std::string::npos);
+    QTest::keyClick(frame.CommandLine(), Qt::Key_A);
+    EXPECT_FALSE(client->State().Rest.RestMode);
+    EXPECT_NE(GameText(*client).find("Leaving rest mode."), std::string::npos);
+
+    QTest::keyClick(frame.CommandLine(), Qt::Key_Pause, Qt::ShiftModifier);
+    EXPECT_TRUE(client->State().Rest.RestSilent);
+}
+
+TEST_F(ClientWorldTest, VersionNotesOpenOnceInTheEditor)
+{
+    desktop.choice = ConnectChoice::Offline;
+    {
+        auto client = MakeClient("");
+        ASSERT_TRUE(client->Start());
+        ASSERT_TRUE(QTest::qWaitFor([&] { return !desktop.edited.empty(); }, WAIT_MS));
+        client->Frame().close();
+    }
+    EXPECT_EQ(desktop.edited,
+              std::vector<std::string>{folder.filePath("Version Notes.Txt").toStdString()});
+    auto again = MakeClient("");
+    ASSERT_TRUE(again->Start());
+    QTest::qWait(50);
+    EXPECT_EQ(desktop.edited.size(), 1u);
+}
+
 TEST_F(ClientWorldTest, ClosedPortEndsTheStartWithItsMessage)
 {
     const int port = world->port;

@@ -17,6 +17,7 @@
 #include <QAbstractEventDispatcher>
 #include <QApplication>
 #include <QCoreApplication>
+#include <QShortcut>
 #include <QThread>
 #include <QTime>
 
@@ -58,6 +59,7 @@ Client::Client(ClientOptions options, Desktop& desktop)
         std::make_unique<Keyboard>(*commandLine_, sink, queue, host, session_.Profile.Settings);
     keyFilter_ = std::make_unique<KeyFilterQt>(keyboard_->Filter, *commandLine_);
     qApp->installEventFilter(keyFilter_.get());
+    AddRestKeys();
     frame_->Mdi().SetChildClosedHandler([this](WindowRow row) { ChildClosed(row); });
     connect(&timer_, &QTimer::timeout, this, &Client::OnTimer);
     connect(QAbstractEventDispatcher::instance(), &QAbstractEventDispatcher::awake, this,
@@ -69,6 +71,16 @@ Client::Client(ClientOptions options, Desktop& desktop)
 Client::~Client()
 {
     Finish();
+}
+
+void Client::AddRestKeys()
+{
+    auto* rest = new QShortcut(QKeySequence(Qt::Key_Pause), frame_.get());
+    auto* silent = new QShortcut(QKeySequence(Qt::SHIFT | Qt::Key_Pause), frame_.get());
+    rest->setContext(Qt::ApplicationShortcut);
+    silent->setContext(Qt::ApplicationShortcut);
+    connect(rest, &QShortcut::activated, this, [this] { OnCommand(CMD_REST_MODE); });
+    connect(silent, &QShortcut::activated, this, [this] { OnCommand(CMD_REST_MODE_SILENT); });
 }
 
 bool Client::Start()

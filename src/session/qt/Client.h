@@ -80,6 +80,8 @@ class Client : public QObject,
     bool IsDisconnected() const { return connection_.IsDisconnected(); }
 
   private:
+    // Pause enters rest mode, Shift+Pause rests without snoring.
+    void AddRestKeys();
     // Start-up steps.
     void PlaceFrame();
     void ShowVersionNotesOnce();

@@ -1,0 +1,115 @@
+#include <QDir>
+#include <QFile>
+#include <QProcess>
+#include <QProcessEnvironment>
+#include <QTemporaryDir>
+#include <QTest>
+#include <gtest/gtest.h>
+
+#include <csignal>
+
+namespace steward::test {
+namespace {
+
+constexpr int WAIT_MS = 15000;
+
+// The real program against the real world, each in its own process; the client keeps its
+// files in a data folder of its own.
+class ClientProcessTest : public ::testing::Test {
+  protected:
+    void SetUp() override
+    {
+        ASSERT_TRUE(home.isValid());
+        world.start(QStringLiteral(WORLD_BINARY), {"--port", "0", "--quiet", "--listen",
+                                                   "127.0.0.1", "--record", Path("sent.bin")});
+        ASSERT_TRUE(world.waitForStarted(WAIT_MS));
+        ASSERT_TRUE(QTest::qWaitFor([this] { return world.canReadLine(); }, WAIT_MS));
+        port = world.readLine().trimmed().toInt();
+        ASSERT_GT(port, 0);
+    }
+
+    void TearDown() override
+    {
+        for (QProcess* process : {&client, &second, &world}) {
+            if (process->state() == QProcess::NotRunning)
+                continue;
+            process->kill();
+            process->waitForFinished(WAIT_MS);
+        }
+    }
+
+    QString Path(const char* name) const { return home.filePath(QString::fromLatin1(name)); }
+    QString DataFile(const char* name) const
+    {
+        return home.filePath(QStringLiteral("ThornmereSteward/") + QString::fromLatin1(name));
+    }
+
+    // The version notes were shown before, so that no editor is asked for.
+    void StartClient(QProcess& process)
+    {
+        QDir().mkpath(home.filePath(QStringLiteral("ThornmereSteward")));
+        QFile ini(DataFile("Thornmere.Ini"));
+        if (!ini.exists() && ini.open(QIODevice::WriteOnly))
+            ini.write("[Version Info]\nVersion=68000000\n");
+        ini.close();
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        environment.insert(QStringLiteral("XDG_DATA_HOME"), home.path());
+        environment.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("offscreen"));
+        process.setProcessEnvironment(environment);
+        process.start(QStringLiteral(CLIENT_BINARY), {QStringLiteral("/H127.0.0.1/P%1").arg(port)});
+    }
+
+    QByteArray Sent() const
+    {
+        QFile file(home.filePath(QStringLiteral("sent.bin")));
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    }
+
+    static QByteArray Read(const QString& path)
+    {
+        QFile file(path);
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    }
+
+    QTemporaryDir home;
+    QProcess world;
+    QProcess client;
+    QProcess second;
+    int port = 0;
+};
+
+TEST_F(ClientProcessTest, TerminateSaysQuitSavesTheProfileAndEndsCleanly)
+{
+    StartClient(client);
+    ASSERT_TRUE(client.waitForStarted(WAIT_MS));
+    ASSERT_TRUE(QTest::qWaitFor([&] { return QFile::exists(DataFile("Default.Dat")); }, WAIT_MS));
+    QTest::qWait(300);
+
+    ::kill(static_cast<pid_t>(client.processId()), SIGTERM);
+    ASSERT_TRUE(client.waitForFinished(WAIT_MS));
+    EXPECT_EQ(client.exitStatus(), QProcess::NormalExit);
+    EXPECT_EQ(client.exitCode(), 0);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return Sent().contains("quit\n\r"); }, WAIT_MS));
+
+    const QByteArray profile = Read(DataFile("Default.Dat"));
+    EXPECT_TRUE(profile.contains("Open Windows=")) << profile.toStdString();
+    EXPECT_TRUE(profile.contains("MainWindow="));
+    const QByteArray ini = Read(DataFile("Thornmere.Ini"));
+    EXPECT_TRUE(ini.contains("LastChar=Default"));
+    EXPECT_TRUE(ini.contains("Version=68000000"));
+    EXPECT_FALSE(ini.contains("[Connection]"));
+    EXPECT_TRUE(QFile::exists(DataFile("Version Notes.Txt")));
+}
+
+TEST_F(ClientProcessTest, SecondStartOnTheSameFolderEndsAtOnce)
+{
+    StartClient(client);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return QFile::exists(DataFile("Default.Dat")); }, WAIT_MS));
+    StartClient(second);
+    ASSERT_TRUE(second.waitForFinished(WAIT_MS));
+    EXPECT_EQ(second.exitCode(), 0);
+    EXPECT_EQ(client.state(), QProcess::Running);
+}
+
+} // namespace
+} // namespace steward::test
