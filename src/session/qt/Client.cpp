@@ -36,8 +36,8 @@ constexpr char FATAL_ERROR_TITLE[] = "Fatal Error";
 
 Client::Client(ClientOptions options, Desktop& desktop)
     : options_(std::move(options)), desktop_(desktop),
-      pipeline_({*this, session_.Profile.Settings, session_.SessionLog, session_.Windows, *this,
-                 session_.Script, session_.Panel, *this, nullptr}),
+      pipeline_({session_.Profile.Settings, session_.SessionLog, highlights_, sounds_,
+                 session_.Windows, *this, session_.Script, session_.Panel, *this, nullptr}),
       decoder_(pipeline_, session_.PacketDump, session_.Profile.Settings), socket_(*this),
       connection_(socket_, decoder_)
 {

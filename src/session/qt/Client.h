@@ -1,7 +1,7 @@
 #pragma once
 
-#include "analysis/LineHost.h"
 #include "analysis/LinePipeline.h"
+#include "analysis/LocalClock.h"
 #include "commands/CommandSink.h"
 #include "commands/KeyboardHost.h"
 #include "config/LogHost.h"
@@ -48,7 +48,6 @@ struct ClientOptions {
 class Client : public QObject,
                private SocketListener,
                private FrameQueue,
-               private LineHost,
                private LocalClock,
                private ProfileParts,
                private LogHost,
@@ -126,10 +125,6 @@ class Client : public QObject,
     // FrameQueue.
     void PostCommand(int command) override;
     void PostDropped() override;
-    // LineHost.
-    void AppendText(AnsiWindow& window, const char* text) override;
-    void ApplyHighlights(char* text, std::size_t capacity) override;
-    bool IsNameListed(const char* name) override;
     // LocalClock.
     TimeOfDay Now() const override;
     // ProfileParts.

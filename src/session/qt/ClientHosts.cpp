@@ -18,22 +18,6 @@ void Client::PrintToGameWindow(const char* text)
     pipeline_.PrintToWindow(session_.Windows.GameWindow, text);
 }
 
-void Client::AppendText(AnsiWindow& window, const char* text)
-{
-    window.AppendText(text);
-}
-
-void Client::ApplyHighlights(char* text, std::size_t capacity)
-{
-    highlights_.ApplyHighlights(text, capacity, session_.Profile.Settings.SquelchSounds != 0,
-                                sounds_);
-}
-
-bool Client::IsNameListed(const char* name)
-{
-    return highlights_.IsNameListed(name);
-}
-
 GaugeColors Client::GetGaugeColors(ProfileGauge gauge)
 {
     return GaugeFor(session_.Panel, gauge).Colors();
