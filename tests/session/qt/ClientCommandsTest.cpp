@@ -1,0 +1,220 @@
+#include "config/ConfigFiles.h"
+#include "config/IniStore.h"
+#include "session/FrameCommand.h"
+#include "session/qt/Client.h"
+#include "session/qt/Desktop.h"
+#include "session/qt/FrameMenu.h"
+#include "session/qt/FrameWindow.h"
+#include "session/qt/MdiClient.h"
+#include "terminal/AnsiWindow.h"
+
+#include <QAction>
+#include <QDate>
+#include <QFile>
+#include <QTemporaryDir>
+#include <QTest>
+#include <gtest/gtest.h>
+
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace steward {
+namespace {
+
+// An offline client whose dialogs answer at once and whose editor only records.
+class OfflineDesktop : public Desktop {
+  public:
+    ConnectChoice AskConnection(QWidget*, std::string&, int&) override
+    {
+        return ConnectChoice::Offline;
+    }
+    bool AskExit(QWidget*) override { return true; }
+    void ShowMessage(QWidget*, const char* text, const char*) override
+    {
+        messages.emplace_back(text);
+    }
+    bool RunEditor(const std::string& path) override
+    {
+        edited.push_back(path);
+        return editorStarts;
+    }
+    bool AskSaveFileName(QWidget*, const SaveFileRequest&, char*, std::size_t) override
+    {
+        return false;
+    }
+    void Beep() override {}
+    bool AskString(QWidget*, const char*, char*, std::size_t) override { return false; }
+
+    bool editorStarts = true;
+    std::vector<std::string> messages;
+    std::vector<std::string> edited;
+};
+
+class ClientCommandsTest : public ::testing::Test {
+  protected:
+    void SetUp() override
+    {
+        ASSERT_TRUE(folder.isValid());
+        // The version notes were shown before, so the editor sees only what a test asks for.
+        WriteInt(Ini(), "Version Info", "Version", 0x68);
+        client = MakeClient();
+        ASSERT_TRUE(client->Start());
+    }
+
+    std::unique_ptr<Client> MakeClient()
+    {
+        ClientOptions options;
+        options.Files = MakeConfigFiles(folder.path().toStdString());
+        auto made = std::make_unique<Client>(std::move(options), desktop);
+        made->Frame().resize(800, 600);
+        return made;
+    }
+
+    std::string Ini() const { return folder.filePath("Thornmere.Ini").toStdString(); }
+    std::string File(const char* name) const { return folder.filePath(name).toStdString(); }
+
+    std::string GameText() const
+    {
+        std::vector<char> text(60000);
+        client->State().Windows.GameWindow->GetText(text.data(),
+                                                    static_cast<std::uint16_t>(text.size()));
+        return text.data();
+    }
+
+    bool GameSays(const char* text) const { return GameText().find(text) != std::string::npos; }
+
+    QString TodaysLog(int n) const
+    {
+        const QDate today = QDate::currentDate();
+        return folder.filePath(QStringLiteral("Thornmere Log %1-%2-%3 (%4).Txt")
+                                   .arg(today.month())
+                                   .arg(today.day(), 2, 10, QLatin1Char('0'))
+                                   .arg(today.year())
+                                   .arg(n));
+    }
+
+    QTemporaryDir folder;
+    OfflineDesktop desktop;
+    std::unique_ptr<Client> client;
+};
+
+TEST_F(ClientCommandsTest, NotesFileIsMadeOnceWithItsHeaderAndOpened)
+{
+    client->OnCommand(CMD_RUN_NOTEPAD);
+    const std::string notes = File("Thornmere Notes.Txt");
+    EXPECT_EQ(desktop.edited, std::vector<std::string>{notes});
+    QFile file(QString::fromStdString(notes));
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+    EXPECT_EQ(file.readAll(),
+              QByteArray("--------------------\nThornmere Notes:\n--------------------\n\n\n"));
+    file.close();
+
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write("my notes\n");
+    file.close();
+    client->OnCommand(CMD_RUN_NOTEPAD);
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+    EXPECT_EQ(file.readAll(), QByteArray("my notes\n"));
+}
+
+TEST_F(ClientCommandsTest, EditorThatDoesNotStartIsSaid)
+{
+    desktop.editorStarts = false;
+    client->OnCommand(CMD_VERSION_NOTES);
+    EXPECT_EQ(desktop.edited, std::vector<std::string>{File("Version Notes.Txt")});
+    EXPECT_EQ(desktop.messages, std::vector<std::string>{"Unable to run the text editor!"});
+}
+
+TEST_F(ClientCommandsTest, DatedLogsCountUpWithinADay)
+{
+    client->OnCommand(CMD_OPEN_DATED_LOG);
+    EXPECT_TRUE(GameSays("Log file auto-opened successfully."));
+    EXPECT_TRUE(client->State().SessionLog.IsOpen());
+    client->OnCommand(CMD_CLOSE_LOG);
+    EXPECT_FALSE(client->State().SessionLog.IsOpen());
+    EXPECT_TRUE(QFile::exists(TodaysLog(1)));
+
+    client->OnCommand(CMD_OPEN_DATED_LOG);
+    client->OnCommand(CMD_CLOSE_LOG);
+    EXPECT_TRUE(QFile::exists(TodaysLog(2)));
+}
+
+TEST_F(ClientCommandsTest, AutoLogOpensALogOnlyWhenNoneIsOpen)
+{
+    client->OnCommand(CMD_AUTO_LOG);
+    EXPECT_TRUE(client->State().Profile.Settings.AutoLog);
+    EXPECT_TRUE(client->State().SessionLog.IsOpen());
+    EXPECT_TRUE(QFile::exists(TodaysLog(1)));
+
+    client->OnCommand(CMD_AUTO_LOG);
+    EXPECT_FALSE(client->State().Profile.Settings.AutoLog);
+    EXPECT_TRUE(client->State().SessionLog.IsOpen());
+
+    client->OnCommand(CMD_AUTO_LOG);
+    EXPECT_FALSE(QFile::exists(TodaysLog(2)));
+}
+
+TEST_F(ClientCommandsTest, WindowMenuOpensWindowsAndArrangesThem)
+{
+    MdiClient& mdi = client->Frame().Mdi();
+    EXPECT_TRUE(mdi.Exists(GAME_ROW));
+    EXPECT_TRUE(mdi.Exists(THOUGHT_ROW));
+    EXPECT_FALSE(mdi.Exists(ARRIVAL_ROW));
+    client->OnCommand(CMD_OPEN_ARRIVAL_WINDOW);
+    ASSERT_NE(client->State().Windows.ArrivalWindow, nullptr);
+    const Area area = mdi.ClientArea();
+    EXPECT_EQ(mdi.Child(ARRIVAL_ROW)->geometry(),
+              QRect(area.Width / 2, 0, area.Width / 2, area.Height / 4));
+
+    delete mdi.Child(THOUGHT_ROW);
+    EXPECT_EQ(client->State().Windows.ThoughtWindow, nullptr);
+    EXPECT_EQ(mdi.Child(ARRIVAL_ROW)->geometry(), QRect(0, 0, area.Width, area.Height / 4));
+}
+
+TEST_F(ClientCommandsTest, DisplayModesMoveTheTextArea)
+{
+    client->OnCommand(CMD_FULL_SCREEN);
+    EXPECT_EQ(client->State().Profile.Settings.DisplayMode, 2);
+    EXPECT_EQ(client->Frame().Mdi().geometry().top(), 4);
+    client->OnCommand(CMD_GRAPHICS_AT_TOP);
+    EXPECT_EQ(client->Frame().Mdi().geometry().top(), 62);
+}
+
+TEST_F(ClientCommandsTest, WindowsAndPlacementComeBackAfterARestart)
+{
+    client->OnCommand(CMD_OPEN_ARRIVAL_WINDOW);
+    client->Frame().Mdi().Activate(ARRIVAL_ROW);
+    client->Frame().close();
+    client.reset();
+    char letters[32];
+    ReadString(File("Default.Dat"), "Windows", "Open Windows", letters, sizeof letters, "");
+    EXPECT_STREQ(letters, "gtA");
+
+    client = MakeClient();
+    ASSERT_TRUE(client->Start());
+    EXPECT_NE(client->State().Windows.ArrivalWindow, nullptr);
+    EXPECT_NE(client->State().Windows.ThoughtWindow, nullptr);
+}
+
+TEST_F(ClientCommandsTest, RestTicksSendNothingWhileOffline)
+{
+    client->OnCommand(CMD_REST_MODE_SILENT);
+    EXPECT_TRUE(client->State().Rest.RestMode);
+    EXPECT_TRUE(client->State().Rest.RestSilent);
+    EXPECT_TRUE(GameSays("Entering rest mode...press any key to resume."));
+}
+
+TEST_F(ClientCommandsTest, MenuFollowsTheOfflineState)
+{
+    FrameMenu& menu = client->Frame().Menu();
+    menu.Refresh();
+    EXPECT_TRUE(menu.Action(CMD_CONNECT)->isEnabled());
+    EXPECT_FALSE(menu.Action(CMD_RESET_STEWARD_MODE)->isEnabled());
+    EXPECT_FALSE(menu.Action(CMD_OPEN_GAME_WINDOW)->isEnabled());
+    EXPECT_TRUE(menu.Action(CMD_OPEN_ARRIVAL_WINDOW)->isEnabled());
+    EXPECT_TRUE(menu.Action(CMD_AUTO_ARRANGE)->isChecked());
+}
+
+} // namespace
+} // namespace steward
