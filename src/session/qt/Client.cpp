@@ -17,6 +17,7 @@
 #include <QAbstractEventDispatcher>
 #include <QApplication>
 #include <QCoreApplication>
+#include <QScreen>
 #include <QShortcut>
 #include <QThread>
 #include <QTime>
@@ -100,6 +101,7 @@ bool Client::Start()
         OnCommand(CMD_OPEN_DATED_LOG);
     AnnouncePacketDump(session_.PacketDump, *this);
     PlayStartMusic(sounds_, session_.Profile.Settings.SquelchSounds != 0);
+    frame_->activateWindow();
     frame_->FocusCommandLine();
     return true;
 }
@@ -107,8 +109,12 @@ bool Client::Start()
 void Client::PlaceFrame()
 {
     FramePlacement placement(*frame_);
-    if (!ReadPlacement(session_.Profile.ProfilePath, "Windows", "MainWindow", placement))
-        frame_->showMaximized();
+    if (ReadPlacement(session_.Profile.ProfilePath, "Windows", "MainWindow", placement))
+        return;
+    // Without a window manager a maximise does nothing, so the frame takes the screen first.
+    if (QScreen* screen = frame_->screen())
+        frame_->setGeometry(screen->availableGeometry());
+    frame_->showMaximized();
     frame_->update();
 }
 

@@ -26,6 +26,7 @@ QMdiSubWindow* MdiClient::AddChild(WindowRow row, QWidget* widget, const Area& p
     sub->setAttribute(Qt::WA_DeleteOnClose);
     sub->setWidget(widget);
     sub->setWindowTitle(QString::fromLatin1(WindowTable[row].Name));
+    sub->setWindowIcon(QIcon(QStringLiteral(":/AppIcon.png")));
     addSubWindow(sub);
     sub->setGeometry(place.X, place.Y, place.Width, place.Height);
     sub->show();
@@ -129,7 +130,9 @@ void MdiClient::Activate(WindowRow row)
 
 Area MdiClient::ClientArea() const
 {
-    return {0, 0, viewport()->width(), viewport()->height()};
+    // The viewport follows a move of the area only at its next resize event.
+    const QRect inner = contentsRect();
+    return {0, 0, inner.width(), inner.height()};
 }
 
 void MdiClient::FocusCommandLine()
