@@ -1,5 +1,6 @@
 #include "session/qt/MdiClient.h"
 
+#include <QEvent>
 #include <QMdiSubWindow>
 #include <QPainter>
 
@@ -16,22 +17,24 @@ MdiClient::MdiClient(QWidget* parent)
 MdiClient::~MdiClient()
 {
     dying_ = true;
-    for (QMdiSubWindow* sub : subWindowList())
+    for (QMdiSubWindow* sub : subWindowList()) {
+        delete sub->widget();
         delete sub;
+    }
 }
 
 QMdiSubWindow* MdiClient::AddChild(WindowRow row, QWidget* widget, const Area& place)
 {
     auto* sub = new QMdiSubWindow(nullptr);
-    sub->setAttribute(Qt::WA_DeleteOnClose);
     sub->setWidget(widget);
+    sub->installEventFilter(this);
     sub->setWindowTitle(QString::fromLatin1(WindowTable[row].Name));
     sub->setWindowIcon(QIcon(QStringLiteral(":/AppIcon.png")));
     addSubWindow(sub);
     sub->setGeometry(place.X, place.Y, place.Width, place.Height);
     sub->show();
     rows_[row] = sub;
-    connect(sub, &QObject::destroyed, this, [this, row] { ChildClosed(row); });
+    connect(widget, &QObject::destroyed, this, [this, row] { ChildClosed(row); });
     return sub;
 }
 
@@ -47,6 +50,22 @@ int MdiClient::ActiveRow() const
 void MdiClient::SetChildClosedHandler(std::function<void(WindowRow)> handler)
 {
     childClosed_ = std::move(handler);
+}
+
+bool MdiClient::eventFilter(QObject* watched, QEvent* event)
+{
+    if (event->type() != QEvent::Close)
+        return QMdiArea::eventFilter(watched, event);
+    for (const WindowTableRow& row : WindowTable) {
+        QMdiSubWindow* sub = rows_[row.Row];
+        if (sub != watched)
+            continue;
+        // The text window goes first, while its sub-window can still tell its placement.
+        rows_[row.Row] = nullptr;
+        delete sub->widget();
+        sub->deleteLater();
+    }
+    return QMdiArea::eventFilter(watched, event);
 }
 
 void MdiClient::ChildClosed(WindowRow row)

@@ -20,7 +20,8 @@ class MdiClient : public QMdiArea, public ChildWindowHost {
     // The children die with the area; none of them starts an arrangement then.
     ~MdiClient() override;
 
-    // Puts the widget into a new sub-window for the row, titled with the row's name.
+    // Puts the widget into a new sub-window for the row, titled with the row's name; the row
+    // is closed when the widget is destroyed.
     QMdiSubWindow* AddChild(WindowRow row, QWidget* widget, const Area& place);
     QMdiSubWindow* Child(WindowRow row) const { return rows_[row]; }
     // The row of the active sub-window, or -1.
@@ -47,6 +48,8 @@ class MdiClient : public QMdiArea, public ChildWindowHost {
 
   protected:
     void paintEvent(QPaintEvent* event) override;
+    // A closed sub-window loses its text window at once and goes itself later.
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
   private:
     void ChildClosed(WindowRow row);

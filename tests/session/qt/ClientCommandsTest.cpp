@@ -167,7 +167,7 @@ TEST_F(ClientCommandsTest, WindowMenuOpensWindowsAndArrangesThem)
     EXPECT_EQ(mdi.Child(ARRIVAL_ROW)->geometry(),
               QRect(area.Width / 2, 0, area.Width / 2, area.Height / 4));
 
-    delete mdi.Child(THOUGHT_ROW);
+    mdi.Child(THOUGHT_ROW)->close();
     EXPECT_EQ(client->State().Windows.ThoughtWindow, nullptr);
     EXPECT_EQ(mdi.Child(ARRIVAL_ROW)->geometry(), QRect(0, 0, area.Width, area.Height / 4));
 }

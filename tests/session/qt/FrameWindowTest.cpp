@@ -114,7 +114,7 @@ TEST_F(FrameWindowTest, ClosedChildClearsItsRow)
     std::vector<WindowRow> closed;
     mdi.SetChildClosedHandler([&](WindowRow row) { closed.push_back(row); });
     mdi.AddChild(ARRIVAL_ROW, new QWidget, {1, 1, 100, 100});
-    delete mdi.Child(ARRIVAL_ROW);
+    mdi.Child(ARRIVAL_ROW)->close();
     EXPECT_FALSE(mdi.Exists(ARRIVAL_ROW));
     EXPECT_EQ(closed, std::vector<WindowRow>{ARRIVAL_ROW});
 }
