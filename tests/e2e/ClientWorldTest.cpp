@@ -1,11 +1,13 @@
 #include "config/ConfigFiles.h"
 #include "config/IniStore.h"
+#include "session/FrameCommand.h"
 #include "session/qt/Client.h"
 #include "session/qt/Desktop.h"
 #include "session/qt/FrameWindow.h"
 #include "terminal/AnsiWindow.h"
 
 #include <QApplication>
+#include <QDir>
 #include <QFile>
 #include <QProcess>
 #include <QTemporaryDir>
@@ -98,11 +100,13 @@ class ClientWorldTest : public ::testing::Test {
         ASSERT_GT(world->port, 0);
     }
 
-    std::unique_ptr<Client> MakeClient(const std::string& connection)
+    std::unique_ptr<Client> MakeClient(const std::string& connection,
+                                       const std::string& packetDump = {})
     {
         ClientOptions options;
         options.Files = MakeConfigFiles(folder.path().toStdString());
         options.ConnectionString = connection;
+        options.PacketDumpPath = packetDump;
         return std::make_unique<Client>(std::move(options), desktop);
     }
 
@@ -191,6 +195,70 @@ TEST_F(ClientWorldTest, DroppedConnectionIsSaidInTheGameWindow)
     world->Stop();
     ASSERT_TRUE(WaitForGameText(*client, "* Connection to the game has been dropped."));
     EXPECT_TRUE(client->IsDisconnected());
+}
+
+TEST_F(ClientWorldTest, ReconnectAsksForStatusRecordsAgain)
+{
+    auto client = MakeClient(Address());
+    ASSERT_TRUE(client->Start());
+    ASSERT_TRUE(WaitForGameText(*client, "By what name are you known?"));
+    Type(*client, "Tester");
+    ASSERT_TRUE(WaitForSent("Set Steward On\n\r"));
+    Type(*client, "quit");
+    ASSERT_TRUE(WaitForGameText(*client, "* Connection to the game has been dropped."));
+    ASSERT_TRUE(client->IsDisconnected());
+
+    client->OnCommand(CMD_CONNECT);
+    EXPECT_FALSE(client->IsDisconnected());
+    EXPECT_TRUE(desktop.messages.empty());
+    ASSERT_TRUE(QTest::qWaitFor([&] { return Sent().count("Tester\n\r") == 1; }, WAIT_MS));
+    Type(*client, "Tester");
+    EXPECT_TRUE(QTest::qWaitFor([&] { return Sent().count("Set Steward On\n\r") == 2; }, WAIT_MS))
+        << Sent().toStdString();
+}
+
+TEST_F(ClientWorldTest, PacketDumpListsTheReceivedBlocks)
+{
+    const std::string dump = folder.filePath("dump.txt").toStdString();
+    {
+        auto client = MakeClient(Address(), dump);
+        ASSERT_TRUE(client->Start());
+        EXPECT_TRUE(WaitForGameText(*client, "Packet Dump file is ACTIVE!"));
+        ASSERT_TRUE(WaitForGameText(*client, "By what name are you known?"));
+        client->Frame().close();
+    }
+    QFile file(QString::fromStdString(dump));
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+    const QByteArray listed = file.readAll();
+    EXPECT_TRUE(listed.contains("---- (")) << listed.toStdString();
+    EXPECT_TRUE(listed.contains("..Welcome to Th")) << listed.toStdString();
+}
+
+TEST_F(ClientWorldTest, AutoLogOpensADatedLogAtAConnectedStart)
+{
+    {
+        desktop.choice = ConnectChoice::Offline;
+        auto offline = MakeClient("");
+        ASSERT_TRUE(offline->Start());
+        offline->OnCommand(CMD_AUTO_LOG);
+        offline->Frame().close();
+    }
+    auto client = MakeClient(Address());
+    ASSERT_TRUE(client->Start());
+    EXPECT_TRUE(client->State().SessionLog.IsOpen());
+    EXPECT_NE(GameText(*client).find("Log file auto-opened successfully."), std::string::npos);
+    ASSERT_TRUE(WaitForGameText(*client, "By what name are you known?"));
+    Type(*client, "Tester");
+    ASSERT_TRUE(WaitForGameText(*client, "[Thornmere, Market Square]"));
+    client->Frame().close();
+    client->Finish();
+
+    QStringList logs = QDir(folder.path()).entryList({"Thornmere Log *.Txt"});
+    ASSERT_EQ(logs.size(), 2);
+    logs.sort();
+    QFile log(folder.filePath(logs.back()));
+    ASSERT_TRUE(log.open(QIODevice::ReadOnly));
+    EXPECT_TRUE(log.readAll().contains("[Thornmere, Market Square]"));
 }
 
 TEST_F(ClientWorldTest, ExitWhileConnectedAsksAndSaysQuit)
