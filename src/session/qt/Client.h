@@ -33,6 +33,7 @@ class Desktop;
 class FrameWindow;
 class Keyboard;
 class KeyFilterQt;
+class MdiClient;
 
 // What the process was started with.
 struct ClientOptions {
@@ -108,8 +109,17 @@ class Client : public QObject,
     void SetDisplayMode(std::uint8_t mode);
     void OpenWindowCommand(WindowRow row);
     void ArrangeCommand();
-    void EditCommand(int command);
-    void SendEquipment(int command);
+    void ToggleAutoArrange();
+    void TileCommand(void (MdiClient::*tile)());
+    void OpenLogWithDialog();
+    void RunVersionNotes();
+    void CopyCommand();
+
+    struct CommandEntry {
+        int Command;
+        void (*Serve)(Client&);
+    };
+    static const CommandEntry COMMANDS[];
 
     // Child windows.
     AnsiWindow*& Handle(WindowRow row);

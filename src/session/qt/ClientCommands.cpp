@@ -1,6 +1,7 @@
 #include "session/qt/Client.h"
 
 #include "commands/Keyboard.h"
+#include "commands/qt/CommandLine.h"
 #include "config/IniStore.h"
 #include "config/SessionLog.h"
 #include "session/CommandTable.h"
@@ -30,94 +31,52 @@ constexpr char STEWARD_ON[] = "Set Steward On";
 
 } // namespace
 
+// The commands served by number; fixed texts and characters are looked up before them.
+const Client::CommandEntry Client::COMMANDS[] = {
+    {CMD_EXIT, [](Client& c) { c.frame_->close(); }},
+    {CMD_RUN_NOTEPAD, [](Client& c) { c.RunNotes(); }},
+    {CMD_REST_MODE, [](Client& c) { c.EnterRestMode(false); }},
+    {CMD_REST_MODE_SILENT, [](Client& c) { c.EnterRestMode(true); }},
+    {CMD_AUTO_ARRANGE, [](Client& c) { c.ToggleAutoArrange(); }},
+    {CMD_OPEN_GAME_WINDOW, [](Client& c) { c.OpenWindowCommand(GAME_ROW); }},
+    {CMD_OPEN_THOUGHT_WINDOW, [](Client& c) { c.OpenWindowCommand(THOUGHT_ROW); }},
+    {CMD_OPEN_ARRIVAL_WINDOW, [](Client& c) { c.OpenWindowCommand(ARRIVAL_ROW); }},
+    {CMD_TILE_HORIZONTALLY, [](Client& c) { c.TileCommand(&MdiClient::TileHorizontally); }},
+    {CMD_TILE_VERTICALLY, [](Client& c) { c.TileCommand(&MdiClient::TileVertically); }},
+    {CMD_CASCADE, [](Client& c) { c.TileCommand(&MdiClient::cascadeSubWindows); }},
+    {CMD_ARRANGE, [](Client& c) { c.ArrangeCommand(); }},
+    {MM_ENTER_KEY, [](Client& c) { c.keyboard_->Road.EnterKey(); }},
+    {CMD_RESET_STEWARD_MODE, [](Client& c) { c.ResetStewardMode(); }},
+    {CMD_AUTO_LOG, [](Client& c) { c.ToggleAutoLog(); }},
+    {CMD_OPEN_DATED_LOG, [](Client& c) { c.OpenDatedLog(); }},
+    {CMD_OPEN_LOG, [](Client& c) { c.OpenLogWithDialog(); }},
+    {CMD_CLOSE_LOG, [](Client& c) { c.session_.SessionLog.Close(); }},
+    {CMD_CUT, [](Client& c) { c.commandLine_->Cut(); }},
+    {CMD_COPY, [](Client& c) { c.CopyCommand(); }},
+    {CMD_CLEAR, [](Client& c) { c.commandLine_->Clear(); }},
+    {CMD_PASTE, [](Client& c) { c.commandLine_->Paste(); }},
+    {CMD_VERSION_NOTES, [](Client& c) { c.RunVersionNotes(); }},
+    {CMD_EQUIP_WEAPON, [](Client& c) { c.SendCommand(c.session_.Profile.EquipWeapon); }},
+    {CMD_UNEQUIP_WEAPON, [](Client& c) { c.SendCommand(c.session_.Profile.UnequipWeapon); }},
+    {CMD_EQUIP_SHIELD, [](Client& c) { c.SendCommand(c.session_.Profile.EquipShield); }},
+    {CMD_UNEQUIP_SHIELD, [](Client& c) { c.SendCommand(c.session_.Profile.UnequipShield); }},
+    {CMD_CONNECT, [](Client& c) { c.Reconnect(); }},
+    {CMD_GRAPHICS_AT_TOP, [](Client& c) { c.SetDisplayMode(DISPLAY_GRAPHICS_TOP); }},
+    {CMD_GRAPHICS_AT_BOTTOM, [](Client& c) { c.SetDisplayMode(DISPLAY_GRAPHICS_BOTTOM); }},
+    {CMD_FULL_SCREEN, [](Client& c) { c.SetDisplayMode(DISPLAY_FULL_SCREEN); }},
+};
+
 void Client::OnCommand(int command)
 {
     if (ServeFixedCommand(command))
         return;
     if (command >= CMD_FIRST_CHARACTER && command <= CMD_LAST_CHARACTER)
         return;
-    switch (command) {
-    case CMD_EXIT:
-        frame_->close();
-        break;
-    case CMD_RUN_NOTEPAD:
-        RunNotes();
-        break;
-    case CMD_REST_MODE:
-    case CMD_REST_MODE_SILENT:
-        EnterRestMode(command == CMD_REST_MODE_SILENT);
-        break;
-    case CMD_AUTO_ARRANGE:
-        session_.Profile.Settings.AutoArrange = !session_.Profile.Settings.AutoArrange;
-        ArrangeWindows(false);
-        break;
-    case CMD_OPEN_GAME_WINDOW:
-        OpenWindowCommand(GAME_ROW);
-        break;
-    case CMD_OPEN_THOUGHT_WINDOW:
-        OpenWindowCommand(THOUGHT_ROW);
-        break;
-    case CMD_OPEN_ARRIVAL_WINDOW:
-        OpenWindowCommand(ARRIVAL_ROW);
-        break;
-    case CMD_TILE_HORIZONTALLY:
-        frame_->Mdi().TileHorizontally();
-        frame_->FocusCommandLine();
-        break;
-    case CMD_TILE_VERTICALLY:
-        frame_->Mdi().TileVertically();
-        frame_->FocusCommandLine();
-        break;
-    case CMD_CASCADE:
-        frame_->Mdi().cascadeSubWindows();
-        frame_->FocusCommandLine();
-        break;
-    case CMD_ARRANGE:
-        ArrangeCommand();
-        break;
-    case MM_ENTER_KEY:
-        keyboard_->Road.EnterKey();
-        break;
-    case CMD_RESET_STEWARD_MODE:
-        ResetStewardMode();
-        break;
-    case CMD_AUTO_LOG:
-        ToggleAutoLog();
-        break;
-    case CMD_OPEN_DATED_LOG:
-        OpenDatedLog();
-        break;
-    case CMD_OPEN_LOG:
-        OpenWithDialog(session_.SessionLog, session_.Files.ProgramFolder.c_str(), *this);
-        break;
-    case CMD_CLOSE_LOG:
-        session_.SessionLog.Close();
-        break;
-    case CMD_VERSION_NOTES:
-        RunNotepad(session_.Files.ProgramFolder + "/" + VERSION_NOTES_FILE);
-        break;
-    case CMD_EQUIP_WEAPON:
-    case CMD_UNEQUIP_WEAPON:
-    case CMD_EQUIP_SHIELD:
-    case CMD_UNEQUIP_SHIELD:
-        SendEquipment(command);
-        break;
-    case CMD_CONNECT:
-        Reconnect();
-        break;
-    case CMD_GRAPHICS_AT_TOP:
-        SetDisplayMode(DISPLAY_GRAPHICS_TOP);
-        break;
-    case CMD_GRAPHICS_AT_BOTTOM:
-        SetDisplayMode(DISPLAY_GRAPHICS_BOTTOM);
-        break;
-    case CMD_FULL_SCREEN:
-        SetDisplayMode(DISPLAY_FULL_SCREEN);
-        break;
-    default:
-        EditCommand(command);
-        break;
-    }
+    for (const CommandEntry& entry : COMMANDS)
+        if (entry.Command == command) {
+            entry.Serve(*this);
+            return;
+        }
 }
 
 bool Client::ServeFixedCommand(int command)
@@ -206,6 +165,28 @@ void Client::OpenWindowCommand(WindowRow row)
     frame_->FocusCommandLine();
 }
 
+void Client::ToggleAutoArrange()
+{
+    session_.Profile.Settings.AutoArrange = !session_.Profile.Settings.AutoArrange;
+    ArrangeWindows(false);
+}
+
+void Client::TileCommand(void (MdiClient::*tile)())
+{
+    (frame_->Mdi().*tile)();
+    frame_->FocusCommandLine();
+}
+
+void Client::OpenLogWithDialog()
+{
+    OpenWithDialog(session_.SessionLog, session_.Files.ProgramFolder.c_str(), *this);
+}
+
+void Client::RunVersionNotes()
+{
+    RunNotepad(session_.Files.ProgramFolder + "/" + VERSION_NOTES_FILE);
+}
+
 void Client::ArrangeCommand()
 {
     MdiClient& mdi = frame_->Mdi();
@@ -213,25 +194,6 @@ void Client::ArrangeCommand()
         if (mdi.IsMinimised(row.Row) || mdi.IsMaximised(row.Row))
             mdi.Restore(row.Row);
     ArrangeWindows(true);
-}
-
-void Client::SendEquipment(int command)
-{
-    const CharacterProfile& profile = session_.Profile;
-    switch (command) {
-    case CMD_EQUIP_WEAPON:
-        SendCommand(profile.EquipWeapon);
-        break;
-    case CMD_UNEQUIP_WEAPON:
-        SendCommand(profile.UnequipWeapon);
-        break;
-    case CMD_EQUIP_SHIELD:
-        SendCommand(profile.EquipShield);
-        break;
-    default:
-        SendCommand(profile.UnequipShield);
-        break;
-    }
 }
 
 void Client::OnWheel(bool shift, int amount)

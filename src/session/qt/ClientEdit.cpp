@@ -31,26 +31,10 @@ AnsiWindow* Client::ActiveChild() const
     return const_cast<Client*>(this)->Handle(static_cast<WindowRow>(row));
 }
 
-void Client::EditCommand(int command)
+void Client::CopyCommand()
 {
-    CommandLineEdit& line = *commandLine_;
-    switch (command) {
-    case CMD_CUT:
-        line.Cut();
-        break;
-    case CMD_COPY:
-        if (HasSelection(line))
-            line.Copy();
-        break;
-    case CMD_CLEAR:
-        line.Clear();
-        break;
-    case CMD_PASTE:
-        line.Paste();
-        break;
-    default:
-        break;
-    }
+    if (HasSelection(*commandLine_))
+        commandLine_->Copy();
 }
 
 void Client::ReadEditInputs(MenuInputs& in) const

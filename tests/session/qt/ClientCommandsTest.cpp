@@ -1,3 +1,4 @@
+#include "config/BufferedLog.h"
 #include "config/ConfigFiles.h"
 #include "config/IniStore.h"
 #include "session/FrameCommand.h"
@@ -10,9 +11,12 @@
 
 #include <QAction>
 #include <QDate>
+#include <QEventLoop>
 #include <QFile>
+#include <QLineEdit>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QTimer>
 #include <gtest/gtest.h>
 
 #include <memory>
@@ -155,6 +159,23 @@ TEST_F(ClientCommandsTest, AutoLogOpensALogOnlyWhenNoneIsOpen)
     EXPECT_FALSE(QFile::exists(TodaysLog(2)));
 }
 
+TEST_F(ClientCommandsTest, MainLoopWritesOutAFullLogOnItsTurn)
+{
+    client->OnCommand(CMD_OPEN_DATED_LOG);
+    BufferedLog& log = client->State().SessionLog;
+    const std::string line(999, 'x');
+    while (log.Count() <= LOG_FLUSH_THRESHOLD)
+        ASSERT_TRUE(log.Write(line.c_str()));
+
+    QCoreApplication::processEvents();
+    EXPECT_GT(log.Count(), LOG_FLUSH_THRESHOLD);
+
+    QEventLoop loop;
+    QTimer::singleShot(20, &loop, &QEventLoop::quit);
+    loop.exec();
+    EXPECT_EQ(log.Count(), 0u);
+}
+
 TEST_F(ClientCommandsTest, WindowMenuOpensWindowsAndArrangesThem)
 {
     MdiClient& mdi = client->Frame().Mdi();
@@ -203,6 +224,22 @@ TEST_F(ClientCommandsTest, RestTicksSendNothingWhileOffline)
     EXPECT_TRUE(client->State().Rest.RestMode);
     EXPECT_TRUE(client->State().Rest.RestSilent);
     EXPECT_TRUE(GameSays("Entering rest mode...press any key to resume."));
+}
+
+TEST_F(ClientCommandsTest, EditMenuWorksOnTheCommandLine)
+{
+    auto* line = qobject_cast<QLineEdit*>(client->Frame().CommandLine());
+    ASSERT_NE(line, nullptr);
+    line->setText(QStringLiteral("look north"));
+    line->setSelection(0, 4);
+    client->OnCommand(CMD_CUT);
+    EXPECT_EQ(line->text(), QStringLiteral(" north"));
+    line->setCursorPosition(line->text().size());
+    client->OnCommand(CMD_PASTE);
+    EXPECT_EQ(line->text(), QStringLiteral(" northlook"));
+    line->setSelection(0, 6);
+    client->OnCommand(CMD_CLEAR);
+    EXPECT_EQ(line->text(), QStringLiteral("look"));
 }
 
 TEST_F(ClientCommandsTest, MenuFollowsTheOfflineState)
