@@ -360,10 +360,13 @@ TEST_F(ClientWorldTest, CancelEndsTheStartAndSavesNothing)
     desktop.choice = ConnectChoice::Cancel;
     auto client = MakeClient("");
     EXPECT_FALSE(client->Start());
+    client.reset();
     const std::string ini = folder.filePath("Thornmere.Ini").toStdString();
-    char host[64];
-    ReadString(ini, "Connection", "Host", host, sizeof host, "none");
-    EXPECT_STREQ(host, "none");
+    char value[64];
+    ReadString(ini, "Connection", "Host", value, sizeof value, "none");
+    EXPECT_STREQ(value, "none");
+    ReadString(ini, "History", "LastChar", value, sizeof value, "none");
+    EXPECT_STREQ(value, "none");
 }
 
 } // namespace

@@ -103,6 +103,7 @@ bool Client::Start()
     PlayStartMusic(sounds_, session_.Profile.Settings.SquelchSounds != 0);
     frame_->activateWindow();
     frame_->FocusCommandLine();
+    started_ = true;
     return true;
 }
 
@@ -199,7 +200,8 @@ void Client::Finish()
     keyFilter_.reset();
     frame_.reset();
     connection_.ShutdownConnection();
-    WriteLastChar(session_.Files, session_.Profile);
+    if (started_)
+        WriteLastChar(session_.Files, session_.Profile);
     timer_.stop();
     session_.SessionLog.Close();
     session_.PacketDump.Close();

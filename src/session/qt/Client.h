@@ -194,6 +194,8 @@ class Client : public QObject,
     std::unique_ptr<Keyboard> keyboard_;
     std::unique_ptr<KeyFilterQt> keyFilter_;
     QTimer timer_;
+    // A start that ended before the loop leaves LastChar as it was.
+    bool started_ = false;
     bool terminating_ = false;
     bool closed_ = false;
 };
