@@ -25,6 +25,7 @@ constexpr std::size_t SEND_TEXT_LIMIT = SEND_BUFFER_SIZE - 3;
 
 constexpr const char DROPPED_TEXT[] = "\n\n*\n* Connection to the game has been dropped.\n*\n\n";
 
+constexpr const char CONNECT_FAILURE_TITLE[] = "Fatal Error";
 // The message box text for a failed connect, or null for results that show none.
 const char* ConnectFailureText(int result);
 

@@ -31,7 +31,8 @@ namespace {
 // The version whose notes were last shown; notes appear once when it is below this.
 constexpr std::int32_t NOTES_VERSION = 0x68;
 constexpr char OFFLINE_TEXT[] = "\r\n\r\n*** Operating in an Offline mode.\r\n\r\n";
-constexpr char FATAL_ERROR_TITLE[] = "Fatal Error";
+// The stored host holds up to 255 characters.
+constexpr std::size_t HOST_VALUE_SIZE = 256;
 
 } // namespace
 
@@ -128,33 +129,41 @@ void Client::ShowVersionNotesOnce()
     PostCommand(CMD_VERSION_NOTES);
 }
 
+bool Client::ChooseConnection(char (&connection)[CONNECTION_STRING_SIZE], std::string& host,
+                              int& port)
+{
+    if (!options_.ConnectionString.empty()) {
+        std::snprintf(connection, sizeof connection, "%s", options_.ConnectionString.c_str());
+        return true;
+    }
+    const std::string& ini = session_.Files.MainIni;
+    char stored[HOST_VALUE_SIZE];
+    ReadString(ini, "Connection", "Host", stored, sizeof stored, DEFAULT_HOST);
+    host = stored;
+    port = ReadInt(ini, "Connection", "Port", DEFAULT_PORT);
+    switch (desktop_.AskConnection(frame_.get(), host, port)) {
+    case ConnectChoice::Cancel:
+        return false;
+    case ConnectChoice::Offline:
+        host = DEFAULT_HOST;
+        port = DEFAULT_PORT;
+        return true;
+    case ConnectChoice::Connect:
+        break;
+    }
+    FormatConnectionString(connection, host.c_str(), port);
+    WriteString(ini, "Connection", "Host", host.c_str());
+    WriteInt(ini, "Connection", "Port", port);
+    return true;
+}
+
 bool Client::ChooseAndConnect()
 {
     char connection[CONNECTION_STRING_SIZE] = {};
     std::string host = DEFAULT_HOST;
     int port = DEFAULT_PORT;
-    if (!options_.ConnectionString.empty()) {
-        std::snprintf(connection, sizeof connection, "%s", options_.ConnectionString.c_str());
-    } else {
-        const std::string& ini = session_.Files.MainIni;
-        char stored[256];
-        ReadString(ini, "Connection", "Host", stored, sizeof stored, DEFAULT_HOST);
-        host = stored;
-        port = ReadInt(ini, "Connection", "Port", DEFAULT_PORT);
-        switch (desktop_.AskConnection(frame_.get(), host, port)) {
-        case ConnectChoice::Cancel:
-            return false;
-        case ConnectChoice::Offline:
-            host = DEFAULT_HOST;
-            port = DEFAULT_PORT;
-            break;
-        case ConnectChoice::Connect:
-            FormatConnectionString(connection, host.c_str(), port);
-            WriteString(ini, "Connection", "Host", host.c_str());
-            WriteInt(ini, "Connection", "Port", port);
-            break;
-        }
-    }
+    if (!ChooseConnection(connection, host, port))
+        return false;
     SetConnectionString(session_, connection);
     const int result = connection_.ConnectToGame(session_.ConnectionString);
     if (result == CONNECT_OFFLINE) {
@@ -163,7 +172,7 @@ bool Client::ChooseAndConnect()
         return true;
     }
     if (const char* failure = ConnectFailureText(result)) {
-        desktop_.ShowMessage(frame_.get(), failure, FATAL_ERROR_TITLE);
+        desktop_.ShowMessage(frame_.get(), failure, CONNECT_FAILURE_TITLE);
         return false;
     }
     return true;

@@ -85,6 +85,8 @@ class Client : public QObject,
     // Start-up steps.
     void PlaceFrame();
     void ShowVersionNotesOnce();
+    // The connection string of the command line, or the dialog's choice; false on Cancel.
+    bool ChooseConnection(char (&connection)[CONNECTION_STRING_SIZE], std::string& host, int& port);
     bool ChooseAndConnect();
     void AfterConnect(int result);
 

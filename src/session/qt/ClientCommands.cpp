@@ -134,7 +134,7 @@ void Client::Reconnect()
 {
     const int result = connection_.ConnectToGame(session_.ConnectionString);
     if (const char* failure = ConnectFailureText(result)) {
-        desktop_.ShowMessage(frame_.get(), failure, "Fatal Error");
+        desktop_.ShowMessage(frame_.get(), failure, CONNECT_FAILURE_TITLE);
         return;
     }
     pipeline_.ResetStatusMode();
