@@ -60,9 +60,10 @@ int main(int argc, char** argv)
     steward::InstallProgramFiles(folder);
     steward::QtDesktop desktop;
     steward::Client client(std::move(options), desktop);
-    if (!client.Start())
-        return 0;
+    // A signal during the start waits in the pipe until the loop runs.
     steward::SignalPipe stopSignals([&client] { client.Terminate(); });
+    if (!client.Start() || client.Closed())
+        return 0;
     const int code = app.exec();
     client.Finish();
     return code;

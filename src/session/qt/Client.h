@@ -68,6 +68,8 @@ class Client : public QObject,
     void Finish();
     // SIGTERM: the way of a close, without the question.
     void Terminate();
+    // True once the frame was let close; the loop then has nothing left to do.
+    bool Closed() const { return closed_; }
 
     // The switchboard: every frame command ends here.
     void OnCommand(int command);
