@@ -177,7 +177,7 @@ TEST_F(ClientWorldTest, TypedCommandReachesTheWorldWithLineFeedThenReturnAndIsEc
 
     Type(*client, "look");
     EXPECT_TRUE(WaitForSent("look\n\r"));
-    EXPECT_NE(GameText(*client).find("look"), std::string::npos);
+    EXPECT_TRUE(WaitForGameText(*client, ">look")) << GameText(*client);
     EXPECT_TRUE(QTest::qWaitFor(
         [&] {
             const std::string text = GameText(*client);
