@@ -174,6 +174,8 @@ TEST_F(ClientWorldTest, TypedCommandReachesTheWorldWithLineFeedThenReturnAndIsEc
     ASSERT_TRUE(WaitForGameText(*client, "By what name are you known?"));
     Type(*client, "Tester");
     ASSERT_TRUE(WaitForSent("Set Steward On\n\r"));
+    // The first status record answers the mode, and its prompt ends the text so far.
+    ASSERT_TRUE(QTest::qWaitFor([&] { return client->State().Panel.Hp.GetMax() > 0; }, WAIT_MS));
 
     Type(*client, "look");
     EXPECT_TRUE(WaitForSent("look\n\r"));
