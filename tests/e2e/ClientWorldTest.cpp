@@ -53,7 +53,13 @@ class RecordingDesktop : public Desktop {
     }
     void Beep() override {}
     bool AskString(QWidget*, const char*, char*, std::size_t) override { return false; }
+    bool AskDragTarget(QWidget*, std::string& target) override
+    {
+        target = dragTarget;
+        return true;
+    }
 
+    std::string dragTarget;
     ConnectChoice choice = ConnectChoice::Connect;
     std::string answerHost;
     int answerPort = 0;
@@ -187,6 +193,23 @@ TEST_F(ClientWorldTest, TypedCommandReachesTheWorldWithLineFeedThenReturnAndIsEc
                    text.rfind("[Thornmere, Market Square]");
         },
         WAIT_MS));
+}
+
+TEST_F(ClientWorldTest, MovesWhileDraggingAreSentAsDrags)
+{
+    auto client = MakeClient(Address());
+    ASSERT_TRUE(client->Start());
+    ASSERT_TRUE(WaitForGameText(*client, "By what name are you known?"));
+    Type(*client, "Tester");
+    ASSERT_TRUE(WaitForSent("Set Steward On\n\r"));
+
+    desktop.dragTarget = "orla";
+    client->OnCommand(CMD_DRAG_SOMEONE);
+    Type(*client, "n");
+    EXPECT_TRUE(WaitForSent("drag orla n\n\r")) << Sent().toStdString();
+    client->OnCommand(CMD_STOP_DRAGGING);
+    Type(*client, "s");
+    EXPECT_TRUE(WaitForSent("drag orla n\n\rs\n\r")) << Sent().toStdString();
 }
 
 TEST_F(ClientWorldTest, DroppedConnectionIsSaidInTheGameWindow)

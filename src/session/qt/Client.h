@@ -118,6 +118,8 @@ class Client : public QObject,
     void OpenLogWithDialog();
     void RunVersionNotes();
     void CopyCommand();
+    // DRAG_DIALOG: OK takes the field as DragTarget, "Stop Dragging" empties it.
+    void AskDragTarget();
 
     struct CommandEntry {
         int Command;

@@ -61,6 +61,8 @@ const Client::CommandEntry Client::COMMANDS[] = {
     {CMD_EQUIP_SHIELD, [](Client& c) { c.SendCommand(c.session_.Profile.EquipShield); }},
     {CMD_UNEQUIP_SHIELD, [](Client& c) { c.SendCommand(c.session_.Profile.UnequipShield); }},
     {CMD_CONNECT, [](Client& c) { c.Reconnect(); }},
+    {CMD_DRAG_SOMEONE, [](Client& c) { c.AskDragTarget(); }},
+    {CMD_STOP_DRAGGING, [](Client& c) { c.keyboard_->State.DragTarget[0] = '\0'; }},
     {CMD_GRAPHICS_AT_TOP, [](Client& c) { c.SetDisplayMode(DISPLAY_GRAPHICS_TOP); }},
     {CMD_GRAPHICS_AT_BOTTOM, [](Client& c) { c.SetDisplayMode(DISPLAY_GRAPHICS_BOTTOM); }},
     {CMD_FULL_SCREEN, [](Client& c) { c.SetDisplayMode(DISPLAY_FULL_SCREEN); }},
@@ -185,6 +187,15 @@ void Client::OpenLogWithDialog()
 void Client::RunVersionNotes()
 {
     RunNotepad(session_.Files.ProgramFolder + "/" + VERSION_NOTES_FILE);
+}
+
+void Client::AskDragTarget()
+{
+    char(&dragTarget)[DRAG_TARGET_SIZE] = keyboard_->State.DragTarget;
+    std::string target = dragTarget;
+    if (!desktop_.AskDragTarget(frame_.get(), target))
+        target.clear();
+    std::snprintf(dragTarget, sizeof dragTarget, "%s", target.c_str());
 }
 
 void Client::ArrangeCommand()

@@ -4,8 +4,10 @@
 
 #include <QApplication>
 #include <QDesktopServices>
+#include <QDialogButtonBox>
 #include <QDir>
 #include <QFileDialog>
+#include <QFormLayout>
 #include <QInputDialog>
 #include <QLineEdit>
 #include <QMessageBox>
@@ -65,6 +67,27 @@ bool QtDesktop::AskString(QWidget* parent, const char* title, char* answer, std:
     if (!ok)
         return false;
     std::snprintf(answer, capacity, "%s", text.toLatin1().constData());
+    return true;
+}
+
+bool QtDesktop::AskDragTarget(QWidget* parent, std::string& target)
+{
+    constexpr int DRAG_FIELD_LIMIT = 60;
+    QDialog dialog(parent);
+    dialog.setWindowTitle(QStringLiteral("Drag Someone"));
+    auto* field = new QLineEdit(QString::fromLatin1(target.c_str()), &dialog);
+    field->setMaxLength(DRAG_FIELD_LIMIT);
+    auto* buttons = new QDialogButtonBox(&dialog);
+    buttons->addButton(QDialogButtonBox::Ok);
+    buttons->addButton(QStringLiteral("Stop Dragging"), QDialogButtonBox::RejectRole);
+    QObject::connect(buttons, &QDialogButtonBox::accepted, &dialog, &QDialog::accept);
+    QObject::connect(buttons, &QDialogButtonBox::rejected, &dialog, &QDialog::reject);
+    auto* form = new QFormLayout(&dialog);
+    form->addRow(QStringLiteral("Drag who:"), field);
+    form->addRow(buttons);
+    if (dialog.exec() != QDialog::Accepted)
+        return false;
+    target = field->text().toLatin1().toStdString();
     return true;
 }
 

@@ -31,6 +31,9 @@ class Desktop {
     // GETSTR_DIALOG: false on Cancel; the answer holds at most capacity - 1 characters.
     virtual bool AskString(QWidget* parent, const char* title, char* answer,
                            std::size_t capacity) = 0;
+    // DRAG_DIALOG, filled with the target: true with the new target on OK, false when the
+    // player chose "Stop Dragging".
+    virtual bool AskDragTarget(QWidget* parent, std::string& target) = 0;
 };
 
 // The real dialogs and the desktop's own editor.
@@ -44,6 +47,7 @@ class QtDesktop : public Desktop {
                          std::size_t capacity) override;
     void Beep() override;
     bool AskString(QWidget* parent, const char* title, char* answer, std::size_t capacity) override;
+    bool AskDragTarget(QWidget* parent, std::string& target) override;
 };
 
 } // namespace steward

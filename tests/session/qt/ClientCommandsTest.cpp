@@ -49,7 +49,16 @@ class OfflineDesktop : public Desktop {
     }
     void Beep() override {}
     bool AskString(QWidget*, const char*, char*, std::size_t) override { return false; }
+    bool AskDragTarget(QWidget*, std::string& target) override
+    {
+        shownTarget = target;
+        target = dragAnswer;
+        return dragOk;
+    }
 
+    std::string shownTarget;
+    std::string dragAnswer;
+    bool dragOk = true;
     bool editorStarts = true;
     std::vector<std::string> messages;
     std::vector<std::string> edited;
@@ -240,6 +249,27 @@ TEST_F(ClientCommandsTest, EditMenuWorksOnTheCommandLine)
     line->setSelection(0, 6);
     client->OnCommand(CMD_CLEAR);
     EXPECT_EQ(line->text(), QStringLiteral("look"));
+}
+
+TEST_F(ClientCommandsTest, DragDialogSetsAndStopsTheTarget)
+{
+    desktop.dragAnswer = std::string(100, 'b');
+    client->OnCommand(CMD_DRAG_SOMEONE);
+    EXPECT_EQ(desktop.shownTarget, "");
+    client->OnCommand(CMD_DRAG_SOMEONE);
+    EXPECT_EQ(desktop.shownTarget, std::string(63, 'b'));
+
+    desktop.dragOk = false;
+    client->OnCommand(CMD_DRAG_SOMEONE);
+    client->OnCommand(CMD_DRAG_SOMEONE);
+    EXPECT_EQ(desktop.shownTarget, "");
+
+    desktop.dragOk = true;
+    desktop.dragAnswer = "bob";
+    client->OnCommand(CMD_DRAG_SOMEONE);
+    client->OnCommand(CMD_STOP_DRAGGING);
+    client->OnCommand(CMD_DRAG_SOMEONE);
+    EXPECT_EQ(desktop.shownTarget, "");
 }
 
 TEST_F(ClientCommandsTest, MenuFollowsTheOfflineState)
