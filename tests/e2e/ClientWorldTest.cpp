@@ -5,13 +5,16 @@
 #include "session/qt/Desktop.h"
 #include "session/qt/FrameWindow.h"
 #include "terminal/AnsiWindow.h"
+#include "terminal/TextBuffer.h"
 
 #include <QApplication>
 #include <QDir>
+#include <QEventLoop>
 #include <QFile>
 #include <QProcess>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QTimer>
 #include <gtest/gtest.h>
 
 #include <memory>
@@ -74,10 +77,12 @@ class RecordingDesktop : public Desktop {
 // that its clients send.
 class WorldProcess {
   public:
-    explicit WorldProcess(const QString& recordFile)
+    explicit WorldProcess(const QString& recordFile, const QStringList& more = {})
     {
-        process.start(QStringLiteral(WORLD_BINARY),
-                      {"--port", "0", "--quiet", "--listen", "127.0.0.1", "--record", recordFile});
+        process.start(
+            QStringLiteral(WORLD_BINARY),
+            QStringList{"--port", "0", "--quiet", "--listen", "127.0.0.1", "--record", recordFile} +
+                more);
         if (!process.waitForStarted(WAIT_MS))
             return;
         if (QTest::qWaitFor([this] { return process.canReadLine(); }, WAIT_MS))
@@ -126,6 +131,19 @@ class ClientWorldTest : public ::testing::Test {
         std::vector<char> text(60000);
         game->GetText(text.data(), static_cast<std::uint16_t>(text.size()));
         return text.data();
+    }
+
+    // The last bytes of the Game window, however much text it holds.
+    static std::string GameTail(Client& client, int count)
+    {
+        TextBuffer& live = client.State().Windows.GameWindow->GetLiveBuffer();
+        std::string tail;
+        auto at = live.GetWritePos();
+        for (int i = 0; i < count && at != live.GetHeadPos(); ++i) {
+            at = live.Prev(at);
+            tail.insert(tail.begin(), static_cast<char>(live.ByteAt(at)));
+        }
+        return tail;
     }
 
     static bool WaitForGameText(Client& client, const std::string& needle)
@@ -210,6 +228,34 @@ TEST_F(ClientWorldTest, MovesWhileDraggingAreSentAsDrags)
     client->OnCommand(CMD_STOP_DRAGGING);
     Type(*client, "s");
     EXPECT_TRUE(WaitForSent("drag orla n\n\rs\n\r")) << Sent().toStdString();
+}
+
+TEST_F(ClientWorldTest, LoopTurnsBetweenTheBlocksOfAFlood)
+{
+    world = std::make_unique<WorldProcess>(folder.filePath("sent.bin"),
+                                           QStringList{"--flood", "3000000"});
+    ASSERT_GT(world->port, 0);
+    auto client = MakeClient(Address());
+    ASSERT_TRUE(client->Start());
+    int ticks = 0;
+    QTimer ticker;
+    QObject::connect(&ticker, &QTimer::timeout, [&] { ++ticks; });
+    ticker.start(0);
+
+    // The program's own loop, without the pauses of a test's waiting.
+    QEventLoop loop;
+    QTimer check;
+    bool ended = false;
+    QObject::connect(&check, &QTimer::timeout, [&] {
+        ended = GameTail(*client, 64).find("FLOOD-END") != std::string::npos;
+        if (ended)
+            loop.quit();
+    });
+    check.start(20);
+    QTimer::singleShot(60000, &loop, &QEventLoop::quit);
+    loop.exec();
+    ASSERT_TRUE(ended);
+    EXPECT_GT(ticks, 100) << GameTail(*client, 300);
 }
 
 TEST_F(ClientWorldTest, DroppedConnectionIsSaidInTheGameWindow)
