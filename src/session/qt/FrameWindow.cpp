@@ -62,14 +62,6 @@ void FrameWindow::SetCommandLine(QWidget* commandLine)
     LayoutFrame();
 }
 
-void FrameWindow::SetPanel(QWidget* panel)
-{
-    panel_ = panel;
-    panel->setParent(surface_);
-    panel->show();
-    LayoutFrame();
-}
-
 void FrameWindow::SetDisplayMode(std::uint8_t mode)
 {
     displayMode_ = mode;
@@ -94,10 +86,6 @@ void FrameWindow::LayoutFrame()
     if (commandLine_) {
         const Area& line = layout.CommandLine;
         commandLine_->setGeometry(line.X, line.Y, line.Width, line.Height);
-    }
-    if (panel_) {
-        int top = displayMode_ == 1 ? PanelTopBelow(mdi_->viewport()->height()) : layout.PanelTop;
-        panel_->move(0, top);
     }
     surface_->update();
     if (handlers_.Resized)

@@ -28,9 +28,9 @@ class FrameSurface : public QWidget {
     QRect edge_;
 };
 
-// The client's main window: the menu bar, the text area, the command line and the panel,
-// placed for the display mode. Everything it is asked to do goes back to the program through
-// its handlers, by command number.
+// The client's main window: the menu bar, the text area and the command line, placed for the
+// display mode with room for the panel. Everything it is asked to do goes back to the program
+// through its handlers, by command number.
 class FrameWindow : public QMainWindow {
     Q_OBJECT
   public:
@@ -54,9 +54,8 @@ class FrameWindow : public QMainWindow {
     FrameMenu& Menu() { return *menu_; }
     FrameSurface& Surface() { return *surface_; }
 
-    // The command line and the panel are made elsewhere and placed here.
+    // The command line is made elsewhere and placed here.
     void SetCommandLine(QWidget* commandLine);
-    void SetPanel(QWidget* panel);
     QWidget* CommandLine() const { return commandLine_; }
     void SetDisplayMode(std::uint8_t mode);
     // WM_SIZE: places everything for the display mode.
@@ -77,7 +76,6 @@ class FrameWindow : public QMainWindow {
     MdiClient* mdi_;
     FrameMenu* menu_;
     QPointer<QWidget> commandLine_;
-    QPointer<QWidget> panel_;
     std::uint8_t displayMode_ = 0;
 };
 
