@@ -33,11 +33,6 @@ constexpr std::array<int, 16> LATER_COMMANDS = {
 
 } // namespace
 
-std::span<const FixedTextCommand> FixedTextCommands()
-{
-    return FIXED_TEXTS;
-}
-
 const char* FindFixedText(int command)
 {
     for (const FixedTextCommand& entry : FIXED_TEXTS)

@@ -1,7 +1,5 @@
 #pragma once
 
-#include <span>
-
 namespace steward {
 
 // A frame command that sends one fixed text, as if typed.
@@ -10,9 +8,8 @@ struct FixedTextCommand {
     const char* Text;
 };
 
-// The texts of the Info menu, looked up before every other command.
-std::span<const FixedTextCommand> FixedTextCommands();
-// The text that a command sends, or null when it is not one of the fixed-text commands.
+// The text that one of the Info menu's commands sends, or null for any other command; these
+// are looked up before every other command.
 const char* FindFixedText(int command);
 
 // False for the commands whose work comes with a later part of the program: their menu

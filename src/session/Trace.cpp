@@ -16,11 +16,6 @@ void SetTraceEnabled(bool on)
     traceOn = on;
 }
 
-bool TraceEnabled()
-{
-    return traceOn;
-}
-
 void Trace(const char* format, ...)
 {
     if (!traceOn)

@@ -4,7 +4,6 @@ namespace steward {
 
 // Trace lines are for developers: they go to standard error, and only while switched on.
 void SetTraceEnabled(bool on);
-bool TraceEnabled();
 void Trace(const char* format, ...) __attribute__((format(printf, 1, 2)));
 
 } // namespace steward
