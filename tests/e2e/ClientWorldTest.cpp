@@ -258,6 +258,20 @@ TEST_F(ClientWorldTest, LoopTurnsBetweenTheBlocksOfAFlood)
     EXPECT_GT(ticks, 100) << GameTail(*client, 300);
 }
 
+TEST_F(ClientWorldTest, InfoMenuAndToolCommandsSendTheirTexts)
+{
+    auto client = MakeClient(Address());
+    ASSERT_TRUE(client->Start());
+    ASSERT_TRUE(WaitForGameText(*client, "By what name are you known?"));
+    Type(*client, "Tester");
+    ASSERT_TRUE(WaitForSent("Set Steward On\n\r"));
+    client->OnCommand(CMD_INFO_GENERAL + 2);
+    client->OnCommand(CMD_ROOM_SUPERBRIEF);
+    client->OnCommand(CMD_EQUIP_WEAPON);
+    EXPECT_TRUE(WaitForSent("inv\n\rsuperbrief\n\rready saber\n\r")) << Sent().toStdString();
+    EXPECT_TRUE(WaitForGameText(*client, "superbrief"));
+}
+
 TEST_F(ClientWorldTest, DroppedConnectionIsSaidInTheGameWindow)
 {
     auto client = MakeClient(Address());
