@@ -42,7 +42,7 @@ QByteArray FloodSource::Line()
     const QByteArray name = Names[random.bounded(6)];
     switch (random.bounded(7)) {
     case 0:
-        return Spoken(name + " says, " + Quoted("Lovely evening for it.")) + "\r\n";
+        return InServerColour(name + " says, " + Quoted("Lovely evening for it.")) + "\r\n";
     case 1:
         return QByteArray(Exits[random.bounded(4)]) + "\r\n";
     case 2: {

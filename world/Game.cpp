@@ -23,7 +23,7 @@ QByteArray Capitalised(const QByteArray& name)
 
 } // namespace
 
-QByteArray Spoken(const QByteArray& text)
+QByteArray InServerColour(const QByteArray& text)
 {
     return "\x1b"
            "100" +
@@ -154,7 +154,7 @@ void Game::ShowRoom(Connection& connection) const
 {
     const Player& player = connection.player;
     const Room& room = town.At(player.room);
-    connection.SendLine(room.title);
+    connection.SendLine(InServerColour(room.title));
     if (player.verbosity == Verbosity::Superbrief)
         return;
     if (player.verbosity == Verbosity::Full)

@@ -58,6 +58,6 @@ class Game {
     std::vector<std::pair<QByteArray, int>> visitorRooms;
 };
 
-// Speech as the game sends it to listeners: wrapped in its colour tokens.
-QByteArray Spoken(const QByteArray& text);
+// Text wrapped in the colour tokens the game puts around speech and room titles.
+QByteArray InServerColour(const QByteArray& text);
 QByteArray Quoted(const QByteArray& text);

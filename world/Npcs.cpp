@@ -79,15 +79,15 @@ void Npcs::Act()
         if (!game.Players().empty()) {
             Connection* target = game.Players()[random.bounded(int(game.Players().size()))];
             target->Notify(target->player.room == person.home
-                               ? Spoken(name + " whispers, " + Quoted("Mind the rat downstairs."))
+                               ? InServerColour(name + " whispers, " + Quoted("Mind the rat downstairs."))
                                : name + " thinks to you, " + Quoted("Come and find me some time."));
         }
         break;
     case 3:
-        game.ToAll(Spoken(name + " yells, " + Quoted("Lanterns lit, all's well!")));
+        game.ToAll(InServerColour(name + " yells, " + Quoted("Lanterns lit, all's well!")));
         break;
     default:
-        game.ToRoom(person.home, Spoken(name + " says, " + Quoted(Pick(random, Sayings))));
+        game.ToRoom(person.home, InServerColour(name + " says, " + Quoted(Pick(random, Sayings))));
         break;
     }
 }

@@ -31,7 +31,7 @@ void Speak(Game& game, Connection& c, const QByteArray& text, const char* verb, 
     if (!HasText(c, text))
         return;
     c.SendLine("You " + QByteArray(verb) + ", " + Quoted(text));
-    const QByteArray heard = Spoken(c.player.name + " " + verb + "s, " + Quoted(text));
+    const QByteArray heard = InServerColour(c.player.name + " " + verb + "s, " + Quoted(text));
     if (toAll)
         game.ToAll(heard, &c);
     else
@@ -49,7 +49,7 @@ void Whisper(Game& game, Connection& c, const QByteArray& args)
         return;
     }
     c.SendLine("You whisper to " + target->player.name + ", " + Quoted(text));
-    target->Notify(Spoken(c.player.name + " whispers, " + Quoted(text)));
+    target->Notify(InServerColour(c.player.name + " whispers, " + Quoted(text)));
     for (Connection* other : game.Players())
         if (other != &c && other != target && other->player.room == c.player.room)
             other->Notify(c.player.name + " whispers something to " + target->player.name + ".");
