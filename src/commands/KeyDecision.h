@@ -1,18 +1,9 @@
 #pragma once
 
 #include "commands/KeyModifiers.h"
+#include "terminal/ScrollCommand.h"
 
 namespace steward {
-
-// WM_VSCROLL codes that the Page keys send to the active child window.
-enum ScrollCode : int {
-    SB_LINEUP = 0,
-    SB_LINEDOWN = 1,
-    SB_PAGEUP = 2,
-    SB_PAGEDOWN = 3,
-    SB_TOP = 6,
-    SB_BOTTOM = 7,
-};
 
 enum class KeyAction {
     None,
@@ -20,7 +11,7 @@ enum class KeyAction {
     SelectMacroSet, // Value holds the set index
     HistoryPrevious,
     HistoryNext,
-    Scroll,             // Value holds the ScrollCode
+    Scroll,             // Value holds the SB_ scroll command
     RepeatCommand,      // Value holds how many commands back
     RepeatThenEnterKey, // RepeatCommand(1), then MM_ENTER_KEY that is not remembered
     EnterKey,           // MM_ENTER_KEY that is remembered

@@ -6,6 +6,7 @@
 #include "terminal/AnsiWindowHost.h"
 #include "terminal/ColorStacks.h"
 #include "terminal/DrawingLayer.h"
+#include "terminal/ScrollCommand.h"
 #include "terminal/TextBuffer.h"
 
 #include <cstddef>
@@ -26,16 +27,6 @@ constexpr std::int32_t FALLBACK_LINE_HEIGHT = 8;
 constexpr std::int32_t LIVE_SCROLL_MAX = 100;
 // TopLine while live; every freeze replaces it.
 constexpr std::int32_t NO_TOP_LINE = -100;
-
-// Scroll commands, with the values of the window system's scroll bar.
-constexpr int SB_LINEUP = 0;
-constexpr int SB_LINEDOWN = 1;
-constexpr int SB_PAGEUP = 2;
-constexpr int SB_PAGEDOWN = 3;
-constexpr int SB_THUMBPOSITION = 4;
-constexpr int SB_THUMBTRACK = 5;
-constexpr int SB_TOP = 6;
-constexpr int SB_BOTTOM = 7;
 
 // What a text window is built from. ProfilePath is the profile's .Dat file, a buffer that
 // outlives the window; Prompt is given to the Game window only, which also draws the cursor.
