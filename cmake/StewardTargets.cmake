@@ -1,15 +1,14 @@
 # Helpers that keep every target's sources found by folder, so that adding a file
 # to a subsystem needs no edit here.
 
-# Sources of the standard-library-only core: every .cpp under src/, except Qt folders and main.
+# Sources of the standard-library-only core: every .cpp under src/ outside the Qt folders.
 function(steward_core_sources out)
     file(GLOB_RECURSE all CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/src/*.cpp)
     list(FILTER all EXCLUDE REGEX "/qt/")
-    list(FILTER all EXCLUDE REGEX "/src/main\\.cpp$")
     set(${out} ${all} PARENT_SCOPE)
 endfunction()
 
-# Sources of the Qt layer: every file under a qt/ folder of src/.
+# Sources of the Qt layer: every file under a subsystem's qt/ folder (src/qt/ holds main alone).
 function(steward_ui_sources out)
     file(GLOB_RECURSE all CONFIGURE_DEPENDS
         ${PROJECT_SOURCE_DIR}/src/*/qt/*.cpp ${PROJECT_SOURCE_DIR}/src/*/qt/*.h)
