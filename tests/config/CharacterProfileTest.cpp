@@ -1,7 +1,7 @@
 #include "config/CharacterProfile.h"
 #include "config/IniStore.h"
 
-#include "config/TempFolder.h"
+#include "support/TempFolder.h"
 
 #include <gtest/gtest.h>
 
@@ -11,6 +11,10 @@
 
 namespace steward {
 namespace {
+
+using testing::ReadBytes;
+using testing::TempFolder;
+using testing::WriteBytes;
 
 // Records each call of the profile into the rest of the program, in order.
 class RecordingParts : public ProfileParts {
@@ -130,7 +134,7 @@ TEST_F(ProfileTest, ASettingsValueOfTheWrongLengthStartsTheProfileAfresh)
         std::snprintf(digits, sizeof digits, "%02X", byte);
         hex += digits;
     }
-    EXPECT_EQ(ReadTextFile(path), "[Config]\nSettings=" + hex + "\n");
+    EXPECT_EQ(ReadBytes(path), "[Config]\nSettings=" + hex + "\n");
     char equip[EQUIP_COMMAND_SIZE];
     ReadString(path, "Config", "EquipWeapon", equip, sizeof equip, "gone");
     EXPECT_STREQ(equip, "gone");
@@ -220,7 +224,7 @@ TEST_F(ProfileTest, WithoutANameTheLastCharacterIsLoaded)
     CharacterProfile next;
     LoadProfile(files, next, parts, nullptr, true);
     EXPECT_STREQ(next.CurrentCharacter, "Rook");
-    WriteTextFile(files.MainIni, "[History]\nLastChar=\n");
+    WriteBytes(files.MainIni, "[History]\nLastChar=\n");
     LoadProfile(files, next, parts, nullptr, true);
     EXPECT_STREQ(next.CurrentCharacter, "Default");
 }
@@ -260,7 +264,7 @@ TEST_F(ProfileTest, OpenWindowsDefaultsToThoughtAndAFocusedGameWindow)
         {"0123456789012345678901234567890123", "012345678901234567890123456789"},
     };
     for (const WindowsCase& c : cases) {
-        WriteTextFile(path, std::string("[Windows]\nOpen Windows=") + c.stored + "\n");
+        WriteBytes(path, std::string("[Windows]\nOpen Windows=") + c.stored + "\n");
         EXPECT_EQ(ReadOpenWindows(path), c.letters) << c.stored;
     }
     WriteOpenWindows(path, "Gat");

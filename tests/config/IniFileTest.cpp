@@ -1,6 +1,6 @@
 #include "config/IniFile.h"
 
-#include "config/TempFolder.h"
+#include "support/TempFolder.h"
 
 #include <gtest/gtest.h>
 
@@ -8,6 +8,10 @@
 
 namespace steward {
 namespace {
+
+using testing::ReadBytes;
+using testing::TempFolder;
+using testing::WriteBytes;
 
 TEST(IniFileRead, NamesAreComparedWithoutRegardToCase)
 {
@@ -88,7 +92,7 @@ TEST(IniFileFiles, AMissingFileReadsAsEmptyAndWritingCreatesIt)
     EXPECT_EQ(ini.Get("S", "k"), std::nullopt);
     ini.Set("S", "k", "v");
     ASSERT_TRUE(ini.Save(path));
-    EXPECT_EQ(ReadTextFile(path), "[S]\nk=v\n");
+    EXPECT_EQ(ReadBytes(path), "[S]\nk=v\n");
     EXPECT_FALSE(std::filesystem::exists(path + ".tmp"));
 }
 
@@ -100,7 +104,7 @@ TEST(IniFileFiles, OnlyTheFirstMegabyteIsRead)
     std::string text = "[S]\nfirst=1\n";
     while (text.size() < INI_FILE_MAX)
         text += filler + "\n";
-    WriteTextFile(path, text + "last=2\n");
+    WriteBytes(path, text + "last=2\n");
     const IniFile ini = IniFile::Load(path);
     EXPECT_EQ(ini.Get("S", "first"), "1");
     EXPECT_EQ(ini.Get("S", "last"), std::nullopt);

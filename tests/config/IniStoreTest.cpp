@@ -1,7 +1,7 @@
 #include "config/IniStore.h"
 #include "config/ConfigFiles.h"
 
-#include "config/TempFolder.h"
+#include "support/TempFolder.h"
 
 #include <gtest/gtest.h>
 
@@ -12,9 +12,13 @@
 namespace steward {
 namespace {
 
+using testing::ReadBytes;
+using testing::TempFolder;
+using testing::WriteBytes;
+
 class IniStoreTest : public ::testing::Test {
   protected:
-    void Store(const std::string& value) { WriteTextFile(path, "[S]\nk=" + value + "\n"); }
+    void Store(const std::string& value) { WriteBytes(path, "[S]\nk=" + value + "\n"); }
 
     TempFolder folder;
     std::string path = folder.File("Test.Ini");
@@ -46,7 +50,7 @@ TEST_F(IniStoreTest, BinaryIsWrittenAsUpperCaseHexInByteOrder)
 {
     const std::uint8_t bytes[] = {0x00, 0xAB, 0x7F, 0xFF};
     ASSERT_TRUE(WriteBinary(path, "S", "k", bytes, sizeof bytes));
-    EXPECT_EQ(ReadTextFile(path), "[S]\nk=00AB7FFF\n");
+    EXPECT_EQ(ReadBytes(path), "[S]\nk=00AB7FFF\n");
 }
 
 struct IntCase {
@@ -66,7 +70,7 @@ TEST_F(IniStoreTest, IntegersAreFourLittleEndianBytes)
     }
     EXPECT_EQ(ReadInt(path, "S", "missing", 34283), 34283);
     ASSERT_TRUE(WriteInt(path, "S", "k", 104));
-    EXPECT_EQ(ReadTextFile(path), "[S]\nk=68000000\n");
+    EXPECT_EQ(ReadBytes(path), "[S]\nk=68000000\n");
     ASSERT_TRUE(WriteInt(path, "S", "k", -2));
     EXPECT_EQ(ReadInt(path, "S", "k", 0), -2);
 }
@@ -181,7 +185,7 @@ TEST(ConfigFolders, APortableCopyKeepsItsFilesBesideTheProgram)
     EXPECT_TRUE(std::filesystem::is_directory(data.Path() + "/ThornmereSteward"));
     EXPECT_EQ(FindProgramFolder(exe.Path(), "", data.Path()),
               data.Path() + "/.local/share/ThornmereSteward");
-    WriteTextFile(exe.File("Thornmere.Ini"), "");
+    WriteBytes(exe.File("Thornmere.Ini"), "");
     EXPECT_EQ(FindProgramFolder(exe.Path(), data.Path(), "/nonexistent"), exe.Path());
     EXPECT_EQ(FolderOf(exe.Path() + "/thornmere-steward"), exe.Path());
 }

@@ -1,7 +1,7 @@
 #include "WindowFixture.h"
 
 #include "config/IniStore.h"
-#include "config/TempFolder.h"
+#include "support/TempFolder.h"
 
 #include <cstring>
 
@@ -51,7 +51,7 @@ TEST_F(StateTest, StateInfoHoldsTheTextColourFirst)
     host.pickedColor = MakeRgb(0x11, 0x22, 0x33);
     window->ChangeForegroundColor();
     window->SaveState();
-    EXPECT_NE(ReadTextFile(profile).find("StateInfo=11223300"), std::string::npos);
+    EXPECT_NE(ReadBytes(profile).find("StateInfo=11223300"), std::string::npos);
 }
 
 TEST_F(StateTest, AnotherWindowKeepsItsOwnSection)
@@ -67,7 +67,7 @@ TEST_F(StateTest, AnotherWindowKeepsItsOwnSection)
 
 TEST_F(StateTest, AStateInfoOfTheWrongLengthGivesTheDefaults)
 {
-    WriteTextFile(profile, "[Thought Window]\nStateInfo=1122330044556600AA\n");
+    WriteBytes(profile, "[Thought Window]\nStateInfo=1122330044556600AA\n");
     settings.DefaultTextColor = MakeRgb(9, 9, 9);
     auto window = MakeSaved("Thought Window");
     EXPECT_EQ(window->GetTextColor(), MakeRgb(9, 9, 9));
