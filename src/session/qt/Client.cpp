@@ -37,7 +37,7 @@ constexpr std::size_t HOST_VALUE_SIZE = 256;
 } // namespace
 
 Client::Client(ClientOptions options, Desktop& desktop)
-    : options_(std::move(options)), desktop_(desktop),
+    : options_(std::move(options)), desktop_(desktop), sounds_(desktop.Sounds()),
       pipeline_({session_.Profile.Settings, session_.SessionLog, highlights_, sounds_,
                  session_.Windows, *this, session_.Script, session_.Panel, *this, nullptr}),
       decoder_(pipeline_, session_.PacketDump, session_.Profile.Settings), socket_(*this),

@@ -12,7 +12,6 @@
 #include "connection/qt/QtGameSocket.h"
 #include "highlights/HighlightLists.h"
 #include "highlights/HighlightSound.h"
-#include "highlights/qt/QtSoundPlayer.h"
 #include "session/FrameQueue.h"
 #include "session/LogNames.h"
 #include "session/MenuState.h"
@@ -118,6 +117,8 @@ class Client : public QObject,
     void OpenLogWithDialog();
     void RunVersionNotes();
     void CopyCommand();
+    // Copy Special: the clipboard's lines go to the list of 1104 or 1105.
+    void CopyToHighlights(int command);
     // DRAG_DIALOG: OK takes the field as DragTarget, "Stop Dragging" empties it.
     void AskDragTarget();
 
@@ -188,8 +189,7 @@ class Client : public QObject,
     Desktop& desktop_;
     Session session_;
     HighlightLists highlights_;
-    QtSoundPlayer soundPlayer_;
-    SoundFolder sounds_{soundPlayer_};
+    SoundFolder sounds_;
     LinePipeline pipeline_;
     StreamDecoder decoder_;
     QtGameSocket socket_;

@@ -1,6 +1,7 @@
 #include "session/qt/Client.h"
 
 #include "commands/qt/CommandLine.h"
+#include "highlights/qt/QtClipboardReader.h"
 #include "session/FrameCommand.h"
 #include "session/qt/FrameWindow.h"
 #include "session/qt/MdiClient.h"
@@ -35,6 +36,12 @@ void Client::CopyCommand()
 {
     if (HasSelection(*commandLine_))
         commandLine_->Copy();
+}
+
+void Client::CopyToHighlights(int command)
+{
+    QtClipboardReader clipboard;
+    highlights_.CopyToHighlights(command, clipboard);
 }
 
 void Client::ReadEditInputs(MenuInputs& in) const

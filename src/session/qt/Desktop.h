@@ -1,6 +1,8 @@
 #pragma once
 
 #include "config/LogHost.h"
+#include "highlights/SoundPlayer.h"
+#include "highlights/qt/QtSoundPlayer.h"
 #include "session/qt/ConnectDialog.h"
 
 #include <cstddef>
@@ -34,6 +36,8 @@ class Desktop {
     // DRAG_DIALOG, filled with the target: true with the new target on OK, false when the
     // player chose "Stop Dragging".
     virtual bool AskDragTarget(QWidget* parent, std::string& target) = 0;
+    // The player of the highlight and start-up sounds.
+    virtual SoundPlayer& Sounds() = 0;
 };
 
 // The real dialogs and the desktop's own editor.
@@ -48,6 +52,10 @@ class QtDesktop : public Desktop {
     void Beep() override;
     bool AskString(QWidget* parent, const char* title, char* answer, std::size_t capacity) override;
     bool AskDragTarget(QWidget* parent, std::string& target) override;
+    SoundPlayer& Sounds() override { return sounds_; }
+
+  private:
+    QtSoundPlayer sounds_;
 };
 
 } // namespace steward

@@ -1,6 +1,7 @@
 #include "config/BufferedLog.h"
 #include "config/ConfigFiles.h"
 #include "config/IniStore.h"
+#include "highlights/HighlightList.h"
 #include "session/FrameCommand.h"
 #include "session/qt/Client.h"
 #include "session/qt/Desktop.h"
@@ -10,9 +11,11 @@
 #include "terminal/AnsiWindow.h"
 
 #include <QAction>
+#include <QClipboard>
 #include <QDate>
 #include <QEventLoop>
 #include <QFile>
+#include <QGuiApplication>
 #include <QLineEdit>
 #include <QTemporaryDir>
 #include <QTest>
@@ -25,6 +28,12 @@
 
 namespace steward {
 namespace {
+
+// Plays nothing and finds no wave file.
+class SilentPlayer : public SoundPlayer {
+  public:
+    bool PlayFile(const char*) override { return false; }
+};
 
 // An offline client whose dialogs answer at once and whose editor only records.
 class OfflineDesktop : public Desktop {
@@ -55,7 +64,9 @@ class OfflineDesktop : public Desktop {
         target = dragAnswer;
         return dragOk;
     }
+    SoundPlayer& Sounds() override { return sounds; }
 
+    SilentPlayer sounds;
     std::string shownTarget;
     std::string dragAnswer;
     bool dragOk = true;
@@ -270,6 +281,31 @@ TEST_F(ClientCommandsTest, DragDialogSetsAndStopsTheTarget)
     client->OnCommand(CMD_STOP_DRAGGING);
     client->OnCommand(CMD_DRAG_SOMEONE);
     EXPECT_EQ(desktop.shownTarget, "");
+}
+
+TEST_F(ClientCommandsTest, CopySpecialAddsTheClipboardLinesToItsListAndTheProfileKeepsThem)
+{
+    FrameMenu& menu = client->Frame().Menu();
+    menu.Refresh();
+    EXPECT_TRUE(menu.Action(CMD_COPY_TO_STRING_HIGHLIGHTS)->isEnabled());
+    EXPECT_TRUE(menu.Action(CMD_COPY_TO_NAME_HIGHLIGHTS)->isEnabled());
+
+    QGuiApplication::clipboard()->setText(QStringLiteral("Mara\r\n\r\nOrla\n"));
+    client->OnCommand(CMD_COPY_TO_NAME_HIGHLIGHTS);
+    QGuiApplication::clipboard()->setText(QStringLiteral("silver coin"));
+    client->OnCommand(CMD_COPY_TO_STRING_HIGHLIGHTS);
+    client->Frame().close();
+
+    HighlightList names;
+    names.Load(File("Default.Names").c_str());
+    EXPECT_STREQ(names.Text(0), "Mara");
+    EXPECT_STREQ(names.Text(1), "Orla");
+    EXPECT_STREQ(names.Text(2), "");
+    EXPECT_EQ(names.Color(1), HIGHLIGHT_DEFAULT_COLOR);
+    HighlightList strings;
+    strings.Load(File("Default.Highlights").c_str());
+    EXPECT_STREQ(strings.Text(0), "silver coin");
+    EXPECT_STREQ(strings.Text(1), "");
 }
 
 TEST_F(ClientCommandsTest, MenuFollowsTheOfflineState)

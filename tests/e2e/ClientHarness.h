@@ -1,0 +1,191 @@
+#pragma once
+
+#include "config/ConfigFiles.h"
+#include "highlights/SoundPlayer.h"
+#include "session/qt/Client.h"
+#include "session/qt/Desktop.h"
+#include "session/qt/FrameWindow.h"
+#include "terminal/AnsiWindow.h"
+#include "terminal/TextBuffer.h"
+
+#include <QApplication>
+#include <QFile>
+#include <QProcess>
+#include <QTemporaryDir>
+#include <QTest>
+#include <gtest/gtest.h>
+
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace steward::test {
+
+constexpr int WAIT_MS = 10000;
+
+// Records the wave files asked for; a file is found when it exists.
+class RecordingSoundPlayer : public SoundPlayer {
+  public:
+    bool PlayFile(const char* path) override
+    {
+        asked.emplace_back(path);
+        return QFile::exists(QString::fromLocal8Bit(path));
+    }
+    std::vector<std::string> asked;
+};
+
+// Dialogs answer as the test says; nothing opens on the desktop, no sound plays.
+class RecordingDesktop : public Desktop {
+  public:
+    ConnectChoice AskConnection(QWidget*, std::string& host, int& port) override
+    {
+        asked.push_back(host + ":" + std::to_string(port));
+        host = answerHost;
+        port = answerPort;
+        return choice;
+    }
+    bool AskExit(QWidget*) override
+    {
+        ++exitQuestions;
+        return leave;
+    }
+    void ShowMessage(QWidget*, const char* text, const char* title) override
+    {
+        messages.push_back(std::string(title ? title : "") + "|" + text);
+    }
+    bool RunEditor(const std::string& path) override
+    {
+        edited.push_back(path);
+        return true;
+    }
+    bool AskSaveFileName(QWidget*, const SaveFileRequest&, char*, std::size_t) override
+    {
+        return false;
+    }
+    void Beep() override {}
+    bool AskString(QWidget*, const char*, char*, std::size_t) override { return false; }
+    bool AskDragTarget(QWidget*, std::string& target) override
+    {
+        target = dragTarget;
+        return true;
+    }
+    SoundPlayer& Sounds() override { return sounds; }
+
+    RecordingSoundPlayer sounds;
+    std::string dragTarget;
+    ConnectChoice choice = ConnectChoice::Connect;
+    std::string answerHost;
+    int answerPort = 0;
+    bool leave = true;
+    int exitQuestions = 0;
+    std::vector<std::string> asked;
+    std::vector<std::string> messages;
+    std::vector<std::string> edited;
+};
+
+// The practice world as a separate process on a free port of 127.0.0.1, recording every byte
+// that its clients send.
+class WorldProcess {
+  public:
+    explicit WorldProcess(const QString& recordFile, const QStringList& more = {})
+    {
+        process.start(
+            QStringLiteral(WORLD_BINARY),
+            QStringList{"--port", "0", "--quiet", "--listen", "127.0.0.1", "--record", recordFile} +
+                more);
+        if (!process.waitForStarted(WAIT_MS))
+            return;
+        if (QTest::qWaitFor([this] { return process.canReadLine(); }, WAIT_MS))
+            port = process.readLine().trimmed().toInt();
+    }
+    ~WorldProcess() { Stop(); }
+
+    void Stop()
+    {
+        if (process.state() == QProcess::NotRunning)
+            return;
+        process.kill();
+        process.waitForFinished(WAIT_MS);
+    }
+
+    QProcess process;
+    int port = 0;
+};
+
+class ClientHarness : public ::testing::Test {
+  protected:
+    void SetUp() override
+    {
+        ASSERT_TRUE(folder.isValid());
+        world = std::make_unique<WorldProcess>(folder.filePath("sent.bin"));
+        ASSERT_GT(world->port, 0);
+    }
+
+    std::unique_ptr<Client> MakeClient(const std::string& connection,
+                                       const std::string& packetDump = {})
+    {
+        ClientOptions options;
+        options.Files = MakeConfigFiles(folder.path().toStdString());
+        options.ConnectionString = connection;
+        options.PacketDumpPath = packetDump;
+        return std::make_unique<Client>(std::move(options), desktop);
+    }
+
+    std::string Address() const { return "/H127.0.0.1/P" + std::to_string(world->port); }
+
+    static std::string GameText(Client& client)
+    {
+        AnsiWindow* game = client.State().Windows.GameWindow;
+        if (!game)
+            return {};
+        std::vector<char> text(60000);
+        game->GetText(text.data(), static_cast<std::uint16_t>(text.size()));
+        return text.data();
+    }
+
+    // The last bytes of the Game window, however much text it holds.
+    static std::string GameTail(Client& client, int count)
+    {
+        TextBuffer& live = client.State().Windows.GameWindow->GetLiveBuffer();
+        std::string tail;
+        auto at = live.GetWritePos();
+        for (int i = 0; i < count && at != live.GetHeadPos(); ++i) {
+            at = live.Prev(at);
+            tail.insert(tail.begin(), static_cast<char>(live.ByteAt(at)));
+        }
+        return tail;
+    }
+
+    static bool WaitForGameText(Client& client, const std::string& needle)
+    {
+        return QTest::qWaitFor([&] { return GameText(client).find(needle) != std::string::npos; },
+                               WAIT_MS);
+    }
+
+    QByteArray Sent() const
+    {
+        QFile file(folder.filePath("sent.bin"));
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    }
+
+    bool WaitForSent(const QByteArray& needle) const
+    {
+        return QTest::qWaitFor([&] { return Sent().contains(needle); }, WAIT_MS);
+    }
+
+    static void Type(Client& client, const char* text)
+    {
+        FrameWindow& frame = client.Frame();
+        QApplication::setActiveWindow(&frame);
+        QWidget* line = frame.CommandLine();
+        line->setFocus();
+        QTest::keyClicks(line, QString::fromLatin1(text));
+        QTest::keyClick(line, Qt::Key_Return);
+    }
+
+    QTemporaryDir folder;
+    std::unique_ptr<WorldProcess> world;
+    RecordingDesktop desktop;
+};
+
+} // namespace steward::test
