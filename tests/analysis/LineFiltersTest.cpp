@@ -29,6 +29,20 @@ TEST_F(FilterTest, WhisperEndsItsColourBeforeTheQuote)
               On(11) + "Ann whispers, " + Off(11) + "\"psst\"\r\n");
 }
 
+TEST_F(FilterTest, SpeechAndWhisperColourTheSameLineInTurn)
+{
+    const std::string cases[][2] = {
+        // The whisper pair goes outside the speech pair.
+        {"Bo says, \"Ann whispers, \"hi\"\"\r\n",
+         On(11) + On(10) + "Bo says," + Off(10) + " " + Off(11) + "\"Ann whispers, \"hi\"\"\r\n"},
+        // The speech colour closes inside the whisper phrase, which then is no whisper.
+        {"Ann whispers, \"Bo says, \"hi\"\"\r\n",
+         On(10) + "Ann whispers," + Off(10) + " \"Bo says, \"hi\"\"\r\n"},
+    };
+    for (const auto& c : cases)
+        EXPECT_EQ(Filter(c[0]), c[1]) << c[0];
+}
+
 TEST_F(FilterTest, YellsAreReplacedOnlyWhenIgnored)
 {
     EXPECT_EQ(Filter("Tom yells, \"hey\"\r\n"), On(10) + "Tom yells," + Off(10) + " \"hey\"\r\n");
@@ -92,6 +106,9 @@ TEST_F(FilterTest, LinesThatAreNoExitListLeaveTheCompass)
     Filter("Obvious exits: north\r\n");
     Filter("Exits: south\r\n");
     Filter("Obvious exits south\r\n");
+    // A colour in front of the first word hides the list, as it hides a delay.
+    Filter("\x8A"
+           "Obvious exits: west\r\n");
     EXPECT_EQ(panel.Compass.LastMasks(), 0x1u);
 }
 
