@@ -50,14 +50,12 @@ void Client::SetDefaultMacros(bool newProfile)
 
 void Client::LoadHighlights(const std::string& highlightsPath, const std::string& namesPath)
 {
-    highlights_.StringHighlights.Load(highlightsPath.c_str());
-    highlights_.NameHighlights.Load(namesPath.c_str());
+    highlights_.Load(highlightsPath, namesPath, [this](const std::string& line) { Trace(line); });
 }
 
 void Client::SaveHighlights(const std::string& highlightsPath, const std::string& namesPath)
 {
-    highlights_.StringHighlights.Save(highlightsPath.c_str());
-    highlights_.NameHighlights.Save(namesPath.c_str());
+    highlights_.Save(highlightsPath, namesPath, [this](const std::string& line) { Trace(line); });
 }
 
 void Client::UpdateTitle()
