@@ -139,14 +139,13 @@ TEST_F(AnalysisWorldTest, StatusRecordsShowThePromptAndFeedTheGauges)
     auto client = LoggedInClient();
     ASSERT_TRUE(client);
     ASSERT_TRUE(WaitForSent("Set Steward On\n\r"));
-    Type(*client, "ready saber");
-    ASSERT_TRUE(WaitForSent("ready saber\n\r"));
-    Type(*client, "sit");
-
     const StatusPanel& panel = client->State().Panel;
+    Type(*client, "ready saber");
+    ASSERT_TRUE(QTest::qWaitFor([&] { return panel.WeaponIcon.Held(); }, WAIT_MS))
+        << GameText(*client);
+    Type(*client, "sit");
     ASSERT_TRUE(QTest::qWaitFor([&] { return panel.BodyFigure.GetState() == 2; }, WAIT_MS))
         << GameText(*client);
-    EXPECT_TRUE(panel.WeaponIcon.Held());
     EXPECT_FALSE(panel.ShieldIcon.Held());
     const Gauge* gauges[] = {&panel.Hp, &panel.Ftg, &panel.Psi, &panel.Web, &panel.Weight};
     const std::int32_t expected[][2] = {{100, 100}, {60, 60}, {20, 20}, {5, 5}, {14, 80}};
@@ -160,6 +159,21 @@ TEST_F(AnalysisWorldTest, StatusRecordsShowThePromptAndFeedTheGauges)
     const std::string text = GameText(*client);
     EXPECT_NE(text.find(">sit"), std::string::npos) << text;
     EXPECT_EQ(text.find('\x1b'), std::string::npos);
+}
+
+TEST_F(AnalysisWorldTest, RoundTimeOfAnAttackCountsDownOnTheGauge)
+{
+    auto client = LoggedInClient();
+    ASSERT_TRUE(client);
+    for (const char* step : {"west", "down", "attack"}) {
+        Type(*client, step);
+        ASSERT_TRUE(WaitForSent(QByteArray(step) + "\n\r")) << step;
+    }
+    const Gauge& rt = client->State().Panel.RT;
+    ASSERT_TRUE(QTest::qWaitFor([&] { return rt.IsCounting(); }, WAIT_MS)) << GameText(*client);
+    EXPECT_EQ(rt.GetMax(), 3000);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !rt.IsCounting(); }, WAIT_MS));
+    EXPECT_EQ(rt.GetValue(), 0);
 }
 
 TEST_F(AnalysisWorldTest, HighlightOfTheProfileColoursARoomWordAndPlaysItsSound)

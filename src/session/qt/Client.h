@@ -12,6 +12,7 @@
 #include "connection/qt/QtGameSocket.h"
 #include "highlights/HighlightLists.h"
 #include "highlights/HighlightSound.h"
+#include "panels/qt/QtGaugeTimer.h"
 #include "session/FrameQueue.h"
 #include "session/LogNames.h"
 #include "session/MenuState.h"
@@ -188,6 +189,7 @@ class Client : public QObject,
     ClientOptions options_;
     Desktop& desktop_;
     Session session_;
+    QtGaugeTimer gaugeTimer_;
     HighlightLists highlights_;
     SoundFolder sounds_;
     LinePipeline pipeline_;

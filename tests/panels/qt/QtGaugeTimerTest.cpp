@@ -1,0 +1,63 @@
+#include "panels/qt/QtGaugeTimer.h"
+#include "panels/StatusPanel.h"
+
+#include <QTest>
+#include <gtest/gtest.h>
+
+#include <vector>
+
+namespace steward {
+namespace {
+
+constexpr int WAIT_MS = 10000;
+
+class RecordingListener : public CountdownListener {
+  public:
+    void CountdownDone(Gauge& gauge) override { done.push_back(&gauge); }
+    std::vector<Gauge*> done;
+};
+
+TEST(QtGaugeTimer, CountdownsRunBySecondsEachOnItsOwnTimer)
+{
+    QtGaugeTimer timer;
+    RecordingListener listener;
+    Gauge shortOne("RT:", StatusPanel::TimeGaugeFlags, false, {});
+    Gauge longOne("Pause:", StatusPanel::TimeGaugeFlags, false, {});
+    for (Gauge* gauge : {&shortOne, &longOne})
+        gauge->SetTimer(&timer);
+    shortOne.SetMax(2000);
+    longOne.SetMax(3000);
+    shortOne.StartCountdown(&listener);
+    longOne.StartCountdown(&listener);
+    // A restart replaces the running timer instead of adding a second one.
+    longOne.StartCountdown(&listener);
+
+    ASSERT_TRUE(QTest::qWaitFor([&] { return !listener.done.empty(); }, WAIT_MS));
+    EXPECT_EQ(listener.done, std::vector<Gauge*>{&shortOne});
+    EXPECT_EQ(shortOne.GetValue(), 0);
+    EXPECT_FALSE(shortOne.IsCounting());
+    EXPECT_GE(longOne.GetValue(), 1000);
+    EXPECT_TRUE(longOne.IsCounting());
+
+    ASSERT_TRUE(QTest::qWaitFor([&] { return listener.done.size() == 2; }, WAIT_MS));
+    EXPECT_EQ(listener.done.back(), &longOne);
+    QTest::qWait(1200);
+    EXPECT_EQ(listener.done.size(), 2u) << "a finished countdown ticks no more";
+}
+
+TEST(QtGaugeTimer, AStoppedCountdownTicksNoMore)
+{
+    QtGaugeTimer timer;
+    RecordingListener listener;
+    Gauge gauge("RT:", StatusPanel::TimeGaugeFlags, false, {});
+    gauge.SetTimer(&timer);
+    gauge.SetMax(1000);
+    gauge.StartCountdown(&listener);
+    gauge.StopCountdown(&listener);
+    QTest::qWait(1300);
+    EXPECT_TRUE(listener.done.empty());
+    EXPECT_EQ(gauge.GetValue(), 0);
+}
+
+} // namespace
+} // namespace steward
