@@ -112,6 +112,7 @@ class WorldProcess {
     int port = 0;
 };
 
+// Each test gets its own practice world and data folder, and drives real clients against them.
 class ClientHarness : public ::testing::Test {
   protected:
     void SetUp() override
