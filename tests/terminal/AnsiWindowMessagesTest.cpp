@@ -41,10 +41,6 @@ TEST_F(MessagesTest, ANewWindowHasTheDefaultColoursAndTheSystemFont)
     EXPECT_EQ(window->GetTextColor(), MakeRgb(10, 20, 30));
     EXPECT_EQ(window->GetBkColor(), MakeRgb(40, 50, 60));
     EXPECT_EQ(window->GetLineHeight(), CELL_HEIGHT);
-    EXPECT_EQ(window->GetRows(), 10);
-    EXPECT_EQ(window->GetTextTop(), 2);
-    EXPECT_STREQ(window->GetWindowName(), "Thought Window");
-    EXPECT_STREQ(window->GetSectionName(), "Thought Window");
 }
 
 TEST_F(MessagesTest, RowsNeedHalfARowOfSpareHeightAndShareTheRestAboveAndBelow)

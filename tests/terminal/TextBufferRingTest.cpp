@@ -90,8 +90,7 @@ std::vector<std::string> NumberedLines(int count, int width)
 
 INSTANTIATE_TEST_SUITE_P(
     AcrossTheSeam, TextBufferRingKeeps,
-    testing::Values(RingCase{"ShortLines", SMALL_CAPACITY, NumberedLines(7, 9), 20},
-                    RingCase{"LinesNotDividingTheRing", SMALL_CAPACITY, NumberedLines(5, 22), 20},
+    testing::Values(RingCase{"LinesNotDividingTheRing", SMALL_CAPACITY, NumberedLines(5, 22), 20},
                     RingCase{"LinesInPieces", SMALL_CAPACITY, {"first half ", "second\n", "x"}, 60},
                     RingCase{"LongLines", SMALL_CAPACITY, NumberedLines(3, 90), 12},
                     RingCase{"AppendLongerThanTheRing",
@@ -110,6 +109,8 @@ TEST(TextBufferRing, RingWithoutLineFeedsReadsAsEmptyUntilOneComes)
     EXPECT_EQ(buffer->CountLines(), 0);
     EXPECT_EQ(CopiedText(*buffer), "\r\n");
     EXPECT_EQ(LastRows(*buffer, 2), (std::vector<std::string>{"", ""}));
+    buffer->SeekFromEnd(3);
+    EXPECT_EQ(buffer->GetWalkPos(), buffer->GetWritePos());
 
     buffer->AppendText("xx", true);
     EXPECT_EQ(buffer->CountLines(), 0);
@@ -240,9 +241,8 @@ TEST_P(TextBufferAdvance, WrapsAtTheSeam)
 }
 
 INSTANTIATE_TEST_SUITE_P(Counts, TextBufferAdvance,
-                         testing::Values(AdvanceCase{5, 0, 5}, AdvanceCase{5, -3, 5},
-                                         AdvanceCase{5, 10, 15}, AdvanceCase{195, 4, 199},
-                                         AdvanceCase{195, 5, 0}, AdvanceCase{199, 1, 0},
+                         testing::Values(AdvanceCase{5, -3, 5}, AdvanceCase{195, 4, 199},
+                                         AdvanceCase{195, 5, 0},
                                          AdvanceCase{10, 2 * SMALL_CAPACITY + 1, 11}));
 
 TEST(TextBufferRing, WalkingStaysInsideTheRing)

@@ -136,14 +136,6 @@ TEST_F(WidgetTest, TheScrollBarFreezesAndReturnsToTheLiveTail)
     EXPECT_EQ(bar->value(), LIVE_SCROLL_MAX);
 }
 
-TEST_F(WidgetTest, ALiveBarDoesNotMoveWhenNothingScrolls)
-{
-    auto widget = Make();
-    widget->ScrollBar()->triggerAction(QAbstractSlider::SliderSingleStepAdd);
-    EXPECT_FALSE(widget->Window().IsFrozen());
-    EXPECT_EQ(widget->ScrollBar()->value(), LIVE_SCROLL_MAX);
-}
-
 TEST_F(WidgetTest, TheWheelScrollsAPageUpAndFreezes)
 {
     auto widget = Make();
