@@ -82,11 +82,6 @@ const Case CASES[] = {
      10,
      "\x8A\xA0\x8A"
      "A"},
-    {"two on in a row with background",
-     "\x1B"
-     "1xy\x1B"
-     "1xy",
-     0x1A, "\x91\x8A\xA1\xA0\x91\x8A"},
     {"CR closes an open colour",
      "\x1B"
      "1xyhi\r\n",
@@ -108,20 +103,12 @@ const Case CASES[] = {
      "\x1B\x1B"
      "1xyz",
      10, "\x1B\x8Az"},
-    {"ESC ESC then off",
-     "\x1B\x1B"
-     "0xyz",
-     10, "\x1B\xA0z"},
     {"status record passes", "\x1B\x1B>00140014\x1B\r\n", 10, "\x1B\x1B>00140014\x1B\r\n"},
     {"ESC at the line end", "a\x1B", 10, "a\x1B"},
     {"token cut after its selector",
      "a\x1B"
      "1",
      10, "a\x8A"},
-    {"token cut after x",
-     "a\x1B"
-     "0x",
-     10, "a\xA0"},
     {"high bit is cleared", "\xC1\xE2\xFF", 10, "Ab\x7F"},
     {"0x8D is no CR",
      "\x1B"
@@ -140,7 +127,6 @@ const Case CASES[] = {
      "ab\x80"
      "cd\n",
      10, "ab"},
-    {"BEL stays", "\x07ring\n", 10, "\x07ring\n"},
 };
 
 TEST_F(ColorDecodingTest, TokensBecomeColorCodesAndTextLosesBitSeven)
@@ -158,22 +144,6 @@ TEST_F(ColorDecodingTest, ColourStateDoesNotSurviveTheLine)
                      "0xy\r\n",
                      0x1A),
               "\xA0\r\n");
-}
-
-TEST_F(ColorDecodingTest, SaysColorTakesEffectFromTheNextToken)
-{
-    EXPECT_EQ(Decode("\x1B"
-                     "1xyA\x1B"
-                     "0xy",
-                     10),
-              "\x8A"
-              "A\xA0");
-    EXPECT_EQ(Decode("\x1B"
-                     "1xyA\x1B"
-                     "0xy",
-                     0x2C),
-              "\x92\x8C"
-              "A\xA1\xA0");
 }
 
 TEST_F(ColorDecodingTest, LaterLinesAreUntouchedByA0x80)
@@ -200,11 +170,6 @@ TEST_F(ColorDecodingTest, TokenCutByABlockEndBreaksWhileNotHeld)
           "1",
           "xyhi\r\n"},
          {"say \x8A", "xyhi\r\n"},
-         {"say \x8Ahi\xA0\r\n"}},
-        {{"say \x1B"
-          "1x",
-          "yhi\r\n"},
-         {"say \x8A", "yhi\r\n"},
          {"say \x8Ahi\xA0\r\n"}},
         {{"say \x1B"
           "1xy",

