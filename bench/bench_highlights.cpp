@@ -12,6 +12,7 @@
 #include "session/FrameQueue.h"
 #include "terminal/AnsiWindow.h"
 
+#include "GameLines.h"
 #include "NullWindowHost.h"
 
 #include <benchmark/benchmark.h>
@@ -30,62 +31,7 @@ namespace {
 constexpr std::size_t STREAM_LINES = 20000;
 constexpr std::size_t BLOCK_SIZE = 1024;
 
-const char* const NAMES[] = {"Mara",    "Kaelen", "Oswin",  "Thessaly",
-                             "Brannoc", "Ilse",   "Corwen", "Edda"};
-const char* const PLACES[] = {"the old mill", "the market square", "the river ford",
-                              "the chapel of the moon", "the western gate"};
-const char* const CREATURES[] = {"a grey wolf", "an orc raider", "a cave bear", "a young drake",
-                                 "a bandit archer"};
-const char* const SPOKEN[] = {"Shall we go to the market?", "Watch your back out there.",
-                              "I have silver for the ferry.", "Hail and well met!"};
-
-// One line of a day's play, with the server's colour tokens where the game sends them.
-std::string PlayLine(std::mt19937& random)
-{
-    const char* name = NAMES[random() % std::size(NAMES)];
-    const char* place = PLACES[random() % std::size(PLACES)];
-    const char* creature = CREATURES[random() % std::size(CREATURES)];
-    char line[240];
-    switch (random() % 8) {
-    case 0:
-    case 1:
-        std::snprintf(line, sizeof line,
-                      "You are standing near %s. The wind moves the long grass.\r\n", place);
-        break;
-    case 2:
-        std::snprintf(line, sizeof line,
-                      "\x1B"
-                      "1ab%s says,\x1B"
-                      "0ab \"%s\"\r\n",
-                      name, SPOKEN[random() % std::size(SPOKEN)]);
-        break;
-    case 3:
-        std::snprintf(line, sizeof line, "Obvious exits: north, east, southwest, up.\r\n");
-        break;
-    case 4:
-    case 5:
-        std::snprintf(line, sizeof line, "%s attacks %s and hits for %u damage!\r\n", name,
-                      creature, static_cast<unsigned>(random() % 40));
-        break;
-    case 6:
-        std::snprintf(line, sizeof line, "You see %s, a rusty dagger and 12 gold coins here.\r\n",
-                      creature);
-        break;
-    default:
-        std::snprintf(line, sizeof line, " ** %s just arrived in the world.\r\n", name);
-        break;
-    }
-    return line;
-}
-
-std::vector<std::string> PlayLines()
-{
-    std::mt19937 random(20261123);
-    std::vector<std::string> lines;
-    for (std::size_t i = 0; i < STREAM_LINES; ++i)
-        lines.push_back(PlayLine(random));
-    return lines;
-}
+using bench::NAMES;
 
 // A player's lists: names built from syllables and words of the game, a third of them names,
 // with a mix of sounds and markers; the game's own names and words are among them.
@@ -143,7 +89,7 @@ std::size_t TotalBytes(const std::vector<std::string>& lines)
 // strings and the names.
 void BM_ApplyHighlights(benchmark::State& state)
 {
-    const std::vector<std::string> lines = PlayLines();
+    const std::vector<std::string> lines = bench::PlayLines(STREAM_LINES);
     HighlightLists lists;
     FillLists(lists, static_cast<std::size_t>(state.range(0)));
     QuietSounds sounds;
@@ -161,7 +107,7 @@ void BM_ApplyHighlights(benchmark::State& state)
 // The same work through the plain form, which reads every entry for every line.
 void BM_ApplyHighlightsPlain(benchmark::State& state)
 {
-    const std::vector<std::string> lines = PlayLines();
+    const std::vector<std::string> lines = bench::PlayLines(STREAM_LINES);
     HighlightLists lists;
     FillLists(lists, static_cast<std::size_t>(state.range(0)));
     QuietSounds sounds;
@@ -202,7 +148,7 @@ class PipelineSink : public GameLineSink {
 void BM_ReceiveWithHighlights(benchmark::State& state)
 {
     std::string stream;
-    for (const std::string& line : PlayLines())
+    for (const std::string& line : bench::PlayLines(STREAM_LINES))
         stream += line;
     HighlightLists lists;
     FillLists(lists, static_cast<std::size_t>(state.range(0)));

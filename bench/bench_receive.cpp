@@ -3,12 +3,12 @@
 #include "connection/PacketDump.h"
 #include "connection/StreamDecoder.h"
 
+#include "GameLines.h"
+
 #include <benchmark/benchmark.h>
 
 #include <cstddef>
-#include <cstdio>
 #include <cstring>
-#include <random>
 #include <string>
 
 namespace steward {
@@ -16,72 +16,6 @@ namespace {
 
 constexpr std::size_t STREAM_SIZE = 4 * 1024 * 1024;
 constexpr std::size_t BLOCK_SIZE = 1024;
-
-const char* const NAMES[] = {"Mara", "Kaelen", "Oswin", "Thessaly", "Brannoc", "Ilse"};
-const char* const PLACES[] = {"the old mill", "the market square", "the river ford",
-                              "the chapel of the moon", "the western gate"};
-const char* const SPOKEN[] = {"Shall we go to the market?", "Watch your back out there.",
-                              "I have silver for the ferry.", "Hail and well met!"};
-
-// A 70-byte status record: ESC ESC, prompt, hexadecimal fields, closing ESC, CR LF.
-std::string StatusRecord(std::mt19937& random)
-{
-    char record[80];
-    std::snprintf(record, sizeof record,
-                  "\x1B\x1B>%04X0064%04X0064001E001E00140014%08X%08X%04X01F40000%04X00\x1B\r\n",
-                  static_cast<unsigned>(random() % 100), static_cast<unsigned>(random() % 100),
-                  static_cast<unsigned>(random() % 5000), static_cast<unsigned>(random() % 50),
-                  static_cast<unsigned>(random() % 500), static_cast<unsigned>(random() % 6));
-    return record;
-}
-
-// One line of a day's play, picked at random with the weights a player sees.
-std::string PlayLine(std::mt19937& random)
-{
-    const char* name = NAMES[random() % std::size(NAMES)];
-    const char* place = PLACES[random() % std::size(PLACES)];
-    char line[200];
-    switch (random() % 10) {
-    case 0:
-    case 1:
-    case 2:
-        std::snprintf(line, sizeof line,
-                      "You are standing near %s. The wind moves the long grass.\r\n", place);
-        break;
-    case 3:
-    case 4:
-        std::snprintf(line, sizeof line,
-                      "\x1B"
-                      "1ab%s says,\x1B"
-                      "0ab \"%s\"\r\n",
-                      name, SPOKEN[random() % std::size(SPOKEN)]);
-        break;
-    case 5:
-        std::snprintf(line, sizeof line, "Obvious exits: north, east, southwest, up.\r\n");
-        break;
-    case 6:
-    case 7:
-        return StatusRecord(random);
-    case 8:
-        std::snprintf(line, sizeof line, "%s thinks to you, \"Meet me at %s.\"\r\n", name, place);
-        break;
-    default:
-        std::snprintf(line, sizeof line, " ** %s just arrived in the world.\r\n", name);
-        break;
-    }
-    return line;
-}
-
-std::string GenerateStream()
-{
-    std::mt19937 random(20261123);
-    std::string stream;
-    stream.reserve(STREAM_SIZE + 256);
-    while (stream.size() < STREAM_SIZE)
-        stream += PlayLine(random);
-    stream.resize(STREAM_SIZE);
-    return stream;
-}
 
 class CountingSink : public GameLineSink {
   public:
@@ -96,7 +30,7 @@ class CountingSink : public GameLineSink {
 
 void ReceiveStream(benchmark::State& state, bool hold, const char* dumpPath = nullptr)
 {
-    const std::string stream = GenerateStream();
+    const std::string stream = bench::PlayStream(STREAM_SIZE);
     CountingSink sink;
     PacketDump dump;
     if (dumpPath && !dump.OpenNew(dumpPath)) {
