@@ -47,13 +47,6 @@ TEST_F(EnterRoadTest, AnEmptyLineIsSent)
     EXPECT_EQ(kb.history.Count(), 0);
 }
 
-TEST_F(EnterRoadTest, NotRememberedWhenAsked)
-{
-    Enter("kill rat", false);
-    EXPECT_EQ(kb.history.Count(), 0);
-    EXPECT_EQ(kb.sink.sent, Strings{"kill rat"});
-}
-
 TEST_F(EnterRoadTest, PrefixRunsACommandScript)
 {
     kb.line.SetText(".hunt rat \"big one\"");
@@ -134,14 +127,6 @@ TEST_F(EnterRoadTest, ScriptedLinesTakeTheShortRoad)
     EXPECT_EQ(kb.sink.calls, (Strings{"pending", "echo n", "send n"}));
     EXPECT_EQ(kb.line.text, "typed");
     EXPECT_EQ(kb.line.focused, 1);
-}
-
-TEST_F(EnterRoadTest, SetCommandLinePutsTheCaret)
-{
-    kb.road.SetCommandLine("tell bob hi", 9);
-    EXPECT_EQ(kb.line.text, "tell bob hi");
-    EXPECT_EQ(kb.line.start, 9);
-    EXPECT_EQ(kb.line.end, 9);
 }
 
 TEST_F(EnterRoadTest, SendingResetsTheBrowsingPlace)

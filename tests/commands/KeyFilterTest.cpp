@@ -40,14 +40,6 @@ TEST_F(KeyFilterTest, KeypadPlaysItsMacroWithNumLockOnAndOff)
     EXPECT_EQ(kb.sink.sent, (Strings{"n", "n"}));
 }
 
-TEST_F(KeyFilterTest, HonouredNumLockLeavesTheKeypadToTheLine)
-{
-    kb.options.HonorNumLock = 1;
-    EXPECT_FALSE(Press(VK_NUMPAD0 + 8, KEY_NUMLOCK));
-    EXPECT_TRUE(Press(VK_UP));
-    EXPECT_EQ(kb.sink.sent, Strings{"n"});
-}
-
 TEST_F(KeyFilterTest, AltDigitSelectsTheSetAndRetitlesTheFrame)
 {
     kb.macros.SelectMacroSet(2);
@@ -77,17 +69,6 @@ TEST_F(KeyFilterTest, KeypadEnterOnAnEmptyLineRepeatsThenSendsAnEmptyLine)
     kb.ServeQueue();
     EXPECT_EQ(kb.sink.sent, (Strings{"kill rat", ""}));
     EXPECT_EQ(kb.history.Count(), 1);
-}
-
-TEST_F(KeyFilterTest, KeypadEnterWithTextOrHonouredIsAPlainEnter)
-{
-    kb.history.RememberCommand("kill rat", 4);
-    kb.Type("look");
-    Press(VK_RETURN, KEY_EXTENDED);
-    kb.options.HonorNumLock = 1;
-    Press(VK_RETURN, KEY_EXTENDED | KEY_NUMLOCK);
-    kb.ServeQueue();
-    EXPECT_EQ(kb.sink.sent, (Strings{"look", ""}));
 }
 
 TEST_F(KeyFilterTest, CtrlAndAltEnterRepeatWithoutTouchingTheLine)

@@ -1,11 +1,9 @@
 #include "commands/MacroStore.h"
+#include "support/TempFolder.h"
 
 #include <gtest/gtest.h>
 
-#include <cstdio>
 #include <filesystem>
-#include <fstream>
-#include <sstream>
 #include <string>
 
 namespace steward {
@@ -13,33 +11,15 @@ namespace {
 
 class MacroFileTest : public ::testing::Test {
   protected:
-    MacroFileTest()
-    {
-        folder =
-            std::filesystem::temp_directory_path() /
-            ("steward-macros-" + std::to_string(::testing::UnitTest::GetInstance()->random_seed()) +
-             ::testing::UnitTest::GetInstance()->current_test_info()->name());
-        std::filesystem::create_directories(folder);
-        path = (folder / "Ayla.Macros").string();
-    }
-    ~MacroFileTest() override { std::filesystem::remove_all(folder); }
-
-    void Write(const std::string& content) { std::ofstream(path, std::ios::binary) << content; }
-    std::string Read() const
-    {
-        std::ifstream in(path, std::ios::binary);
-        std::stringstream content;
-        content << in.rdbuf();
-        return content.str();
-    }
+    std::string Read() const { return testing::ReadBytes(path); }
     void Load(const std::string& content)
     {
-        Write(content);
+        testing::WriteBytes(path, content);
         store.LoadMacros(path.c_str());
     }
 
-    std::filesystem::path folder;
-    std::string path;
+    testing::TempFolder folder;
+    std::string path = folder.File("Ayla.Macros");
     MacroStore store;
 };
 
@@ -116,7 +96,7 @@ TEST_F(MacroFileTest, OnlyASetNameLeavesKeysToTheDefaults)
 TEST_F(MacroFileTest, AMissingFileEmptiesTheStore)
 {
     store.SetMacro(KEY_ALT, 'Q', "old");
-    store.LoadMacros((folder / "none.Macros").string().c_str());
+    store.LoadMacros(folder.File("none.Macros").c_str());
     EXPECT_STREQ(store.LookupMacro(KEY_ALT, 'Q'), "");
 }
 
@@ -180,8 +160,8 @@ TEST_F(MacroFileTest, SaveWithAnEmptyPathWritesNothing)
 {
     store.SetMacro(KEY_ALT, 'A', "x");
     store.SaveMacros("");
-    store.SaveMacros((folder / "missing" / "x.Macros").string().c_str());
-    EXPECT_FALSE(std::filesystem::exists(folder / "missing"));
+    store.SaveMacros(folder.File("missing/x.Macros").c_str());
+    EXPECT_FALSE(std::filesystem::exists(folder.File("missing")));
 }
 
 } // namespace

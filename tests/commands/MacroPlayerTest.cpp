@@ -45,14 +45,6 @@ TEST_F(MacroPlayerTest, MarkOfASelectionIsNotRestored)
     EXPECT_EQ(kb.line.start, 1);
 }
 
-TEST_F(MacroPlayerTest, TypingReplacesTheSelection)
-{
-    kb.Type("look rat");
-    kb.line.SetSelection(5, 8);
-    Play("bat");
-    EXPECT_EQ(kb.line.text, "look bat");
-}
-
 TEST_F(MacroPlayerTest, QuestionIsAskedOnceAndReused)
 {
     kb.host.answers = {"rat  "};

@@ -63,14 +63,6 @@ TEST(MacroStoreKeys, SetMacroIgnoresTextsOf201Characters)
     EXPECT_EQ(store.LookupMacro(KEY_ALT, 'B'), held);
 }
 
-TEST(MacroStoreKeys, DefaultOnlyFillsAnEmptySlot)
-{
-    MacroStore store;
-    store.SetDefaultMacro(KEY_CTRL, 'C', "{copy}");
-    store.SetDefaultMacro(KEY_CTRL, 'C', "other");
-    EXPECT_STREQ(store.LookupMacro(KEY_CTRL, 'C'), "{copy}");
-}
-
 TEST(MacroStoreSets, FunctionKeysBelongToTheCurrentSetOnly)
 {
     MacroStore store;

@@ -92,14 +92,6 @@ TEST_F(KeyFilterQtTest, BareAltKeepsTheFocusOnTheLine)
     EXPECT_EQ(Text(), "ok");
 }
 
-TEST_F(KeyFilterQtTest, KeypadPlaysMacrosWithNumLockOnAndOff)
-{
-    Click(Qt::Key_8, Qt::KeypadModifier);
-    Click(Qt::Key_Up, Qt::KeypadModifier);
-    EXPECT_EQ(sink.sent, (Strings{"n", "n"}));
-    EXPECT_EQ(Text(), "");
-}
-
 TEST_F(KeyFilterQtTest, HonouredNumLockTypesDigitsAndOffPlaysMacros)
 {
     options.HonorNumLock = 1;
