@@ -154,7 +154,6 @@ TEST_F(ProfileTest, LoadedSettingsAreBroughtIntoRangeAndSavedSo)
     const CheckCase cases[] = {
         {100, -3, 3, 256, 0, 0},
         {5000, 12, 2, 2048, 12, 2},
-        {1500, 0, 1, 1500, 0, 1},
     };
     for (const CheckCase& c : cases) {
         Settings stored;
@@ -236,16 +235,6 @@ TEST_F(ProfileTest, ALongNameIsCutToItsBuffer)
     EXPECT_EQ(profile.CurrentCharacter, longName.substr(0, CHARACTER_NAME_SIZE - 1));
     LoadProfile(files, profile, parts, profile.CurrentCharacter, true);
     EXPECT_EQ(profile.CurrentCharacter, longName.substr(0, CHARACTER_NAME_SIZE - 1));
-}
-
-TEST(ProfileGauges, EachColourKeyBelongsToItsLabelledGauge)
-{
-    StatusPanel panel;
-    const char* labels[PROFILE_GAUGE_COUNT] = {
-        "Hp:", "Ftg:", "Weight:", "Psi:", "Web:", "RT:", "Pause:"};
-    for (std::size_t i = 0; i < PROFILE_GAUGE_COUNT; ++i)
-        EXPECT_STREQ(GaugeFor(panel, static_cast<ProfileGauge>(i)).Label(), labels[i])
-            << GAUGE_COLOR_KEYS[i];
 }
 
 struct WindowsCase {

@@ -62,17 +62,6 @@ TEST_F(SessionLogTest, DialogAsksForACaptureFileInTheProgramFolder)
     EXPECT_TRUE(host.messages.empty());
 }
 
-TEST_F(SessionLogTest, DialogReplacesTheContentOfTheChosenFile)
-{
-    host.answer = folder.File("capture.txt");
-    ASSERT_TRUE(OpenWithDialog(log, "/data", host));
-    log.Write("first session\r\n");
-    ASSERT_TRUE(OpenWithDialog(log, "/data", host));
-    log.Write("second\r\n");
-    log.Close();
-    EXPECT_EQ(ReadBytes(host.answer), "second\r\n");
-}
-
 TEST_F(SessionLogTest, CancelLeavesTheOpenLogAlone)
 {
     const std::string path = folder.File("open.txt");
