@@ -43,7 +43,6 @@ TEST(StatusRecord, PutsEveryFieldAtItsOffset)
     };
     for (const Field& f : fields)
         EXPECT_EQ(record.mid(f.offset, qstrlen(f.bytes)), f.bytes) << "offset " << f.offset;
-    EXPECT_EQ(record.at(record.size() - 3), '\x1b');
 }
 
 TEST(StatusRecord, RoundTimeIsSecondsPlusOneOrZeroWhenIdle)
@@ -67,15 +66,6 @@ TEST(StatusRecord, ClampsValuesSoNoFieldReadsAsNegative)
     EXPECT_EQ(record.mid(7, 4), "7FFF");
     EXPECT_EQ(record.mid(35, 8), "7FFFFFFF");
     EXPECT_EQ(record.size(), StatusRecordLength);
-}
-
-TEST(StatusRecord, PostureDigitFollowsThePlayer)
-{
-    StatusFields f = Sample();
-    for (int posture : {0, 1, 2}) {
-        f.posture = posture;
-        EXPECT_EQ(FormatStatusRecord(f).at(61), char('0' + posture));
-    }
 }
 
 } // namespace

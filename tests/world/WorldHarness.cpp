@@ -3,7 +3,6 @@
 #include <QCoreApplication>
 #include <QDeadlineTimer>
 #include <QEventLoop>
-#include <QTimer>
 
 namespace {
 
@@ -91,11 +90,4 @@ void TestClient::Login(const QByteArray& name)
     Send(name);
     ReadUntil("Obvious exits:");
     ReadUntil(">");
-}
-
-void SettleEvents()
-{
-    QEventLoop loop;
-    QTimer::singleShot(100, &loop, &QEventLoop::quit);
-    loop.exec();
 }

@@ -22,7 +22,6 @@ class TestClient {
   public:
     explicit TestClient(quint16 port);
 
-    bool connected() const { return socket.state() == QAbstractSocket::ConnectedState; }
     // Sends the line with LF CR behind it, as the game client does.
     void Send(const QByteArray& line);
     void SendRaw(const QByteArray& bytes);
@@ -40,6 +39,3 @@ class TestClient {
     QByteArray received;
     qsizetype readPosition = 0;
 };
-
-// Runs the event loop briefly so that queued work, such as a departure, is done.
-void SettleEvents();

@@ -97,7 +97,7 @@ class TwoPlayers : public ::testing::Test {
     TestClient corwin{world.port};
 };
 
-TEST_F(TwoPlayers, HearEachOthersSpeechWrappedInColourTokens)
+TEST_F(TwoPlayers, HearEachOthersSpeechInColourTokensThoughtsContactsAndTheLink)
 {
     const std::pair<const char*, QByteArray> cases[] = {
         {"say Good morning", "\x1b"
@@ -107,23 +107,14 @@ TEST_F(TwoPlayers, HearEachOthersSpeechWrappedInColourTokens)
         {"yell Fire!", "Corwin yells, \"Fire!\""},
         {"shout Hello", "Corwin shouts, \"Hello\""},
         {"whisper mara a secret", "Corwin whispers, \"a secret\""},
+        {"think The bread smells good",
+         "You pick up Corwin's thoughts, \"The bread smells good\"\r\n"},
+        {"contact Mara meet me at the quay", "Corwin thinks to you, \"meet me at the quay\"\r\n"},
+        {"link all quiet", "You pick up Corwin's Psycian link, \"all quiet\"\r\n"},
     };
     for (const auto& [command, heard] : cases) {
         corwin.Send(command);
         EXPECT_FALSE(mara.ReadUntil(heard).isEmpty()) << command;
-    }
-}
-
-TEST_F(TwoPlayers, PickUpThoughtsContactsAndTheLink)
-{
-    const std::pair<const char*, QByteArray> cases[] = {
-        {"think The bread smells good", "You pick up Corwin's thoughts, \"The bread smells good\""},
-        {"contact Mara meet me at the quay", "Corwin thinks to you, \"meet me at the quay\""},
-        {"link all quiet", "You pick up Corwin's Psycian link, \"all quiet\""},
-    };
-    for (const auto& [command, heard] : cases) {
-        corwin.Send(command);
-        EXPECT_FALSE(mara.ReadUntil(heard + "\r\n").isEmpty()) << command;
     }
 }
 
