@@ -165,30 +165,24 @@ TEST(TextBufferLineIndexOf, PositionOutsideTheTextGivesZero)
     EXPECT_EQ(buffer->LineIndexOf(WINDOW_BUFFER_CAPACITY - 1), 0);
 }
 
+// A line is cut at the limit, colour codes counted, and the walk still moves to the next line.
 TEST(TextBufferReadLine, CutsAtTheLimitAndStillMovesToTheNextLine)
 {
-    auto buffer = BufferWith("abcdefgh\nnext");
-    buffer->SeekLine(99);
-    char out[16];
-    std::memset(out, 0x7E, sizeof out);
-    std::int32_t limit = 3;
-    EXPECT_STREQ(buffer->ReadLine(out, limit, false, nullptr), "abc");
-    EXPECT_EQ(limit, 3);
-    // Nothing written past limit + 3 bytes.
-    EXPECT_EQ(out[6], 0x7E);
-    EXPECT_EQ(ReadOne(*buffer), "next");
-}
-
-TEST(TextBufferReadLine, ColorCodesCountInTheLimit)
-{
-    auto buffer = BufferWith("\x81"
-                             "abcdef");
-    buffer->SeekLine(99);
-    char out[8];
-    std::int32_t limit = 3;
-    EXPECT_STREQ(buffer->ReadLine(out, limit, false, nullptr), "\x81"
-                                                               "ab");
-    EXPECT_EQ(limit, 3);
+    for (const auto& [text, cut] : {std::pair{"abcdefgh\nnext", "abc"}, std::pair{"\x81"
+                                                                                  "abcdef\nnext",
+                                                                                  "\x81"
+                                                                                  "ab"}}) {
+        auto buffer = BufferWith(text);
+        buffer->SeekLine(99);
+        char out[16];
+        std::memset(out, 0x7E, sizeof out);
+        std::int32_t limit = 3;
+        EXPECT_STREQ(buffer->ReadLine(out, limit, false, nullptr), cut);
+        EXPECT_EQ(limit, 3);
+        // Nothing written past limit + 3 bytes.
+        EXPECT_EQ(out[6], 0x7E);
+        EXPECT_EQ(ReadOne(*buffer), "next");
+    }
 }
 
 TEST(TextBufferReadLine, LongLineLosesItsTailOnScreenOnly)

@@ -199,31 +199,22 @@ TEST(TextBufferSelection, CollapsesOntoTheOldestTextWhenItsTextLeaves)
     EXPECT_EQ(buffer->GetSelEnd(), 0);
 }
 
-TEST(TextBufferSelection, FrozenAppendsLeaveTheOffsetsAlone)
+// Frozen appends leave a selection where it was, and an empty selection never moves.
+TEST(TextBufferSelection, StaysWhileFrozenOrEmpty)
 {
-    auto buffer = MakeBuffer(SMALL_CAPACITY);
-    buffer->AppendText("text\n", true);
-    buffer->SetSelection(10, 20);
-    for (int i = 0; i < 40; ++i) {
-        buffer->AppendText("more lines\n", false);
+    for (const auto& [start, end, track] : {std::tuple{10, 20, false}, std::tuple{7, 7, true}}) {
+        auto buffer = MakeBuffer(SMALL_CAPACITY);
+        buffer->SetSelection(start, end);
+        for (int i = 0; i < 40; ++i) {
+            buffer->AppendText("more lines\n", track);
+        }
+        ASSERT_TRUE(buffer->IsWrapped());
+        EXPECT_EQ(buffer->GetSelStart(), start) << track;
+        EXPECT_EQ(buffer->GetSelEnd(), end) << track;
+        buffer->ClearSelection();
+        EXPECT_EQ(buffer->GetSelStart(), 0);
+        EXPECT_EQ(buffer->GetSelEnd(), 0);
     }
-    EXPECT_TRUE(buffer->IsWrapped());
-    EXPECT_EQ(buffer->GetSelStart(), 10);
-    EXPECT_EQ(buffer->GetSelEnd(), 20);
-}
-
-TEST(TextBufferSelection, NoSelectionStaysNone)
-{
-    auto buffer = MakeBuffer(SMALL_CAPACITY);
-    buffer->SetSelection(7, 7);
-    for (int i = 0; i < 40; ++i) {
-        buffer->AppendText("more lines\n", true);
-    }
-    EXPECT_EQ(buffer->GetSelStart(), 7);
-    EXPECT_EQ(buffer->GetSelEnd(), 7);
-    buffer->ClearSelection();
-    EXPECT_EQ(buffer->GetSelStart(), 0);
-    EXPECT_EQ(buffer->GetSelEnd(), 0);
 }
 
 struct AdvanceCase {

@@ -161,33 +161,23 @@ TEST_F(WidgetTest, AFrozenViewPaintsTheOldTextWhileNewTextArrives)
     EXPECT_TRUE(HasColor(widget->grab().toImage(), Qt::red));
 }
 
-TEST_F(WidgetTest, ABurstOfTextCostsOnePaint)
+// A burst of text costs one later paint; unbuffered updates paint each text at once.
+TEST_F(WidgetTest, BufferedUpdatesDecideWhenTextIsPainted)
 {
-    auto widget = Make();
-    widget->show();
-    ASSERT_TRUE(QTest::qWaitForWindowExposed(widget.get()));
-    QTest::qWait(50);
-    PaintCounter counter;
-    widget->installEventFilter(&counter);
-    for (int i = 0; i < 200; ++i)
-        widget->Window().AppendText("a burst of text\n");
-    EXPECT_EQ(counter.paints, 0);
-    QTest::qWait(100);
-    EXPECT_EQ(counter.paints, 1);
-}
-
-TEST_F(WidgetTest, UnbufferedUpdatesPaintAtOnce)
-{
-    settings.BufferedUpdates = 0;
-    auto widget = Make();
-    widget->show();
-    ASSERT_TRUE(QTest::qWaitForWindowExposed(widget.get()));
-    QTest::qWait(50);
-    PaintCounter counter;
-    widget->installEventFilter(&counter);
-    widget->Window().AppendText("one\n");
-    widget->Window().AppendText("two\n");
-    EXPECT_EQ(counter.paints, 2);
+    for (const std::uint8_t buffered : {1, 0}) {
+        settings.BufferedUpdates = buffered;
+        auto widget = Make();
+        widget->show();
+        ASSERT_TRUE(QTest::qWaitForWindowExposed(widget.get()));
+        QTest::qWait(50);
+        PaintCounter counter;
+        widget->installEventFilter(&counter);
+        for (int i = 0; i < 200; ++i)
+            widget->Window().AppendText("a burst of text\n");
+        EXPECT_EQ(counter.paints, buffered ? 0 : 200);
+        QTest::qWait(100);
+        EXPECT_EQ(counter.paints, buffered ? 1 : 200);
+    }
 }
 
 TEST_F(WidgetTest, AppearanceCommandsUseTheGivenDialogs)
@@ -231,6 +221,10 @@ TEST_F(WidgetTest, InATextAreaTheSubWindowCarriesPlacementAndTitle)
 
     raw->Window().SetLabel("Thoughts of Ana");
     EXPECT_TRUE(sub->windowTitle().isEmpty());
+
+    placement.rcNormalPosition = {30, 40, 430, 340};
+    raw->SetWindowPlacement(placement);
+    EXPECT_EQ(sub->geometry(), QRect(30, 40, 400, 300));
 }
 
 TEST_F(WidgetTest, OnlyTheActiveSubWindowCountsAsActive)
@@ -254,19 +248,6 @@ TEST_F(WidgetTest, OnlyTheActiveSubWindowCountsAsActive)
     area.setActiveSubWindow(subTwo);
     EXPECT_FALSE(one->IsActiveChild());
     EXPECT_TRUE(two->IsActiveChild());
-}
-
-TEST_F(WidgetTest, AStoredPlacementMovesTheSubWindow)
-{
-    QMdiArea area;
-    area.resize(800, 600);
-    auto widget = Make();
-    AnsiWindowWidget* raw = widget.get();
-    QMdiSubWindow* sub = area.addSubWindow(widget.release());
-    WindowPlacementRecord placement;
-    placement.rcNormalPosition = {30, 40, 430, 340};
-    raw->SetWindowPlacement(placement);
-    EXPECT_EQ(sub->geometry(), QRect(30, 40, 400, 300));
 }
 
 TEST(FontRecord, ARecordSurvivesTheWayThroughAQtFont)
