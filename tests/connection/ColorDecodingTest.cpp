@@ -93,7 +93,6 @@ const Case CASES[] = {
      0x1A,
      "\x91\x8A"
      "a\xA1\xA0\rb\xA1\xA0\n"},
-    {"CR with nothing open", "a\r\n", 10, "a\r\n"},
     {"colour left open at the line end",
      "\x1B"
      "1xyhi\n",

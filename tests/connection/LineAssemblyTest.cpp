@@ -117,15 +117,6 @@ TEST_F(LineAssemblyTest, HoldCanBeSwitchedOnBetweenBlocks)
               (Lines{"Obvious exits: north\r\n", ">", "You go north.\r\n"}));
 }
 
-TEST_F(LineAssemblyTest, ResetDropsAHeldPartialLine)
-{
-    Feed({"half a li"}, true);
-    EXPECT_EQ(decoder.LineLength(), 9);
-    decoder.ResetLineAssembly();
-    EXPECT_EQ(decoder.LineLength(), 0);
-    EXPECT_EQ(Feed({"new line\n"}, true), (Lines{"new line\n"}));
-}
-
 TEST_F(LineAssemblyTest, OverlongReadIsTakenAsSeveralBlocks)
 {
     const std::string bytes(RECEIVE_BUFFER_SIZE + 10, 'a');
