@@ -106,14 +106,6 @@ TEST_F(KeyFilterQtTest, HonouredNumLockTypesDigitsAndOffPlaysMacros)
     EXPECT_EQ(sink.sent, (Strings{"n", "exp"}));
 }
 
-TEST_F(KeyFilterQtTest, KeypadEnterOnAnEmptyLineRepeatsAndSendsAnEmptyCommand)
-{
-    history.RememberCommand("kill rat", 4);
-    Click(Qt::Key_Enter, Qt::KeypadModifier);
-    ServeQueue();
-    EXPECT_EQ(sink.sent, (Strings{"kill rat", ""}));
-}
-
 TEST_F(KeyFilterQtTest, ArrowsBrowseTheHistory)
 {
     history.RememberCommand("look", 4);
@@ -171,13 +163,6 @@ TEST_F(KeyFilterQtTest, TheLineHoldsAt255Characters)
     line->TypeCharacter('b');
     EXPECT_EQ(line->text().left(2).toStdString(), "ba");
     EXPECT_EQ(line->text().size(), 255);
-}
-
-TEST_F(KeyFilterQtTest, AltDigitChangesTheMacroSet)
-{
-    Click(Qt::Key_4, Qt::AltModifier);
-    EXPECT_EQ(macros.CurrentMacroSet(), 3);
-    EXPECT_EQ(host.title, "Thornmere [Ayla]: Current Macro Set: 4 - ");
 }
 
 TEST(CommandLineEdit, ActsAsAnEditControl)
