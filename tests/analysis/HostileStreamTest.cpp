@@ -1,0 +1,95 @@
+#include "PipelineFixture.h"
+
+#include "connection/PacketDump.h"
+#include "connection/StreamDecoder.h"
+
+#include <random>
+
+namespace steward::testing {
+namespace {
+
+// Pieces that steer random bytes into every branch of decoding and analysis: colour tokens
+// and their halves, record starts, star lines, thoughts, exit lists and line ends.
+const char* const PIECES[] = {"\x1B",
+                              "\x1B"
+                              "1",
+                              "\x1B"
+                              "0",
+                              "\x1B\x1B>",
+                              "\r\n",
+                              "\r",
+                              "\n",
+                              "\x07",
+                              "\t",
+                              " ** ",
+                              "Obvious exits: north, up*.",
+                              " just arrived in the world.",
+                              " has left the world.",
+                              " thinks to you, \"",
+                              "You pick up ",
+                              "'s thoughts, \"",
+                              " says, \"",
+                              " whispers, \"",
+                              " ** Current hit points: ",
+                              " of ",
+                              "[3 sec. delay]",
+                              "...wait ",
+                              " seconds.",
+                              "\"",
+                              "Mara",
+                              "salmon",
+                              "0064",
+                              "FFFF",
+                              "8000"};
+
+std::string HostileBlock(std::mt19937& random)
+{
+    std::string block;
+    const std::size_t size = 1 + random() % 2048;
+    while (block.size() < size) {
+        if (random() % 3 == 0)
+            block += PIECES[random() % std::size(PIECES)];
+        else
+            block.push_back(static_cast<char>(random() % 256));
+    }
+    return block;
+}
+
+bool HoldsColorCode(const std::string& text)
+{
+    for (unsigned char c : text)
+        if (IsColorCode(c))
+            return true;
+    return false;
+}
+
+// Whatever the server sends, the receive path stores and logs it within its buffers (the
+// sanitizer build watches every write), the plain copy holds no colour code, and only the
+// listed sound is ever asked for.
+TEST_F(PipelineTest, AHostileStreamNeverBreaksTheReceivePath)
+{
+    highlights.StringHighlights.Add("{Chime}salmon", 12);
+    highlights.StringHighlights.Add("$*Obvious", 0x1E);
+    highlights.NameHighlights.Add("Mara", 14);
+    windows.ThoughtWindow = Thought();
+    windows.ArrivalWindow = Arrival();
+    PacketDump dump;
+    StreamDecoder decoder(pipeline, dump, options);
+    std::mt19937 random(4097);
+    for (int round = 0; round < 400; ++round) {
+        options.CompressThoughtMessages = round % 2;
+        options.OnlyListedArrivals = round % 3 == 0;
+        options.ShowStatusPrompt = round % 5 == 0;
+        decoder.SetHoldPartialLines(round % 4 != 0);
+        const std::string block = HostileBlock(random);
+        decoder.HandleSocketEvent(block.data(), block.size());
+        ASSERT_FALSE(HoldsColorCode(pipeline.Plain())) << "round " << round;
+    }
+    EXPECT_FALSE(sounds.played.empty());
+    for (const std::string& played : sounds.played)
+        EXPECT_EQ(played, "Chime");
+    EXPECT_FALSE(In(Game()).empty());
+}
+
+} // namespace
+} // namespace steward::testing
