@@ -1,20 +1,15 @@
 #include "commands/MacroSlots.h"
 #include "commands/MacroStore.h"
+#include "config/FileHandle.h"
 
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
 #include <initializer_list>
-#include <memory>
 
 namespace steward {
 
 namespace {
-
-struct FileCloser {
-    void operator()(std::FILE* file) const { std::fclose(file); }
-};
-using File = std::unique_ptr<std::FILE, FileCloser>;
 
 // Where one line of the file puts its text, found by the column tests.
 struct LineTarget {

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "config/FileHandle.h"
+
 #include <cstddef>
 #include <cstdio>
 #include <memory>
@@ -38,13 +40,9 @@ class BufferedLog {
     std::size_t Count() const { return count_; }
 
   private:
-    struct FileCloser {
-        void operator()(std::FILE* file) const { std::fclose(file); }
-    };
-
     bool Open(const char* path, const char* mode);
 
-    std::unique_ptr<std::FILE, FileCloser> file_;
+    File file_;
     std::unique_ptr<char[]> buffer_;
     std::size_t count_ = 0;
 };

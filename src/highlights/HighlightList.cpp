@@ -1,10 +1,10 @@
 #include "highlights/HighlightList.h"
+#include "config/FileHandle.h"
 
 #include <atomic>
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
-#include <memory>
 
 namespace steward {
 namespace {
@@ -17,11 +17,6 @@ std::uint64_t NextVersion()
     static std::atomic<std::uint64_t> counter{0};
     return ++counter;
 }
-
-struct FileCloser {
-    void operator()(std::FILE* file) const { std::fclose(file); }
-};
-using File = std::unique_ptr<std::FILE, FileCloser>;
 
 } // namespace
 
