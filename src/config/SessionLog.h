@@ -21,7 +21,7 @@ constexpr const char LOG_CREATE_ERROR_TITLE[] = "File Error";
 constexpr const char LOG_DISK_ERROR_TEXT[] =
     "\r\n\r\n*** Error writing to disk..disk full?\r\n\r\n";
 
-// Frame command 998, "Open Log File...": asks for a file in programFolder and opens it anew,
+// "Open Log File...": asks for a file in programFolder and opens it anew,
 // replacing the log that was open. False on cancel or failure; a failure is shown.
 bool OpenWithDialog(BufferedLog& log, const char* programFolder, LogHost& host);
 

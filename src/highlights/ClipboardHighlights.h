@@ -19,7 +19,7 @@ class ClipboardReader {
 constexpr std::size_t CLIPBOARD_LINE_MAX = 250;
 
 // Adds every line of the clipboard's text that is not empty to the list, with colour 14 and no
-// markers of its own (frame commands 1104 and 1105).
+// markers of its own, for the two Copy Special commands.
 void AddFromClipboard(HighlightList& list, ClipboardReader& clipboard);
 
 } // namespace steward

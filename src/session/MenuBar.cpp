@@ -1,5 +1,7 @@
 #include "session/MenuBar.h"
 
+#include "session/FrameCommand.h"
+
 #include <array>
 
 namespace steward {
@@ -18,49 +20,49 @@ constexpr MenuItem Sub(const char* text)
 constexpr MenuItem END_SUB = {MenuItemKind::EndSubmenu, 0, nullptr};
 
 constexpr std::array FILE_MENU = {
-    Item(998, "Open Log File..."),
-    Item(999, "Close Log File"),
+    Item(CMD_OPEN_LOG, "Open Log File..."),
+    Item(CMD_CLOSE_LOG, "Close Log File"),
     SEPARATOR,
-    Item(874, "Auto-Log Each Session"),
+    Item(CMD_AUTO_LOG, "Auto-Log Each Session"),
     SEPARATOR,
-    Item(601, "Run Notepad..."),
+    Item(CMD_RUN_NOTEPAD, "Run Notepad..."),
     SEPARATOR,
-    Item(40003, "Connect to the Game"),
-    Item(844, "Reset Steward Mode"),
+    Item(CMD_CONNECT, "Connect to the Game"),
+    Item(CMD_RESET_STEWARD_MODE, "Reset Steward Mode"),
     SEPARATOR,
-    Item(110, "Exit"),
+    Item(CMD_EXIT, "Exit"),
 };
 
 constexpr std::array EDIT_MENU = {
-    Item(1100, "Cut\tShift-Delete"),
-    Item(1101, "Copy\tCtrl-Insert"),
-    Item(1102, "Clear\tCtrl-Delete"),
-    Item(1103, "Paste\tShift-Insert"),
+    Item(CMD_CUT, "Cut\tShift-Delete"),
+    Item(CMD_COPY, "Copy\tCtrl-Insert"),
+    Item(CMD_CLEAR, "Clear\tCtrl-Delete"),
+    Item(CMD_PASTE, "Paste\tShift-Insert"),
     SEPARATOR,
     Sub("Copy Special"),
-    Item(1104, "to String Highlights"),
-    Item(1105, "to Name Highlights"),
+    Item(CMD_COPY_TO_STRING_HIGHLIGHTS, "to String Highlights"),
+    Item(CMD_COPY_TO_NAME_HIGHLIGHTS, "to Name Highlights"),
     SEPARATOR,
-    Item(1106, "to Command Line"),
+    Item(CMD_COPY_TO_COMMAND_LINE, "to Command Line"),
     END_SUB,
 };
 
 constexpr std::array CONFIGURATION_MENU = {
-    Item(619, "&Options..."),
-    Item(620, "&Macro Keys..."),
-    Item(605, "&Highlight Strings..."),
+    Item(CMD_OPTIONS, "&Options..."),
+    Item(CMD_MACRO_KEYS, "&Macro Keys..."),
+    Item(CMD_HIGHLIGHT_STRINGS, "&Highlight Strings..."),
     SEPARATOR,
-    Item(40044, "Graphics at Top of Screen"),
-    Item(40043, "Graphics at Bottom of Screen"),
-    Item(40045, "Full-Screen Mode"),
+    Item(CMD_GRAPHICS_AT_TOP, "Graphics at Top of Screen"),
+    Item(CMD_GRAPHICS_AT_BOTTOM, "Graphics at Bottom of Screen"),
+    Item(CMD_FULL_SCREEN, "Full-Screen Mode"),
     SEPARATOR,
     Sub("Characters"),
-    Item(897, "Create a new Character Profile..."),
+    Item(CMD_NEW_CHARACTER, "Create a new Character Profile..."),
     END_SUB,
 };
 
 constexpr std::array INFO_MENU = {
-    Item(40006, "&General"),
+    Item(CMD_INFO_GENERAL, "&General"),
     Item(40007, "&Crimes"),
     Item(40008, "&Inventory"),
     Item(40009, "&Languages"),
@@ -72,59 +74,59 @@ constexpr std::array INFO_MENU = {
     Item(40015, "R&unespells"),
     Item(40016, "&Skills"),
     Item(40017, "S&pells"),
-    Item(40018, "&Visualizations"),
+    Item(CMD_INFO_VISUALIZATIONS, "&Visualizations"),
     SEPARATOR,
     Sub("Room Descrip&tions"),
-    Item(40019, "&Full"),
+    Item(CMD_ROOM_FULL, "&Full"),
     Item(40020, "&Brief"),
-    Item(40021, "&SuperBrief"),
+    Item(CMD_ROOM_SUPERBRIEF, "&SuperBrief"),
     END_SUB,
     Sub("Ot&her"),
-    Item(40022, "&Time"),
+    Item(CMD_OTHER_TIME, "&Time"),
     Item(40023, "&Weather"),
-    Item(40024, "W&orld"),
+    Item(CMD_OTHER_WORLD, "W&orld"),
     END_SUB,
 };
 
 constexpr std::array DRAGGING_MENU = {
-    Item(40025, "&Drag Someone..."),
+    Item(CMD_DRAG_SOMEONE, "&Drag Someone..."),
     SEPARATOR,
-    Item(40026, "&Stop Dragging"),
+    Item(CMD_STOP_DRAGGING, "&Stop Dragging"),
 };
 
 constexpr std::array SCRIPTS_MENU = {
-    Item(951, "E&xecute a Script..."),
-    Item(942, "&Stop Script"),
+    Item(CMD_EXECUTE_SCRIPT, "E&xecute a Script..."),
+    Item(CMD_STOP_SCRIPT, "&Stop Script"),
     SEPARATOR,
-    Item(952, "&Record a Script..."),
-    Item(954, "S&top Recording"),
+    Item(CMD_RECORD_SCRIPT, "&Record a Script..."),
+    Item(CMD_STOP_RECORDING, "S&top Recording"),
     SEPARATOR,
-    Item(953, "&Edit a Script..."),
-    Item(947, "&Create a New Script..."),
+    Item(CMD_EDIT_SCRIPT, "&Edit a Script..."),
+    Item(CMD_CREATE_SCRIPT, "&Create a New Script..."),
 };
 
 constexpr std::array WINDOW_MENU = {
-    Item(781, "Open a Game Window"),
-    Item(782, "Open a Thoughts Window"),
-    Item(843, "Open an Arrival Window"),
+    Item(CMD_OPEN_GAME_WINDOW, "Open a Game Window"),
+    Item(CMD_OPEN_THOUGHT_WINDOW, "Open a Thoughts Window"),
+    Item(CMD_OPEN_ARRIVAL_WINDOW, "Open an Arrival Window"),
     SEPARATOR,
-    Item(787, "Arrange"),
-    Item(784, "Tile Horizontally"),
-    Item(785, "Tile Vertically"),
-    Item(786, "Cascade"),
+    Item(CMD_ARRANGE, "Arrange"),
+    Item(CMD_TILE_HORIZONTALLY, "Tile Horizontally"),
+    Item(CMD_TILE_VERTICALLY, "Tile Vertically"),
+    Item(CMD_CASCADE, "Cascade"),
     SEPARATOR,
-    Item(768, "Auto-arrange Windows"),
+    Item(CMD_AUTO_ARRANGE, "Auto-arrange Windows"),
     MenuItem{MenuItemKind::WindowList, 0, nullptr},
 };
 
 constexpr std::array INTERNET_MENU = {
-    Item(40001, "Thornmere Home Page"),
+    Item(CMD_HOME_PAGE, "Thornmere Home Page"),
     SEPARATOR,
-    Item(40002, "Thornmere Message Board"),
+    Item(CMD_MESSAGE_BOARD, "Thornmere Message Board"),
 };
 
 constexpr std::array HELP_MENU = {
-    Item(618, "About..."),
+    Item(CMD_ABOUT, "About..."),
 };
 
 constexpr std::array<Menu, 9> MENUS = {{
