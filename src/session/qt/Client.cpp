@@ -22,7 +22,7 @@
 #include <QThread>
 #include <QTime>
 
-#include <cstring>
+#include <cstdio>
 
 namespace steward {
 

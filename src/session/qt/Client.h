@@ -90,7 +90,6 @@ class Client : public QObject,
     // The connection string of the command line, or the dialog's choice; false on Cancel.
     bool ChooseConnection(char (&connection)[CONNECTION_STRING_SIZE], std::string& host, int& port);
     bool ChooseAndConnect();
-    void AfterConnect(int result);
 
     // The frame's messages.
     bool OnClose();
@@ -118,7 +117,7 @@ class Client : public QObject,
     void OpenLogWithDialog();
     void RunVersionNotes();
     void CopyCommand();
-    // Copy Special: the clipboard's lines go to the list of 1104 or 1105.
+    // Copy Special: the clipboard's lines go to the string or the name highlights.
     void CopyToHighlights(int command);
     // DRAG_DIALOG: OK takes the field as DragTarget, "Stop Dragging" empties it.
     void AskDragTarget();

@@ -2,7 +2,6 @@
 
 #include "commands/Keyboard.h"
 #include "commands/qt/CommandLine.h"
-#include "config/IniStore.h"
 #include "config/SessionLog.h"
 #include "session/CommandTable.h"
 #include "session/FrameCommand.h"
@@ -213,10 +212,7 @@ void Client::ArrangeCommand()
 
 void Client::OnWheel(bool shift, int amount)
 {
-    const int row = frame_->Mdi().ActiveRow();
-    if (row < 0)
-        return;
-    if (AnsiWindow* window = Handle(static_cast<WindowRow>(row)))
+    if (AnsiWindow* window = ActiveChild())
         window->VScroll(WheelScrollCommand(shift, amount), 0);
 }
 

@@ -2,7 +2,6 @@
 
 #include "commands/qt/CommandLine.h"
 #include "highlights/qt/QtClipboardReader.h"
-#include "session/FrameCommand.h"
 #include "session/qt/FrameWindow.h"
 #include "session/qt/MdiClient.h"
 #include "terminal/AnsiWindow.h"

@@ -10,6 +10,8 @@
 #include <QEventLoop>
 #include <QTimer>
 
+#include <algorithm>
+
 namespace steward {
 
 namespace {
@@ -109,10 +111,8 @@ bool Client::AskString(const char* title, char* answer, std::size_t capacity)
 
 void Client::PumpFor(int seconds)
 {
-    if (seconds >= LONGEST_PUMP_SECONDS + 1)
-        seconds = LONGEST_PUMP_SECONDS;
     QEventLoop loop;
-    QTimer::singleShot(seconds * 1000, &loop, &QEventLoop::quit);
+    QTimer::singleShot(std::min(seconds, LONGEST_PUMP_SECONDS) * 1000, &loop, &QEventLoop::quit);
     loop.exec();
 }
 

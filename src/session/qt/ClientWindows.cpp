@@ -72,8 +72,9 @@ void Client::SaveChildWindows(const std::string& profilePath)
     MdiClient& mdi = frame_->Mdi();
     std::array<bool, WINDOW_ROWS> open{};
     for (const WindowTableRow& row : WindowTable) {
-        open[row.Row] = Handle(row.Row) != nullptr;
-        if (AnsiWindow* window = Handle(row.Row))
+        AnsiWindow* window = Handle(row.Row);
+        open[row.Row] = window != nullptr;
+        if (window)
             window->SaveState();
     }
     WriteOpenWindows(profilePath, OpenWindowsLetters(open, mdi.ActiveRow()));
