@@ -4,6 +4,7 @@
 #include "config/BufferedLog.h"
 #include "config/Settings.h"
 #include "connection/ColorCode.h"
+#include "connection/EscapeByte.h"
 #include "scripts/ScriptWait.h"
 #include "session/ChildWindows.h"
 #include "session/FrameCommand.h"
@@ -17,7 +18,6 @@ namespace steward {
 namespace {
 
 constexpr char BEL = 0x07;
-constexpr char ESC = 0x1B;
 
 bool IsHiddenByte(char c)
 {

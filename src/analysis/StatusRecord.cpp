@@ -2,6 +2,7 @@
 
 #include "config/BufferedLog.h"
 #include "config/Settings.h"
+#include "connection/EscapeByte.h"
 #include "panels/StatusPanel.h"
 #include "scripts/ScriptWait.h"
 #include "session/ChildWindows.h"
@@ -12,8 +13,6 @@
 namespace steward {
 
 namespace {
-
-constexpr char ESC = 0x1B;
 
 // Offsets of the fields of a status record.
 enum RecordOffset : int {

@@ -7,6 +7,7 @@
 #include "commands/KeyboardHost.h"
 #include "commands/ScriptNames.h"
 #include "config/Settings.h"
+#include "connection/EscapeByte.h"
 #include "scripts/Rewrites.h"
 #include "session/FrameCommand.h"
 #include "session/FrameQueue.h"
@@ -17,7 +18,6 @@ namespace steward {
 
 namespace {
 
-constexpr char ESC = 27;
 // A sent copy has room for a whole macro line behind "drag", the target and two blanks.
 constexpr std::size_t SEND_COPY_SIZE = MACRO_LINE_SIZE + DRAG_TARGET_SIZE + 8;
 

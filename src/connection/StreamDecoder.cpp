@@ -1,6 +1,7 @@
 #include "connection/StreamDecoder.h"
 
 #include "connection/ColorCode.h"
+#include "connection/EscapeByte.h"
 #include "connection/GameLineSink.h"
 
 #include <algorithm>
@@ -12,7 +13,6 @@ namespace {
 
 constexpr unsigned char LF = 0x0A;
 constexpr unsigned char CR = 0x0D;
-constexpr unsigned char ESC = 0x1B;
 constexpr unsigned char TOKEN_COLOR_OFF = '0';
 constexpr unsigned char TOKEN_COLOR_ON = '1';
 // A token is ESC, its selector and two bytes that are skipped unread.
