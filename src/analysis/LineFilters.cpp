@@ -96,8 +96,10 @@ void LinePipeline::FilterLine(char* text, std::size_t capacity)
     WordReader words(text);
     if (!words.Next(word, sizeof word))
         return;
-    if (EqualNoCase(word, "Obvious") && std::strchr(text, ':'))
-        ParseExits(std::strchr(text, ':') + 1);
+    if (EqualNoCase(word, "Obvious")) {
+        if (const char* colon = std::strchr(text, ':'))
+            ParseExits(colon + 1);
+    }
     highlights_.ApplyHighlights(text, capacity, options_.SquelchSounds, sounds_);
 }
 
