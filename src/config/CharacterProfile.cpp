@@ -14,6 +14,9 @@ namespace {
 constexpr char CONFIG_SECTION[] = "Config";
 constexpr char COLORS_SECTION[] = "Colors";
 constexpr char WINDOWS_SECTION[] = "Windows";
+constexpr char HISTORY_SECTION[] = "History";
+constexpr char SETTINGS_KEY[] = "Settings";
+constexpr char LAST_CHAR_KEY[] = "LastChar";
 constexpr char NO_WINDOWS[] = "{none}";
 constexpr char DEFAULT_WINDOWS[] = "tG";
 
@@ -39,7 +42,7 @@ void SetCurrentCharacter(CharacterProfile& profile, const ConfigFiles& files, co
         std::memmove(current, given.data(), length);
         current[length] = '\0';
     } else {
-        ReadString(files.MainIni, "History", "LastChar", current, CHARACTER_NAME_SIZE,
+        ReadString(files.MainIni, HISTORY_SECTION, LAST_CHAR_KEY, current, CHARACTER_NAME_SIZE,
                    DEFAULT_CHARACTER);
     }
     if (current[0] == '\0')
@@ -47,18 +50,23 @@ void SetCurrentCharacter(CharacterProfile& profile, const ConfigFiles& files, co
     profile.ProfilePath = ProfileFilePath(files, current, PROFILE_EXTENSION);
 }
 
+void WriteSettings(const std::string& path, const Settings& settings)
+{
+    const SettingsBytes bytes = settings.ToBytes();
+    WriteBinary(path, CONFIG_SECTION, SETTINGS_KEY, bytes.data(), bytes.size());
+}
+
 // Reads Settings; a missing value or one of the wrong length starts the file afresh.
 bool ReadSettings(CharacterProfile& profile)
 {
     SettingsBytes bytes{};
-    if (ReadBinary(profile.ProfilePath, CONFIG_SECTION, "Settings", bytes.data(), bytes.size())) {
+    if (ReadBinary(profile.ProfilePath, CONFIG_SECTION, SETTINGS_KEY, bytes.data(), bytes.size())) {
         profile.Settings = Settings::FromBytes(bytes);
         return false;
     }
     DeleteIniFile(profile.ProfilePath);
     profile.Settings = Settings{};
-    bytes = profile.Settings.ToBytes();
-    WriteBinary(profile.ProfilePath, CONFIG_SECTION, "Settings", bytes.data(), bytes.size());
+    WriteSettings(profile.ProfilePath, profile.Settings);
     return true;
 }
 
@@ -125,8 +133,7 @@ void SaveProfile(const ConfigFiles& files, const CharacterProfile& profile, Prof
         name = profile.CurrentCharacter;
     const std::string path = ProfileFilePath(files, name, PROFILE_EXTENSION);
     parts.Trace("Saving data to \"" + path + "\"\n");
-    const SettingsBytes bytes = profile.Settings.ToBytes();
-    WriteBinary(path, CONFIG_SECTION, "Settings", bytes.data(), bytes.size());
+    WriteSettings(path, profile.Settings);
     WriteEquipment(path, profile);
     WriteGaugeColors(path, parts);
     parts.SaveChildWindows(path);
@@ -137,7 +144,7 @@ void SaveProfile(const ConfigFiles& files, const CharacterProfile& profile, Prof
 
 void WriteLastChar(const ConfigFiles& files, const CharacterProfile& profile)
 {
-    WriteString(files.MainIni, "History", "LastChar", profile.CurrentCharacter);
+    WriteString(files.MainIni, HISTORY_SECTION, LAST_CHAR_KEY, profile.CurrentCharacter);
 }
 
 std::string ReadOpenWindows(const std::string& profilePath)
