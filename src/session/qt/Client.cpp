@@ -33,6 +33,8 @@ constexpr std::int32_t NOTES_VERSION = 0x68;
 constexpr char OFFLINE_TEXT[] = "\r\n\r\n*** Operating in an Offline mode.\r\n\r\n";
 // The stored host holds up to 255 characters.
 constexpr std::size_t HOST_VALUE_SIZE = 256;
+constexpr char CONNECTION_SECTION[] = "Connection";
+constexpr char VERSION_SECTION[] = "Version Info";
 
 } // namespace
 
@@ -127,9 +129,9 @@ void Client::PlaceFrame()
 void Client::ShowVersionNotesOnce()
 {
     const std::string& ini = session_.Files.MainIni;
-    if (ReadInt(ini, "Version Info", "Version", 0) >= NOTES_VERSION)
+    if (ReadInt(ini, VERSION_SECTION, "Version", 0) >= NOTES_VERSION)
         return;
-    WriteInt(ini, "Version Info", "Version", NOTES_VERSION);
+    WriteInt(ini, VERSION_SECTION, "Version", NOTES_VERSION);
     PostCommand(CMD_VERSION_NOTES);
 }
 
@@ -142,9 +144,9 @@ bool Client::ChooseConnection(char (&connection)[CONNECTION_STRING_SIZE], std::s
     }
     const std::string& ini = session_.Files.MainIni;
     char stored[HOST_VALUE_SIZE];
-    ReadString(ini, "Connection", "Host", stored, sizeof stored, DEFAULT_HOST);
+    ReadString(ini, CONNECTION_SECTION, "Host", stored, sizeof stored, DEFAULT_HOST);
     host = stored;
-    port = ReadInt(ini, "Connection", "Port", DEFAULT_PORT);
+    port = ReadInt(ini, CONNECTION_SECTION, "Port", DEFAULT_PORT);
     switch (desktop_.AskConnection(frame_.get(), host, port)) {
     case ConnectChoice::Cancel:
         return false;
@@ -156,8 +158,8 @@ bool Client::ChooseConnection(char (&connection)[CONNECTION_STRING_SIZE], std::s
         break;
     }
     FormatConnectionString(connection, host.c_str(), port);
-    WriteString(ini, "Connection", "Host", host.c_str());
-    WriteInt(ini, "Connection", "Port", port);
+    WriteString(ini, CONNECTION_SECTION, "Host", host.c_str());
+    WriteInt(ini, CONNECTION_SECTION, "Port", port);
     return true;
 }
 
