@@ -1,7 +1,5 @@
 #include "analysis/ByteText.h"
 
-#include "connection/ColorCode.h"
-
 #include <cstring>
 
 namespace steward {
@@ -77,16 +75,6 @@ void JoinCut(char* out, std::size_t capacity, std::initializer_list<const char*>
     out[0] = '\0';
     for (const char* piece : pieces)
         AppendCut(out, capacity, piece);
-}
-
-void ColorOnText(char out[16], unsigned char color)
-{
-    *AppendColorOn(out, color) = '\0';
-}
-
-void ColorOffText(char out[16], unsigned char color)
-{
-    *AppendColorOff(out, color) = '\0';
 }
 
 bool WordReader::Next(char* out, std::size_t size)

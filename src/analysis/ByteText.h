@@ -19,9 +19,6 @@ void InsertCut(char* text, std::size_t capacity, std::size_t offset, const char*
 void AppendCut(char* text, std::size_t capacity, const char* piece);
 // Joins the pieces into out, cut at the buffer's end.
 void JoinCut(char* out, std::size_t capacity, std::initializer_list<const char*> pieces);
-// Writes the colour on (or off) sequence of a colour byte as a string.
-void ColorOnText(char out[16], unsigned char color);
-void ColorOffText(char out[16], unsigned char color);
 
 // Words split at blanks, tabs, CR and LF, read from a text that is not changed.
 class WordReader {

@@ -3,6 +3,7 @@
 
 #include "config/Settings.h"
 #include "highlights/HighlightLists.h"
+#include "highlights/HighlightText.h"
 #include "panels/StatusPanel.h"
 #include "scripts/ScriptWait.h"
 #include "session/ChildWindows.h"
@@ -58,12 +59,8 @@ bool ReadDelay(const char* from, std::int32_t& seconds)
 
 void ColorAround(char* text, std::size_t capacity, unsigned char color, std::size_t offAt)
 {
-    char on[16];
-    char off[16];
-    ColorOnText(on, color);
-    ColorOffText(off, color);
-    InsertCut(text, capacity, offAt, off);
-    InsertCut(text, capacity, 0, on);
+    InsertCut(text, capacity, offAt, ColorOffText(color));
+    InsertCut(text, capacity, 0, ColorOnText(color));
 }
 
 } // namespace
@@ -181,10 +178,8 @@ bool LinePipeline::CompressThought(const char* line)
     }
     if (options_.CompressThoughtMessages) {
         char colored[PRINT_BUFFER_SIZE];
-        char off[16];
-        ColorOnText(colored, options_.CompressedThoughtColor);
-        AppendCut(colored, sizeof colored, compact);
-        ColorOffText(off, options_.CompressedThoughtColor);
+        JoinCut(colored, sizeof colored, {ColorOnText(options_.CompressedThoughtColor), compact});
+        const char* off = ColorOffText(options_.CompressedThoughtColor);
         // The colour must always close, so the end of a long thought gives way to it.
         const std::size_t room = sizeof colored - 1 - std::strlen(off);
         if (std::strlen(colored) > room)
