@@ -2,9 +2,6 @@
 
 #include "commands/Keyboard.h"
 #include "commands/qt/KeyFilterQt.h"
-#include "session/qt/FrameWindow.h"
-#include "session/qt/MdiClient.h"
-#include "terminal/AnsiWindow.h"
 
 namespace steward {
 
@@ -62,7 +59,7 @@ void Client::UpdateTitle()
 {
     char title[FRAME_TITLE_SIZE];
     MacroSetTitle(title, sizeof title, session_.Profile.CurrentCharacter, keyboard_->Macros);
-    frame_->setWindowTitle(QString::fromLatin1(title));
+    SetFrameTitle(title);
 }
 
 } // namespace steward
