@@ -45,14 +45,14 @@ int Connection::ConnectToGame(const char* connectionString)
 
 void Connection::SendLine(const char* text)
 {
+    if (!connected_)
+        return;
     char buffer[SEND_BUFFER_SIZE];
     std::size_t n = 0;
     for (; n < SEND_TEXT_LIMIT && text[n]; ++n)
         buffer[n] = text[n];
     buffer[n++] = '\n';
     buffer[n++] = '\r';
-    if (!connected_)
-        return;
     socket_.Write(buffer, n);
 }
 
