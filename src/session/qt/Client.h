@@ -111,7 +111,6 @@ class Client : public QObject,
     void EnterRestMode(bool silent);
     void SetDisplayMode(std::uint8_t mode);
     void OpenWindowCommand(WindowRow row);
-    void ArrangeCommand();
     void ToggleAutoArrange();
     void TileCommand(void (MdiClient::*tile)());
     void OpenLogWithDialog();

@@ -43,7 +43,7 @@ const Client::CommandEntry Client::COMMANDS[] = {
     {CMD_TILE_HORIZONTALLY, [](Client& c) { c.TileCommand(&MdiClient::TileHorizontally); }},
     {CMD_TILE_VERTICALLY, [](Client& c) { c.TileCommand(&MdiClient::TileVertically); }},
     {CMD_CASCADE, [](Client& c) { c.TileCommand(&MdiClient::cascadeSubWindows); }},
-    {CMD_ARRANGE, [](Client& c) { c.ArrangeCommand(); }},
+    {CMD_ARRANGE, [](Client& c) { c.ArrangeWindows(true); }},
     {MM_ENTER_KEY, [](Client& c) { c.keyboard_->Road.EnterKey(); }},
     {CMD_RESET_STEWARD_MODE, [](Client& c) { c.ResetStewardMode(); }},
     {CMD_AUTO_LOG, [](Client& c) { c.ToggleAutoLog(); }},
@@ -199,15 +199,6 @@ void Client::AskDragTarget()
     if (!desktop_.AskDragTarget(frame_.get(), target))
         target.clear();
     std::snprintf(dragTarget, sizeof dragTarget, "%s", target.c_str());
-}
-
-void Client::ArrangeCommand()
-{
-    MdiClient& mdi = frame_->Mdi();
-    for (const WindowTableRow& row : WindowTable)
-        if (mdi.IsMinimised(row.Row) || mdi.IsMaximised(row.Row))
-            mdi.Restore(row.Row);
-    ArrangeWindows(true);
 }
 
 void Client::OnWheel(bool shift, int amount)
