@@ -11,8 +11,6 @@
 #include "session/FrameQueue.h"
 #include "terminal/AnsiWindow.h"
 
-#include <cstring>
-
 namespace steward {
 
 namespace {

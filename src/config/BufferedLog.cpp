@@ -2,6 +2,7 @@
 
 #include "connection/ColorCode.h"
 
+#include <cstdio>
 #include <cstring>
 #include <new>
 

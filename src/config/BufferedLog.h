@@ -3,7 +3,6 @@
 #include "config/FileHandle.h"
 
 #include <cstddef>
-#include <cstdio>
 #include <memory>
 
 namespace steward {

@@ -1,7 +1,6 @@
 #include "panels/Gauge.h"
 
 #include <cstdio>
-#include <cstring>
 
 namespace steward {
 

@@ -1,5 +1,7 @@
 #include "panels/PanelStates.h"
 
+#include <cstdio>
+
 namespace steward {
 
 void FigureState::SetState(std::uint32_t state)

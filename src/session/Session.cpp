@@ -1,7 +1,6 @@
 #include "session/Session.h"
 
 #include <cstdio>
-#include <cstring>
 
 namespace steward {
 

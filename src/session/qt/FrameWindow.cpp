@@ -6,8 +6,6 @@
 #include <QCloseEvent>
 #include <QMenuBar>
 #include <QPainter>
-#include <QStyle>
-#include <QStyleOptionFrame>
 #include <QWheelEvent>
 
 namespace steward {
