@@ -1,5 +1,7 @@
 #include "analysis/ByteText.h"
 
+#include "highlights/HighlightText.h"
+
 #include <cstring>
 
 namespace steward {
@@ -14,19 +16,11 @@ bool Contains(const char* text, const char* phrase)
     return std::strstr(text, phrase) != nullptr;
 }
 
-namespace {
-
-char Upper(char c)
-{
-    return (c >= 'a' && c <= 'z') ? static_cast<char>(c - 'a' + 'A') : c;
-}
-
-} // namespace
-
 bool StartsWithNoCase(const char* text, const char* prefix)
 {
     for (; *prefix; ++text, ++prefix)
-        if (Upper(*text) != Upper(*prefix))
+        if (FoldCase(static_cast<unsigned char>(*text)) !=
+            FoldCase(static_cast<unsigned char>(*prefix)))
             return false;
     return true;
 }
