@@ -1,5 +1,7 @@
 #include "commands/qt/KeyMapQt.h"
 
+#include <cstddef>
+
 namespace steward {
 
 namespace {
@@ -30,18 +32,13 @@ constexpr KeyPair PLAIN_KEYS[] = {
     {Qt::Key_Control, VK_CONTROL},
 };
 
-int Find(const KeyPair* pairs, int count, int qtKey)
+template <std::size_t N> int Find(const KeyPair (&pairs)[N], int qtKey)
 {
-    for (int i = 0; i < count; ++i) {
-        if (pairs[i].Qt == qtKey)
-            return pairs[i].Virtual;
+    for (const KeyPair& pair : pairs) {
+        if (pair.Qt == qtKey)
+            return pair.Virtual;
     }
     return 0;
-}
-
-template <int N> int Find(const KeyPair (&pairs)[N], int qtKey)
-{
-    return Find(pairs, N, qtKey);
 }
 
 // A key of the numeric keypad, which Qt marks with KeypadModifier.
