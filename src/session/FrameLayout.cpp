@@ -1,5 +1,7 @@
 #include "session/FrameLayout.h"
 
+#include "config/Settings.h"
+
 namespace steward {
 
 std::array<Corner, TOOL_BUTTON_COUNT> PlaceToolButtons(int x, int y)
@@ -16,10 +18,10 @@ FrameLayout LayoutFrame(int w, int b, int h, std::uint8_t displayMode)
     layout.CommandLine = {6, b - h - 4, w - 120, h};
     layout.ToolButtons = PlaceToolButtons(w - 108, b - 26);
     switch (displayMode) {
-    case 1:
+    case DISPLAY_GRAPHICS_BOTTOM:
         layout.MdiClient = {7, 4, w - 14, b - h - 71};
         break;
-    case 2:
+    case DISPLAY_FULL_SCREEN:
         layout.MdiClient = {7, 4, w - 14, b - h - 13};
         layout.PanelTop = HIDDEN_PANEL_TOP;
         break;

@@ -16,8 +16,8 @@ constexpr int TOOL_BUTTON_STEP = 26;
 struct FrameLayout {
     Area CommandLine;
     Area MdiClient;
-    // The panel's vertical origin; in mode 1 it depends on the inner height of the MdiClient,
-    // see PanelTopBelow.
+    // The panel's vertical origin; with graphics at the bottom it depends on the inner height of
+    // the MdiClient, see PanelTopBelow.
     int PanelTop = 0;
     std::array<Corner, TOOL_BUTTON_COUNT> ToolButtons{};
 };
@@ -26,7 +26,8 @@ struct FrameLayout {
 std::array<Corner, TOOL_BUTTON_COUNT> PlaceToolButtons(int x, int y);
 
 // The frame's client width and height and the height of the CommandLine decide the layout.
-// In mode 1 PanelTop is left 0: the caller adds the MdiClient's inner height with PanelTopBelow.
+// With graphics at the bottom PanelTop is left 0: the caller adds the MdiClient's inner height with
+// PanelTopBelow.
 FrameLayout LayoutFrame(int width, int height, int commandLineHeight, std::uint8_t displayMode);
 
 // Mode 1 puts the panel below the MdiClient, whose inner height is known after it was moved.

@@ -1,5 +1,6 @@
 #include "session/MenuState.h"
 
+#include "config/Settings.h"
 #include "session/CommandTable.h"
 #include "session/FrameCommand.h"
 
@@ -11,9 +12,9 @@ void MenuState::Update(const MenuInputs& in)
     Set(CMD_AUTO_LOG, true, in.AutoLog);
     Set(CMD_OPEN_LOG, !in.LogOpen);
     Set(CMD_CLOSE_LOG, in.LogOpen);
-    Set(CMD_GRAPHICS_AT_TOP, true, in.DisplayMode == 0);
-    Set(CMD_GRAPHICS_AT_BOTTOM, true, in.DisplayMode == 1);
-    Set(CMD_FULL_SCREEN, true, in.DisplayMode == 2);
+    Set(CMD_GRAPHICS_AT_TOP, true, in.DisplayMode == DISPLAY_GRAPHICS_TOP);
+    Set(CMD_GRAPHICS_AT_BOTTOM, true, in.DisplayMode == DISPLAY_GRAPHICS_BOTTOM);
+    Set(CMD_FULL_SCREEN, true, in.DisplayMode == DISPLAY_FULL_SCREEN);
     Set(CMD_CONNECT, in.Disconnected);
     Set(CMD_RESET_STEWARD_MODE, !in.Disconnected);
     Set(CMD_CUT, in.CommandLineHasSelection);
