@@ -49,11 +49,11 @@ std::uint32_t PostureState(char posture)
 {
     switch (posture) {
     case '0':
-        return 1;
+        return FIGURE_STANDING;
     case '1':
-        return 2;
+        return FIGURE_SITTING;
     case '2':
-        return 4;
+        return FIGURE_LYING;
     default:
         return static_cast<std::uint32_t>(static_cast<unsigned char>(posture) - 0x30);
     }
