@@ -39,9 +39,7 @@ class PanelView {
 class FigureState {
   public:
     void SetView(PanelView* view) { view_ = view; }
-    // FM_SETSTATE.
     void SetState(std::uint32_t state);
-    // FM_GETSTATE.
     std::uint32_t GetState() const { return state_; }
     // The base picture for the current bits.
     FigureBitmap BaseBitmap() const;

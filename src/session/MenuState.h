@@ -27,7 +27,7 @@ struct MenuItemState {
 };
 
 // The state of every menu item that follows live state. Items that no rule names keep their
-// state; so does 942 while recording, which is why the state is kept between updates.
+// state; so does "Stop Script" while recording, which is why the state is kept between updates.
 class MenuState {
   public:
     // WM_INITMENU: sets each item from the live state.

@@ -72,9 +72,7 @@ class AnsiWindow : public FontTarget {
     const LogFontRecord& GetFont() const { return Font; }
     // WM_SIZE: relayout from the host's client area; a minimised window changes nothing.
     void Size(bool minimized);
-    // WM_PAINT.
     void Paint(DrawingLayer& layer, bool erase);
-    // WM_VSCROLL.
     void VScroll(int command, std::int32_t thumb);
     // WM_MDIACTIVATE: the selection shows only in the active window.
     void MdiActivate();
