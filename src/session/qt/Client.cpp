@@ -47,10 +47,8 @@ Client::Client(ClientOptions options, Desktop& desktop)
 {
     session_.Files = options_.Files;
     sounds_.SetSoundPath(SoundPath(session_.Files));
-    StatusPanel& panel = session_.Panel;
-    for (Gauge* gauge :
-         {&panel.Hp, &panel.Ftg, &panel.Weight, &panel.Psi, &panel.Web, &panel.RT, &panel.Pause})
-        gauge->SetTimer(&gaugeTimer_);
+    for (std::size_t i = 0; i < PROFILE_GAUGE_COUNT; ++i)
+        GaugeFor(session_.Panel, static_cast<ProfileGauge>(i)).SetTimer(&gaugeTimer_);
     FrameWindow::Handlers handlers;
     handlers.Command = [this](int command) { OnCommand(command); };
     handlers.ReadMenuInputs = [this] { return ReadMenuInputs(); };
