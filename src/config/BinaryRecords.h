@@ -41,7 +41,10 @@ static_assert(offsetof(LogFontRecord, lfFaceName) == 28);
 constexpr std::size_t WINDOWPLACEMENT_SIZE = 44;
 using WindowPlacementBytes = std::array<std::uint8_t, WINDOWPLACEMENT_SIZE>;
 
+// Show commands of a stored placement.
 constexpr std::uint32_t SW_SHOWNORMAL = 1;
+constexpr std::uint32_t SW_SHOWMINIMIZED = 2;
+constexpr std::uint32_t SW_SHOWMAXIMIZED = 3;
 
 struct PointRecord {
     std::int32_t x = 0;

@@ -6,10 +6,6 @@ class QWidget;
 
 namespace steward {
 
-// Show commands of a stored placement.
-constexpr std::uint32_t SW_SHOWMINIMIZED = 2;
-constexpr std::uint32_t SW_SHOWMAXIMIZED = 3;
-
 // A top-level window's placement as the profile stores it: its normal geometry, never the
 // maximised one, so that it does not drift from run to run.
 class FramePlacement : public PlacementTarget {

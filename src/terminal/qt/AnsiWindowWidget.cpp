@@ -13,12 +13,6 @@
 #include <QWheelEvent>
 
 namespace steward {
-namespace {
-
-constexpr std::uint32_t SW_SHOWMINIMIZED = 2;
-constexpr std::uint32_t SW_SHOWMAXIMIZED = 3;
-
-} // namespace
 
 std::unique_ptr<AnsiWindowWidget> AnsiWindowWidget::Create(const char* name, const Parts& parts)
 {
