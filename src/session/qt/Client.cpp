@@ -3,6 +3,7 @@
 #include "commands/Keyboard.h"
 #include "commands/qt/CommandLine.h"
 #include "commands/qt/KeyFilterQt.h"
+#include "config/FileHandle.h"
 #include "config/IniStore.h"
 #include "config/SessionLog.h"
 #include "session/FrameCommand.h"
@@ -294,11 +295,7 @@ void Client::Beep()
 
 bool Client::Exists(const char* path) const
 {
-    std::FILE* file = std::fopen(path, "rb");
-    if (!file)
-        return false;
-    std::fclose(file);
-    return true;
+    return File(std::fopen(path, "rb")) != nullptr;
 }
 
 } // namespace steward

@@ -2,6 +2,7 @@
 
 #include "commands/Keyboard.h"
 #include "commands/qt/CommandLine.h"
+#include "config/FileHandle.h"
 #include "config/SessionLog.h"
 #include "session/CommandTable.h"
 #include "session/FrameCommand.h"
@@ -97,10 +98,8 @@ void Client::RunNotes()
 {
     const std::string path = session_.Files.ProgramFolder + "/" + NOTES_FILE;
     if (!Exists(path.c_str())) {
-        if (std::FILE* file = std::fopen(path.c_str(), "wb")) {
-            std::fputs(NOTES_HEADER, file);
-            std::fclose(file);
-        }
+        if (File file{std::fopen(path.c_str(), "wb")})
+            std::fputs(NOTES_HEADER, file.get());
     }
     RunNotepad(path);
 }
