@@ -1,18 +1,11 @@
-#include "connection/StreamDecoder.h"
-
-#include "connection/RecordingSink.h"
-
-#include <gtest/gtest.h>
-
-#include <string>
-#include <vector>
+#include "connection/DecoderFixture.h"
 
 namespace steward {
 namespace {
 
-using Lines = std::vector<std::string>;
+using testing::Lines;
 
-class ColorDecodingTest : public ::testing::Test {
+class ColorDecodingTest : public testing::DecoderTest {
   protected:
     std::string Decode(const std::string& raw, unsigned char saysColor = 10)
     {
@@ -22,20 +15,6 @@ class ColorDecodingTest : public ::testing::Test {
         EXPECT_EQ(sink.lines.size(), 1u);
         return sink.lines.empty() ? std::string() : sink.lines.back();
     }
-
-    Lines Receive(const Lines& blocks, bool hold)
-    {
-        decoder.SetHoldPartialLines(hold);
-        sink.lines.clear();
-        for (const std::string& block : blocks)
-            decoder.HandleSocketEvent(block.data(), block.size());
-        return sink.lines;
-    }
-
-    testing::RecordingSink sink;
-    PacketDump dump;
-    Settings settings;
-    StreamDecoder decoder{sink, dump, settings};
 };
 
 struct Case {

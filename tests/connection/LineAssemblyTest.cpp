@@ -1,16 +1,9 @@
-#include "connection/StreamDecoder.h"
-
-#include "connection/RecordingSink.h"
-
-#include <gtest/gtest.h>
-
-#include <string>
-#include <vector>
+#include "connection/DecoderFixture.h"
 
 namespace steward {
 namespace {
 
-using Lines = std::vector<std::string>;
+using testing::Lines;
 
 struct Case {
     const char* name;
@@ -33,21 +26,7 @@ Lines Cut(const std::string& stream)
     return blocks;
 }
 
-class LineAssemblyTest : public ::testing::Test {
-  protected:
-    Lines Feed(const Lines& blocks, bool hold)
-    {
-        decoder.SetHoldPartialLines(hold);
-        for (const std::string& block : blocks)
-            decoder.HandleSocketEvent(block.data(), block.size());
-        return sink.lines;
-    }
-
-    testing::RecordingSink sink;
-    PacketDump dump;
-    Settings settings;
-    StreamDecoder decoder{sink, dump, settings};
-};
+using LineAssemblyTest = testing::DecoderTest;
 
 const std::string A1024(1024, 'a');
 const std::string A4096(4096, 'a');
@@ -112,15 +91,15 @@ TEST_F(LineAssemblyTest, LinesEndAtLineFeedTheLimitOrTheBlockUnlessHeld)
 
 TEST_F(LineAssemblyTest, HoldCanBeSwitchedOnBetweenBlocks)
 {
-    Feed({"Obvious exits: north\r\n>"}, false);
-    EXPECT_EQ(Feed({"You g", "o north.\r\n"}, true),
-              (Lines{"Obvious exits: north\r\n", ">", "You go north.\r\n"}));
+    EXPECT_EQ(Receive({"Obvious exits: north\r\n>"}, false),
+              (Lines{"Obvious exits: north\r\n", ">"}));
+    EXPECT_EQ(Receive({"You g", "o north.\r\n"}, true), Lines{"You go north.\r\n"});
 }
 
 TEST_F(LineAssemblyTest, OverlongReadIsTakenAsSeveralBlocks)
 {
     const std::string bytes(RECEIVE_BUFFER_SIZE + 10, 'a');
-    EXPECT_EQ(Feed({bytes}, false),
+    EXPECT_EQ(Receive({bytes}, false),
               (Lines{std::string(RECEIVE_BUFFER_SIZE, 'a'), std::string(10, 'a')}));
 }
 
