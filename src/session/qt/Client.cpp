@@ -42,7 +42,8 @@ constexpr char VERSION_SECTION[] = "Version Info";
 Client::Client(ClientOptions options, Desktop& desktop)
     : options_(std::move(options)), desktop_(desktop), sounds_(desktop.Sounds()),
       pipeline_({session_.Profile.Settings, session_.SessionLog, highlights_, sounds_,
-                 session_.Windows, *this, session_.Script, session_.Panel, *this, nullptr}),
+                 session_.Windows, *this, session_.Script, session_.Panel, session_.Words, *this,
+                 nullptr}),
       decoder_(pipeline_, session_.PacketDump, session_.Profile.Settings), socket_(*this),
       connection_(socket_, decoder_)
 {
@@ -146,7 +147,11 @@ bool Client::ChooseConnection(char (&connection)[CONNECTION_STRING_SIZE], std::s
     ReadString(ini, CONNECTION_SECTION, "Host", stored, sizeof stored, DEFAULT_HOST);
     host = stored;
     port = ReadInt(ini, CONNECTION_SECTION, "Port", DEFAULT_PORT);
-    switch (desktop_.AskConnection(frame_.get(), host, port)) {
+    ConnectChoice choice = desktop_.AskConnection(frame_.get(), host, port);
+    // Connecting to no host is the offline choice.
+    if (choice == ConnectChoice::Connect && host.empty())
+        choice = ConnectChoice::Offline;
+    switch (choice) {
     case ConnectChoice::Cancel:
         return false;
     case ConnectChoice::Offline:
