@@ -32,15 +32,15 @@ std::unique_ptr<AnsiWindow> AnsiWindow::Create(const char* name, const AnsiWindo
         return nullptr;
     std::unique_ptr<AnsiWindow> window(new AnsiWindow(parts, std::move(live), std::move(view)));
     window->SetName(name);
-    window->LoadColors();
-    window->LoadFont();
+    window->LoadColors(parts.ProfilePath);
+    window->LoadFont(parts.ProfilePath);
     return window;
 }
 
 AnsiWindow::AnsiWindow(const AnsiWindowParts& parts, std::unique_ptr<TextBuffer> live,
                        std::unique_ptr<TextBuffer> view)
-    : host_(parts.Host), options_(parts.Options), profilePath_(parts.ProfilePath),
-      prompt_(parts.Prompt), LiveBuffer(std::move(live)), ViewBuffer(std::move(view))
+    : host_(parts.Host), options_(parts.Options), prompt_(parts.Prompt),
+      LiveBuffer(std::move(live)), ViewBuffer(std::move(view))
 {
     ClientRect = host_.GetClientRect();
     LiveBuffer->SetBellListener(&host_);

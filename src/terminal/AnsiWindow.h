@@ -12,6 +12,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <memory>
+#include <string>
 
 namespace steward {
 
@@ -28,8 +29,9 @@ constexpr std::int32_t LIVE_SCROLL_MAX = 100;
 // TopLine while live; every freeze replaces it.
 constexpr std::int32_t NO_TOP_LINE = -100;
 
-// What a text window is built from. ProfilePath is the profile's .Dat file, a buffer that
-// outlives the window; Prompt is given to the Game window only, which also draws the cursor.
+// What a text window is built from. ProfilePath is the profile's .Dat file that the window
+// reads its font and colours from when it is made (null gives the defaults); Prompt is given
+// to the Game window only, which also draws the cursor.
 struct AnsiWindowParts {
     AnsiWindowHost& Host;
     const Settings& Options;
@@ -57,7 +59,8 @@ class AnsiWindow : public FontTarget {
     void EndScrollback();
     std::int32_t GetLineCount() const { return LiveBuffer->CountLines(); }
     std::int32_t GetViewLineCount() const { return ViewBuffer->CountLines(); }
-    void SaveState();
+    // Writes the window's font, placement and colours to the profile's .Dat file.
+    void SaveState(const std::string& profilePath);
     // Null when no buffer can be made; the caller owns the copy.
     std::unique_ptr<TextBuffer> CloneBuffer() const;
     void RestoreBuffer(std::unique_ptr<TextBuffer> buffer);
@@ -76,8 +79,6 @@ class AnsiWindow : public FontTarget {
     void VScroll(int command, std::int32_t thumb);
     // WM_MDIACTIVATE: the selection shows only in the active window.
     void MdiActivate();
-    // WM_DESTROY: the window's font, placement and colours go to the profile.
-    void Destroy() { SaveState(); }
 
     // The popup menu's Appearance commands.
     void ChangeForegroundColor();
@@ -116,8 +117,8 @@ class AnsiWindow : public FontTarget {
     AnsiWindow(const AnsiWindowParts& parts, std::unique_ptr<TextBuffer> live,
                std::unique_ptr<TextBuffer> view);
 
-    void LoadColors();
-    void LoadFont();
+    void LoadColors(const char* profilePath);
+    void LoadFont(const char* profilePath);
     void Layout();
     void KeepTopLineAfterResize();
     void PrepareScrollBack();
@@ -128,7 +129,6 @@ class AnsiWindow : public FontTarget {
 
     AnsiWindowHost& host_;
     const Settings& options_;
-    const char* profilePath_;
     PromptState* prompt_;
 
     std::unique_ptr<TextBuffer> LiveBuffer;

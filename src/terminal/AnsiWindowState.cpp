@@ -13,11 +13,11 @@ constexpr std::size_t STATE_INFO_SIZE = 8;
 
 } // namespace
 
-void AnsiWindow::LoadColors()
+void AnsiWindow::LoadColors(const char* profilePath)
 {
     std::array<std::uint8_t, STATE_INFO_SIZE> state{};
-    if (profilePath_ &&
-        ReadBinary(profilePath_, SectionName, "StateInfo", state.data(), state.size())) {
+    if (profilePath &&
+        ReadBinary(profilePath, SectionName, "StateInfo", state.data(), state.size())) {
         TextColor = GetU32(state.data());
         BackColor = GetU32(state.data() + 4);
         return;
@@ -26,24 +26,23 @@ void AnsiWindow::LoadColors()
     BackColor = options_.DefaultBackColor;
 }
 
-void AnsiWindow::LoadFont()
+void AnsiWindow::LoadFont(const char* profilePath)
 {
-    if (profilePath_)
-        ReadFont(profilePath_, SectionName, "Font", *this);
+    if (profilePath)
+        ReadFont(profilePath, SectionName, "Font", *this);
     else
         SetFont(nullptr, true);
 }
 
-void AnsiWindow::SaveState()
+void AnsiWindow::SaveState(const std::string& profilePath)
 {
-    if (!profilePath_)
-        return;
-    WriteFont(profilePath_, SectionName, "Font", &Font);
-    WritePlacement(profilePath_, SectionName, "Position", host_);
+    const char* path = profilePath.c_str();
+    WriteFont(path, SectionName, "Font", &Font);
+    WritePlacement(path, SectionName, "Position", host_);
     std::array<std::uint8_t, STATE_INFO_SIZE> state{};
     PutU32(state.data(), TextColor);
     PutU32(state.data() + 4, BackColor);
-    WriteBinary(profilePath_, SectionName, "StateInfo", state.data(), state.size());
+    WriteBinary(path, SectionName, "StateInfo", state.data(), state.size());
 }
 
 } // namespace steward

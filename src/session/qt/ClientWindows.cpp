@@ -46,6 +46,8 @@ AnsiWindow* Client::OpenChildWindow(WindowRow row)
 
 void Client::ChildClosed(WindowRow row)
 {
+    if (AnsiWindow* window = Handle(row))
+        window->SaveState(session_.Profile.ProfilePath);
     Handle(row) = nullptr;
     ArrangeWindows(false);
 }
@@ -75,7 +77,7 @@ void Client::SaveChildWindows(const std::string& profilePath)
         AnsiWindow* window = Handle(row.Row);
         open[row.Row] = window != nullptr;
         if (window)
-            window->SaveState();
+            window->SaveState(profilePath);
     }
     WriteOpenWindows(profilePath, OpenWindowsLetters(open, mdi.ActiveRow()));
     FramePlacement placement(*frame_);

@@ -3,6 +3,9 @@
 #include <QEvent>
 #include <QMdiSubWindow>
 #include <QPainter>
+#include <QStyle>
+
+#include <algorithm>
 
 namespace steward {
 
@@ -60,9 +63,14 @@ bool MdiClient::eventFilter(QObject* watched, QEvent* event)
         QMdiSubWindow* sub = rows_[row.Row];
         if (sub != watched)
             continue;
-        // The text window goes first, while its sub-window can still tell its placement.
+        // The row is told while its window still lives, so nothing reaches a freed window and
+        // no arrangement runs inside a destructor.
+        QWidget* widget = sub->widget();
+        disconnect(widget, &QObject::destroyed, this, nullptr);
         rows_[row.Row] = nullptr;
-        delete sub->widget();
+        if (childClosed_)
+            childClosed_(row.Row);
+        delete widget;
         sub->deleteLater();
     }
     return QMdiArea::eventFilter(watched, event);
@@ -85,7 +93,8 @@ void MdiClient::TileVertically()
     Tile(false);
 }
 
-void MdiClient::Tile(bool stacked)
+// The sub-windows that are not minimised, each brought back to its normal state.
+QList<QMdiSubWindow*> MdiClient::ShownNormal()
 {
     QList<QMdiSubWindow*> shown;
     for (QMdiSubWindow* sub : subWindowList())
@@ -93,6 +102,28 @@ void MdiClient::Tile(bool stacked)
             sub->showNormal();
             shown.append(sub);
         }
+    return shown;
+}
+
+void MdiClient::Cascade()
+{
+    const QList<QMdiSubWindow*> shown = ShownNormal();
+    if (shown.isEmpty())
+        return;
+    const int step = style()->pixelMetric(QStyle::PM_TitleBarHeight, nullptr, shown.front());
+    const int count = static_cast<int>(shown.size());
+    const QRect area = viewport()->rect();
+    const int width = std::max(area.width() - (count - 1) * step, area.width() / 2);
+    const int height = std::max(area.height() - (count - 1) * step, area.height() / 2);
+    for (int i = 0; i < count; ++i) {
+        shown[i]->setGeometry(i * step, i * step, width, height);
+        shown[i]->raise();
+    }
+}
+
+void MdiClient::Tile(bool stacked)
+{
+    const QList<QMdiSubWindow*> shown = ShownNormal();
     if (shown.isEmpty())
         return;
     const int count = static_cast<int>(shown.size());

@@ -27,13 +27,17 @@ class MdiClient : public QMdiArea, public ChildWindowHost {
     // The row of the active sub-window, or -1.
     int ActiveRow() const;
 
-    // FWM_CHILDCLOSED: what to do once a row's window is gone and the area still lives.
+    // FWM_CHILDCLOSED: what to do when a row's window closes while the area lives; a window
+    // that the player closes is told before it goes.
     void SetChildClosedHandler(std::function<void(WindowRow)> handler);
     void SetCommandLine(QWidget* commandLine) { commandLine_ = commandLine; }
 
     // WM_MDITILE: horizontal tiling stacks the windows, vertical tiling sets them side by side.
     void TileHorizontally();
     void TileVertically();
+    // WM_MDICASCADE: the open windows step down and right by a title bar's height each, every
+    // one as large as the room left below and right of its corner.
+    void Cascade();
 
     // ChildWindowHost.
     bool Exists(WindowRow row) const override;
@@ -54,6 +58,7 @@ class MdiClient : public QMdiArea, public ChildWindowHost {
   private:
     void ChildClosed(WindowRow row);
     void Tile(bool stacked);
+    QList<QMdiSubWindow*> ShownNormal();
 
     QImage background_;
     QPointer<QMdiSubWindow> rows_[WINDOW_ROWS];

@@ -43,12 +43,6 @@ AnsiWindowWidget::AnsiWindowWidget(const Parts& parts)
     });
 }
 
-AnsiWindowWidget::~AnsiWindowWidget()
-{
-    if (window_)
-        window_->Destroy();
-}
-
 void AnsiWindowWidget::MenuCommand(int id)
 {
     if (id == IDM_CHANGE_FOREGROUND)

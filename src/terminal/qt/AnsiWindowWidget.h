@@ -31,7 +31,7 @@ class AnsiWindowWidget : public QWidget, public AnsiWindowHost {
   public:
     struct Parts {
         const Settings& Options;
-        // The profile's .Dat file; null keeps the window's state out of any file.
+        // The profile's .Dat file to read the window's state from; null gives the defaults.
         const char* ProfilePath = nullptr;
         // Given to the Game window only.
         PromptState* Prompt = nullptr;
@@ -42,8 +42,6 @@ class AnsiWindowWidget : public QWidget, public AnsiWindowHost {
     // Null when the window's buffers cannot be made.
     // Made without a parent: hand it to QMdiSubWindow::setWidget with release().
     static std::unique_ptr<AnsiWindowWidget> Create(const char* name, const Parts& parts);
-    // Writes the window's font, placement and colours to the profile.
-    ~AnsiWindowWidget() override;
 
     AnsiWindow& Window() { return *window_; }
     const QFont& CurrentFont() const { return font_; }
