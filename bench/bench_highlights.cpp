@@ -8,6 +8,7 @@
 #include "highlights/HighlightMatch.h"
 #include "panels/StatusPanel.h"
 #include "scripts/ScriptWait.h"
+#include "scripts/Tokenizer.h"
 #include "session/ChildWindows.h"
 #include "session/FrameQueue.h"
 #include "terminal/AnsiWindow.h"
@@ -158,10 +159,11 @@ void BM_ReceiveWithHighlights(benchmark::State& state)
     NoQueue queue;
     ScriptWaitState script;
     StatusPanel panel;
+    Tokenizer words;
     NoonClock clock;
     ChildWindows windows;
-    LinePipeline pipeline(
-        {settings, sessionLog, lists, sounds, windows, queue, script, panel, clock, nullptr});
+    LinePipeline pipeline({settings, sessionLog, lists, sounds, windows, queue, script, panel,
+                           words, clock, nullptr});
     NullWindowHost host;
     std::unique_ptr<AnsiWindow> game =
         AnsiWindow::Create("Game Window", {host, settings, nullptr, &pipeline.Prompt()});

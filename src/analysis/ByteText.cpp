@@ -71,18 +71,4 @@ void JoinCut(char* out, std::size_t capacity, std::initializer_list<const char*>
         AppendCut(out, capacity, piece);
 }
 
-bool WordReader::Next(char* out, std::size_t size)
-{
-    const char* blanks = " \t\r\n";
-    next_ += std::strspn(next_, blanks);
-    const std::size_t length = std::strcspn(next_, blanks);
-    if (length == 0)
-        return false;
-    const std::size_t kept = length < size ? length : size - 1;
-    std::memcpy(out, next_, kept);
-    out[kept] = '\0';
-    next_ += length;
-    return true;
-}
-
 } // namespace steward

@@ -20,15 +20,4 @@ void AppendCut(char* text, std::size_t capacity, const char* piece);
 // Joins the pieces into out, cut at the buffer's end.
 void JoinCut(char* out, std::size_t capacity, std::initializer_list<const char*> pieces);
 
-// Words split at blanks, tabs, CR and LF, read from a text that is not changed.
-class WordReader {
-  public:
-    explicit WordReader(const char* text) : next_(text) {}
-    // Copies the next word into out (cut to size); false when there is none.
-    bool Next(char* out, std::size_t size);
-
-  private:
-    const char* next_;
-};
-
 } // namespace steward

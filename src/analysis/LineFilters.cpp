@@ -6,6 +6,7 @@
 #include "highlights/HighlightText.h"
 #include "panels/StatusPanel.h"
 #include "scripts/ScriptWait.h"
+#include "scripts/Tokenizer.h"
 #include "session/ChildWindows.h"
 
 #include <cstdio>
@@ -35,9 +36,6 @@ const ExitName ExitNames[] = {
     {"north", 0x001},     {"south", 0x010},     {"east", 0x004},      {"west", 0x040},
     {"up", 0x200},        {"down", 0x400},      {"out", 0x100},
 };
-
-// Exit words and first words longer than this are cut; no direction name comes near it.
-constexpr std::size_t WORD_SIZE = 64;
 
 bool ContainsAny(const char* text, const char* const* phrases, std::size_t count)
 {
@@ -86,12 +84,12 @@ void LinePipeline::FilterLine(char* text, std::size_t capacity)
     std::int32_t seconds = 0;
     if (text[0] == '[' && Contains(text, " sec. delay]") && ReadDelay(text + 1, seconds))
         StartRoundTime(seconds);
-    if (StartsWith(text, "...wait") && ReadDelay(text + 8, seconds))
+    // The number stands one byte behind the phrase, so a bare phrase has none.
+    if (StartsWith(text, "...wait") && text[7] != '\0' && ReadDelay(text + 8, seconds))
         StartRoundTime(seconds);
 
-    char word[WORD_SIZE];
-    WordReader words(text);
-    if (!words.Next(word, sizeof word))
+    const char* word = words_.FirstToken(text);
+    if (!word)
         return;
     if (EqualNoCase(word, "Obvious")) {
         if (const char* colon = std::strchr(text, ':'))
@@ -104,9 +102,7 @@ void LinePipeline::ParseExits(const char* list)
 {
     std::uint32_t exits = 0;
     std::uint32_t starred = 0;
-    char word[WORD_SIZE];
-    WordReader words(list);
-    while (words.Next(word, sizeof word)) {
+    for (const char* word = words_.FirstToken(list); word; word = words_.NextToken()) {
         for (const ExitName& exit : ExitNames) {
             if (!StartsWithNoCase(word, exit.name))
                 continue;

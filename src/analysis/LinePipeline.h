@@ -21,6 +21,7 @@ struct ChildWindows;
 struct Settings;
 struct ScriptWaitState;
 struct StatusPanel;
+class Tokenizer;
 
 constexpr std::size_t LINE_COPY_SIZE = 8192;
 // Every print gets a buffer as large as ColoredCopy, so no received line is cut on its way.
@@ -51,6 +52,7 @@ class LinePipeline : public GameLineSink {
         FrameQueue& Queue;
         ScriptWaitState& Script;
         StatusPanel& Panel;
+        Tokenizer& Words; // the program's one word splitter
         const LocalClock& Clock;
         CountdownListener* Frame; // hears the end of a round time countdown
     };
@@ -92,6 +94,7 @@ class LinePipeline : public GameLineSink {
     FrameQueue& queue_;
     ScriptWaitState& script_;
     StatusPanel& panel_;
+    Tokenizer& words_;
     const LocalClock& clock_;
     CountdownListener* frame_;
 

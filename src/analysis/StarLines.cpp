@@ -4,6 +4,7 @@
 #include "config/Settings.h"
 #include "highlights/HighlightLists.h"
 #include "panels/StatusPanel.h"
+#include "scripts/Tokenizer.h"
 #include "session/ChildWindows.h"
 
 #include <cstdio>
@@ -15,23 +16,10 @@ namespace steward {
 namespace {
 
 constexpr std::size_t STAR_PREFIX = 4; // behind " ** "
-constexpr std::size_t VITALS_WORD_SIZE = 32;
 
 std::int32_t ReadDecimal(const char* from)
 {
     return static_cast<std::int32_t>(std::strtol(from, nullptr, 10));
-}
-
-// The third word of the line, split at white space.
-void ThirdWord(const char* line, char* out, std::size_t size)
-{
-    out[0] = '\0';
-    WordReader words(line);
-    for (int i = 0; i < 3; ++i)
-        if (!words.Next(out, size)) {
-            out[0] = '\0';
-            return;
-        }
 }
 
 void NameUpTo(char* out, const char* start, const char* end)
@@ -69,8 +57,10 @@ bool LinePipeline::HandleStarLine(char* line, std::size_t capacity)
         // The number stands one blank behind the colon; a colon at the very end reads nothing.
         const std::int32_t current = !colon ? 0 : colon[1] ? ReadDecimal(colon + 2) : 0;
         const std::int32_t maximum = blank ? ReadDecimal(blank + 1) : 0;
-        char word[VITALS_WORD_SIZE];
-        ThirdWord(line, word, sizeof word);
+        // "**" and "Current" are the first two words.
+        const char* word = words_.NthToken(line, 3);
+        if (!word)
+            return true;
         if (EqualNoCase(word, "hit"))
             SetGaugeValues(panel_.Hp, 0, maximum, current);
         else if (EqualNoCase(word, "fatigue:"))

@@ -6,6 +6,7 @@
 #include "connection/PacketDump.h"
 #include "panels/StatusPanel.h"
 #include "scripts/ScriptWait.h"
+#include "scripts/Tokenizer.h"
 #include "session/ChildWindows.h"
 #include "session/RestMode.h"
 
@@ -36,6 +37,8 @@ struct Session {
 
     // Running work; the keyboard keeps DragTarget and the script's name and parameters.
     ScriptWaitState Script;
+    // The one word splitter that the line analysis and the scripts share.
+    Tokenizer Words;
 
     // What the status record feeds.
     StatusPanel Panel;

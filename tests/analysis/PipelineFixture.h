@@ -7,6 +7,7 @@
 #include "highlights/HighlightLists.h"
 #include "panels/StatusPanel.h"
 #include "scripts/ScriptWait.h"
+#include "scripts/Tokenizer.h"
 #include "session/ChildWindows.h"
 #include "session/FrameQueue.h"
 #include "support/TempFolder.h"
@@ -102,8 +103,9 @@ class PipelineTest : public ::testing::Test {
     ChildWindows windows;
     ScriptWaitState script;
     StatusPanel panel;
-    LinePipeline pipeline{
-        {options, sessionLog, highlights, sounds, windows, queue, script, panel, clock, nullptr}};
+    Tokenizer words;
+    LinePipeline pipeline{{options, sessionLog, highlights, sounds, windows, queue, script, panel,
+                           words, clock, nullptr}};
     std::unique_ptr<AnsiWindow> game;
     std::unique_ptr<AnsiWindow> thought;
     std::unique_ptr<AnsiWindow> arrival;

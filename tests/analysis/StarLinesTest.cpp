@@ -19,11 +19,12 @@ TEST_F(PipelineTest, VitalsLinesSetTheirGaugeAndAreSwallowed)
         {" ** Current mana: 7 of 30\r\n", 0, 0, 0, 0},
         {" ** Current \r\n", 0, 0, 0, 0},
         {" ** Current hit points:", 0, 0, 0, 0},
+        {" ** Current \"fatigue:\" 7 of 30\r\n", 0, 0, 7, 30},
     };
     for (const auto& c : cases) {
         StatusPanel fresh;
         LinePipeline local{{options, sessionLog, highlights, sounds, windows, queue, script, fresh,
-                            clock, nullptr}};
+                            words, clock, nullptr}};
         local.ProcessGameLine(c.line);
         EXPECT_EQ(fresh.Hp.GetValue(), c.hp) << c.line;
         EXPECT_EQ(fresh.Hp.GetMax(), c.hpMax) << c.line;

@@ -136,7 +136,7 @@ TEST_F(PipelineTest, RoundTimeFieldHoldsSecondsPlusOneCappedAtSixty)
     for (const auto& c : cases) {
         StatusPanel fresh;
         LinePipeline local{{options, sessionLog, highlights, sounds, windows, queue, script, fresh,
-                            clock, nullptr}};
+                            words, clock, nullptr}};
         std::string fields = Fields;
         fields.replace(62, 2, c.field);
         local.ProcessGameLine(Record(fields).c_str());
