@@ -50,7 +50,9 @@ bool ParseConnectionString(const char* text, ConnectionInfo& info)
         unsigned seconds = ReadDigits(at + 2, MAX_TIMEOUT_SECONDS);
         if (seconds > MAX_TIMEOUT_SECONDS)
             seconds = MAX_TIMEOUT_SECONDS;
-        info.TimeoutMilliseconds = static_cast<int>(seconds) * 1000;
+        // A limit of 0 would fail every connect at once, so it keeps the default.
+        if (seconds > 0)
+            info.TimeoutMilliseconds = static_cast<int>(seconds) * 1000;
     }
     return info.Host[0] != '\0' && info.PortText[0] != '\0';
 }

@@ -8,6 +8,7 @@ namespace steward {
 namespace {
 
 struct ParseCase {
+    const char* name;
     const char* text;
     bool ok;
     const char* host;
@@ -27,24 +28,27 @@ TEST_P(ParseConnectionStringTest, ReadsMarkersInTheirOneOrder)
     EXPECT_EQ(info.TimeoutMilliseconds, c.timeout) << c.text;
 }
 
-INSTANTIATE_TEST_SUITE_P(Cases, ParseConnectionStringTest,
-                         ::testing::Values(ParseCase{"/Hhost/P23", true, "host", "23", 60000},
-                                           ParseCase{"/Hhost", false, "host", "", 60000},
-                                           ParseCase{"/P23", false, "", "23", 60000},
-                                           ParseCase{"host 23", false, "", "", 60000},
-                                           ParseCase{"/hhost/p23", false, "", "", 60000},
-                                           ParseCase{"/P23/Hhost", false, "", "23", 60000},
-                                           ParseCase{"   /Hhost/P23", true, "host", "23", 60000},
-                                           ParseCase{"\t/Hhost/P23", false, "", "", 60000},
-                                           ParseCase{"/Hhost/Pabc", true, "host", "abc", 60000},
-                                           ParseCase{"/Hhost/P23/T30/x", true, "host", "23", 30000},
-                                           ParseCase{"/Hhost/P23/Tabc", true, "host", "23", 0},
-                                           ParseCase{"/Hhost/P23/X/T30", true, "host", "23", 60000},
-                                           ParseCase{"/Hhost/P23/T99999999999", true, "host", "23",
-                                                     86400000},
-                                           ParseCase{"/Hhost/T30", false, "host", "", 30000},
-                                           ParseCase{"/H/P23", false, "", "23", 60000},
-                                           ParseCase{"", false, "", "", 60000}));
+INSTANTIATE_TEST_SUITE_P(
+    Cases, ParseConnectionStringTest,
+    ::testing::Values(
+        ParseCase{"HostAndPort", "/Hhost/P23", true, "host", "23", 60000},
+        ParseCase{"NoPort", "/Hhost", false, "host", "", 60000},
+        ParseCase{"NoHost", "/P23", false, "", "23", 60000},
+        ParseCase{"NoMarkers", "host 23", false, "", "", 60000},
+        ParseCase{"LowerCaseMarkers", "/hhost/p23", false, "", "", 60000},
+        ParseCase{"PortBeforeHost", "/P23/Hhost", false, "", "23", 60000},
+        ParseCase{"LeadingBlanks", "   /Hhost/P23", true, "host", "23", 60000},
+        ParseCase{"LeadingTab", "\t/Hhost/P23", false, "", "", 60000},
+        ParseCase{"PortWithoutDigits", "/Hhost/Pabc", true, "host", "abc", 60000},
+        ParseCase{"TimeLimit", "/Hhost/P23/T30/x", true, "host", "23", 30000},
+        ParseCase{"TimeLimitWithoutDigits", "/Hhost/P23/Tabc", true, "host", "23", 60000},
+        ParseCase{"TimeLimitZero", "/Hhost/P23/T0", true, "host", "23", 60000},
+        ParseCase{"TimeLimitOutOfOrder", "/Hhost/P23/X/T30", true, "host", "23", 60000},
+        ParseCase{"TimeLimitCapped", "/Hhost/P23/T99999999999", true, "host", "23", 86400000},
+        ParseCase{"TimeLimitWithoutPort", "/Hhost/T30", false, "host", "", 30000},
+        ParseCase{"EmptyHost", "/H/P23", false, "", "23", 60000},
+        ParseCase{"Empty", "", false, "", "", 60000}),
+    [](const auto& info) { return std::string(info.param.name); });
 
 TEST(ParseConnectionString, CutsFieldsThatDoNotFit)
 {
