@@ -6,26 +6,25 @@ namespace steward {
 
 namespace {
 
-bool FormatName(const char* folder, const LocalDate& date, int n, char (&out)[PATH_SIZE])
+std::string FormatName(const std::string& folder, const LocalDate& date, int n)
 {
-    int length = std::snprintf(out, PATH_SIZE, "%s/%s %d-%02d-%02d (%d).Txt", folder,
-                               "Thornmere Log", date.Month, date.Day, date.Year, n);
-    return length > 0 && static_cast<std::size_t>(length) < PATH_SIZE;
+    char name[64];
+    std::snprintf(name, sizeof name, "/Thornmere Log %d-%02d-%02d (%d).Txt", date.Month, date.Day,
+                  date.Year, n);
+    return folder + name;
 }
 
 } // namespace
 
-bool DatedLogName(const char* folder, const LocalDate& date, const FileProbe& files,
-                  char (&out)[PATH_SIZE])
+std::string DatedLogName(const std::string& folder, const LocalDate& date, const FileProbe& files)
 {
     int n = 1;
     for (; n < LAST_LOG_NUMBER; ++n) {
-        if (!FormatName(folder, date, n, out))
-            return false;
-        if (!files.Exists(out))
-            return true;
+        std::string name = FormatName(folder, date, n);
+        if (!files.Exists(name.c_str()))
+            return name;
     }
-    return FormatName(folder, date, n, out);
+    return FormatName(folder, date, n);
 }
 
 } // namespace steward

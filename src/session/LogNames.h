@@ -1,10 +1,9 @@
 #pragma once
 
-#include <cstddef>
+#include <string>
 
 namespace steward {
 
-constexpr std::size_t PATH_SIZE = 256;
 // Numbers tried for the logs of one day.
 constexpr int LAST_LOG_NUMBER = 9998;
 
@@ -22,8 +21,7 @@ class FileProbe {
 };
 
 // "<folder>/Thornmere Log M-DD-YYYY (n).Txt" with the first n from 1 that names no file yet,
-// stopping at LAST_LOG_NUMBER; false when the name would not fit.
-bool DatedLogName(const char* folder, const LocalDate& date, const FileProbe& files,
-                  char (&out)[PATH_SIZE]);
+// stopping at LAST_LOG_NUMBER. Like every other path, it is as long as the folder needs.
+std::string DatedLogName(const std::string& folder, const LocalDate& date, const FileProbe& files);
 
 } // namespace steward

@@ -14,40 +14,31 @@ class FakeFiles : public FileProbe {
     std::set<std::string> files;
 };
 
-TEST(DatedLogName, FirstOfTheDayIsOne)
-{
-    FakeFiles files;
-    char name[PATH_SIZE];
-    ASSERT_TRUE(DatedLogName("/data", {2026, 3, 7}, files, name));
-    EXPECT_STREQ(name, "/data/Thornmere Log 3-07-2026 (1).Txt");
-}
-
-TEST(DatedLogName, TakesTheNextFreeNumber)
-{
-    FakeFiles files;
-    files.files = {"/d/Thornmere Log 12-24-2026 (1).Txt", "/d/Thornmere Log 12-24-2026 (2).Txt"};
-    char name[PATH_SIZE];
-    ASSERT_TRUE(DatedLogName("/d", {2026, 12, 24}, files, name));
-    EXPECT_STREQ(name, "/d/Thornmere Log 12-24-2026 (3).Txt");
-}
-
 class AllFiles : public FileProbe {
   public:
     bool Exists(const char*) const override { return true; }
 };
 
-TEST(DatedLogName, StopsAtTheLastNumber)
+TEST(DatedLogName, TakesTheFirstFreeNumberUpToTheLast)
 {
-    char name[PATH_SIZE];
-    ASSERT_TRUE(DatedLogName("/d", {2026, 1, 1}, AllFiles{}, name));
-    EXPECT_STREQ(name, "/d/Thornmere Log 1-01-2026 (9998).Txt");
-}
-
-TEST(DatedLogName, RefusesAFolderTooLongForTheName)
-{
-    std::string folder(PATH_SIZE, 'x');
-    char name[PATH_SIZE];
-    EXPECT_FALSE(DatedLogName(folder.c_str(), {2026, 1, 1}, FakeFiles{}, name));
+    const FakeFiles none;
+    const AllFiles all;
+    FakeFiles taken;
+    taken.files = {"/d/Thornmere Log 12-24-2026 (1).Txt", "/d/Thornmere Log 12-24-2026 (2).Txt"};
+    const std::string deep(300, 'x');
+    const struct {
+        std::string folder;
+        LocalDate date;
+        const FileProbe& files;
+        std::string name;
+    } cases[] = {
+        {"/data", {2026, 3, 7}, none, "/data/Thornmere Log 3-07-2026 (1).Txt"},
+        {"/d", {2026, 12, 24}, taken, "/d/Thornmere Log 12-24-2026 (3).Txt"},
+        {"/d", {2026, 1, 1}, all, "/d/Thornmere Log 1-01-2026 (9998).Txt"},
+        {deep, {2026, 1, 1}, none, deep + "/Thornmere Log 1-01-2026 (1).Txt"},
+    };
+    for (const auto& c : cases)
+        EXPECT_EQ(DatedLogName(c.folder, c.date, c.files), c.name);
 }
 
 } // namespace

@@ -43,7 +43,7 @@ const Client::CommandEntry Client::COMMANDS[] = {
     {CMD_OPEN_ARRIVAL_WINDOW, [](Client& c) { c.OpenWindowCommand(ARRIVAL_ROW); }},
     {CMD_TILE_HORIZONTALLY, [](Client& c) { c.TileCommand(&MdiClient::TileHorizontally); }},
     {CMD_TILE_VERTICALLY, [](Client& c) { c.TileCommand(&MdiClient::TileVertically); }},
-    {CMD_CASCADE, [](Client& c) { c.TileCommand(&MdiClient::cascadeSubWindows); }},
+    {CMD_CASCADE, [](Client& c) { c.TileCommand(&MdiClient::Cascade); }},
     {CMD_ARRANGE, [](Client& c) { c.ArrangeWindows(true); }},
     {MM_ENTER_KEY, [](Client& c) { c.keyboard_->Road.EnterKey(); }},
     {CMD_RESET_STEWARD_MODE, [](Client& c) { c.ResetStewardMode(); }},
@@ -115,10 +115,9 @@ void Client::RunNotepad(const std::string& path)
 void Client::OpenDatedLog()
 {
     const QDate today = QDate::currentDate();
-    char path[PATH_SIZE];
-    const bool named = DatedLogName(session_.Files.ProgramFolder.c_str(),
-                                    {today.year(), today.month(), today.day()}, *this, path);
-    const bool opened = named && session_.SessionLog.OpenAppend(path);
+    const std::string path = DatedLogName(session_.Files.ProgramFolder,
+                                          {today.year(), today.month(), today.day()}, *this);
+    const bool opened = session_.SessionLog.OpenAppend(path.c_str());
     PrintToGameWindow(opened ? LOG_OPENED_TEXT : LOG_FAILED_TEXT);
 }
 
@@ -198,6 +197,7 @@ void Client::AskDragTarget()
     if (!desktop_.AskDragTarget(frame_.get(), target))
         target.clear();
     std::snprintf(dragTarget, sizeof dragTarget, "%s", target.c_str());
+    frame_->FocusCommandLine();
 }
 
 void Client::OnWheel(bool shift, int amount)
