@@ -6,6 +6,7 @@
 #include <cstdlib>
 #include <cstring>
 #include <initializer_list>
+#include <string>
 
 namespace steward {
 
@@ -63,8 +64,10 @@ void WriteText(std::FILE* file, const char* head, const char* text)
 
 } // namespace
 
-void MacroStore::LoadMacros(const char* path)
+void MacroStore::LoadMacros(const char* path, const MacroTrace& trace)
 {
+    if (trace)
+        trace(std::string("MACROS: Loading from \"") + path + "\"\n");
     Clear();
     File file(std::fopen(path, "r"));
     if (!file)
@@ -117,10 +120,12 @@ void MacroStore::ReadLine(const char* line)
     target.Text[length] = 0;
 }
 
-void MacroStore::SaveMacros(const char* path) const
+void MacroStore::SaveMacros(const char* path, const MacroTrace& trace) const
 {
     if (!path || path[0] == 0)
         return;
+    if (trace)
+        trace(std::string("MACROS: Saving to \"") + path + "\"\n");
     File file(std::fopen(path, "w"));
     if (!file)
         return;

@@ -3,7 +3,9 @@
 #include "commands/KeyModifiers.h"
 
 #include <cstddef>
+#include <functional>
 #include <memory>
+#include <string>
 
 namespace steward {
 
@@ -31,6 +33,9 @@ static_assert(sizeof(MacroSlot) == MACRO_SLOT_SIZE);
 // Keypad index of a virtual key (0 to 14), or -1 for a key off the keypad.
 int KeypadIndex(int virtualKey);
 
+// Receives the debug trace lines of loading and saving, which the user never sees.
+using MacroTrace = std::function<void(const std::string& line)>;
+
 // Every macro key of the current character: the Alt and Ctrl letters and the keypad, which no
 // set owns, and the function keys of ten named sets.
 class MacroStore {
@@ -51,9 +56,9 @@ class MacroStore {
     const char* MacroSetName(int index) const;
 
     // Empties the store, then reads the file if it opens; bad lines are skipped silently.
-    void LoadMacros(const char* path);
+    void LoadMacros(const char* path, const MacroTrace& trace = {});
     // Writes every slot and name that is not empty; silent when the file cannot be written.
-    void SaveMacros(const char* path) const;
+    void SaveMacros(const char* path, const MacroTrace& trace = {}) const;
 
   private:
     void Clear();

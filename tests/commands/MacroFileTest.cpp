@@ -5,6 +5,7 @@
 
 #include <filesystem>
 #include <string>
+#include <vector>
 
 namespace steward {
 namespace {
@@ -61,15 +62,19 @@ INSTANTIATE_TEST_SUITE_P(
         LineCase{"UnknownKind", "Z B \"x\"\n", KEY_ALT, 'B', ""}),
     [](const auto& info) { return std::string(info.param.name); });
 
-TEST_F(MacroFileTest, TextOf199ComesBackAnd200DoesNot)
+TEST_F(MacroFileTest, RoundTripTracesItsPathsAndKeeps199CharactersNot200)
 {
     std::string text199(199, 'a');
     std::string text200(200, 'b');
     store.SetMacro(KEY_ALT, 'A', text199.c_str());
     store.SetMacro(KEY_ALT, 'B', text200.c_str());
-    store.SaveMacros(path.c_str());
+    std::vector<std::string> trace;
+    const MacroTrace record = [&](const std::string& line) { trace.push_back(line); };
+    store.SaveMacros(path.c_str(), record);
     MacroStore loaded;
-    loaded.LoadMacros(path.c_str());
+    loaded.LoadMacros(path.c_str(), record);
+    EXPECT_EQ(trace, (std::vector<std::string>{"MACROS: Saving to \"" + path + "\"\n",
+                                               "MACROS: Loading from \"" + path + "\"\n"}));
     EXPECT_EQ(loaded.LookupMacro(KEY_ALT, 'A'), text199);
     EXPECT_STREQ(loaded.LookupMacro(KEY_ALT, 'B'), "");
 }

@@ -32,12 +32,14 @@ void Client::SetNumLockOff()
 
 void Client::LoadMacros(const std::string& macrosPath)
 {
-    keyboard_->Macros.LoadMacros(macrosPath.c_str());
+    keyboard_->Macros.LoadMacros(macrosPath.c_str(),
+                                 [this](const std::string& line) { Trace(line); });
 }
 
 void Client::SaveMacros(const std::string& macrosPath)
 {
-    keyboard_->Macros.SaveMacros(macrosPath.c_str());
+    keyboard_->Macros.SaveMacros(macrosPath.c_str(),
+                                 [this](const std::string& line) { Trace(line); });
 }
 
 void Client::SetDefaultMacros(bool newProfile)
