@@ -43,7 +43,9 @@ bool KeyFilterQt::eventFilter(QObject* watched, QEvent* event)
     if (QApplication::activeModalWidget() || QApplication::activePopupWidget())
         return false;
     auto* keyEvent = static_cast<QKeyEvent*>(event);
-    TranslatedKey key = TranslateKey(keyEvent->key(), keyEvent->modifiers(), numLockOn_);
+    const int qtKey = PhysicalKey(keyEvent->key(), keyEvent->modifiers(),
+                                  keyEvent->nativeScanCode(), keyEvent->nativeVirtualKey());
+    TranslatedKey key = TranslateKey(qtKey, keyEvent->modifiers(), numLockOn_);
     // Alt is taken both ways, so the menu bar never arms its keyboard navigation.
     bool alt = key.VirtualKey == VK_MENU;
     switch (event->type()) {

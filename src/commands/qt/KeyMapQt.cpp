@@ -60,7 +60,35 @@ int KeypadKey(int qtKey, bool& numLockOn)
     return navigation;
 }
 
+#ifdef Q_OS_WIN
+// Windows names the main row's digit keys by their digits, whatever the layout.
+int MainRowDigit(quint32, quint32 virtualKey)
+{
+    return virtualKey >= '0' && virtualKey <= '9' ? static_cast<int>(virtualKey - '0') : -1;
+}
+#else
+// XKB key codes of the main row, "1" to "9" and then "0", are the same on every layout.
+constexpr quint32 MAIN_ROW_FIRST_CODE = 10;
+constexpr quint32 MAIN_ROW_LAST_CODE = 19;
+
+int MainRowDigit(quint32 scanCode, quint32)
+{
+    if (scanCode < MAIN_ROW_FIRST_CODE || scanCode > MAIN_ROW_LAST_CODE)
+        return -1;
+    return static_cast<int>(scanCode - MAIN_ROW_FIRST_CODE + 1) % 10;
+}
+#endif
+
 } // namespace
+
+int PhysicalKey(int qtKey, Qt::KeyboardModifiers modifiers, quint32 nativeScanCode,
+                quint32 nativeVirtualKey)
+{
+    if (modifiers & Qt::KeypadModifier)
+        return qtKey;
+    const int digit = MainRowDigit(nativeScanCode, nativeVirtualKey);
+    return digit < 0 ? qtKey : Qt::Key_0 + digit;
+}
 
 TranslatedKey TranslateKey(int qtKey, Qt::KeyboardModifiers modifiers, bool& numLockOn)
 {

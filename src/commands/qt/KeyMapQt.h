@@ -16,4 +16,10 @@ struct TranslatedKey {
 // operators and every other key leave it as it was.
 TranslatedKey TranslateKey(int qtKey, Qt::KeyboardModifiers modifiers, bool& numLockOn);
 
+// The Qt key to translate for a key event: a digit key of the main row stands for its digit
+// whatever Shift or the layout make of it, found by its physical key (the native scan code of
+// X11 and Wayland, the virtual key of Windows); every other key is the key Qt reports.
+int PhysicalKey(int qtKey, Qt::KeyboardModifiers modifiers, quint32 nativeScanCode,
+                quint32 nativeVirtualKey);
+
 } // namespace steward

@@ -83,6 +83,33 @@ TEST_F(KeyFilterQtTest, AltFIsAMacroKeyAndNeverOpensTheFileMenu)
     EXPECT_EQ(shown.count(), 0);
 }
 
+TEST_F(KeyFilterQtTest, AltWithAMainRowDigitKeySelectsItsSetWhateverTheKeyTypes)
+{
+    // The XKB key codes of the main row's "1", "5" and "0" keys.
+    const struct {
+        const char* name;
+        Qt::Key key;
+        Qt::KeyboardModifiers modifiers;
+        quint32 scanCode;
+        const char* text;
+        int set;
+    } cases[] = {
+        {"ShiftedOne", Qt::Key_Exclam, Qt::AltModifier | Qt::ShiftModifier, 10, "!", 0},
+        {"FiveOfALayoutWithShiftedDigits", Qt::Key_ParenLeft, Qt::AltModifier, 14, "(", 4},
+        {"ShiftedZeroOfThatLayout", Qt::Key_0, Qt::AltModifier | Qt::ShiftModifier, 19, "0", 9},
+    };
+    for (const auto& c : cases) {
+        macros.SelectMacroSet(5);
+        for (QEvent::Type type : {QEvent::ShortcutOverride, QEvent::KeyPress, QEvent::KeyRelease}) {
+            QKeyEvent event(type, c.key, c.modifiers, c.scanCode, 0, 0,
+                            QString::fromLatin1(c.text));
+            QApplication::sendEvent(line, &event);
+        }
+        EXPECT_EQ(macros.CurrentMacroSet(), c.set) << c.name;
+        EXPECT_EQ(Text(), "") << c.name;
+    }
+}
+
 TEST_F(KeyFilterQtTest, BareAltKeepsTheFocusOnTheLine)
 {
     Click(Qt::Key_Alt, Qt::AltModifier);
