@@ -16,7 +16,8 @@ namespace steward {
 
 namespace {
 
-// A pause of a macro or script waits this long at most.
+// A pause of a macro or script waits at least one second and at most 29.
+constexpr int SHORTEST_PUMP_SECONDS = 1;
 constexpr int LONGEST_PUMP_SECONDS = 29;
 
 } // namespace
@@ -106,13 +107,16 @@ void Client::PostClose()
 
 bool Client::AskString(const char* title, char* answer, std::size_t capacity)
 {
-    return desktop_.AskString(frame_.get(), title, answer, capacity);
+    const bool given = desktop_.AskString(frame_.get(), title, answer, capacity);
+    frame_->FocusCommandLine();
+    return given;
 }
 
 void Client::PumpFor(int seconds)
 {
     QEventLoop loop;
-    QTimer::singleShot(std::min(seconds, LONGEST_PUMP_SECONDS) * 1000, &loop, &QEventLoop::quit);
+    QTimer::singleShot(std::clamp(seconds, SHORTEST_PUMP_SECONDS, LONGEST_PUMP_SECONDS) * 1000,
+                       &loop, &QEventLoop::quit);
     loop.exec();
 }
 

@@ -8,7 +8,6 @@
 #include <QDir>
 #include <QFileDialog>
 #include <QFormLayout>
-#include <QInputDialog>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QUrl>
@@ -16,6 +15,33 @@
 #include <cstdio>
 
 namespace steward {
+
+namespace {
+
+// A dialog of one text field that takes at most limit characters, with OK and a button that
+// ends it without the text; true with the field's text on OK.
+bool AskLine(QWidget* parent, const QString& title, const QString& label, const QString& reject,
+             int limit, QString& text)
+{
+    QDialog dialog(parent);
+    dialog.setWindowTitle(title);
+    auto* field = new QLineEdit(text, &dialog);
+    field->setMaxLength(limit);
+    auto* buttons = new QDialogButtonBox(&dialog);
+    buttons->addButton(QDialogButtonBox::Ok);
+    buttons->addButton(reject, QDialogButtonBox::RejectRole);
+    QObject::connect(buttons, &QDialogButtonBox::accepted, &dialog, &QDialog::accept);
+    QObject::connect(buttons, &QDialogButtonBox::rejected, &dialog, &QDialog::reject);
+    auto* form = new QFormLayout(&dialog);
+    form->addRow(label, field);
+    form->addRow(buttons);
+    if (dialog.exec() != QDialog::Accepted)
+        return false;
+    text = field->text();
+    return true;
+}
+
+} // namespace
 
 ConnectChoice QtDesktop::AskConnection(QWidget* parent, std::string& host, int& port)
 {
@@ -61,10 +87,11 @@ bool QtDesktop::AskSaveFileName(QWidget* parent, const SaveFileRequest& request,
 
 bool QtDesktop::AskString(QWidget* parent, const char* title, char* answer, std::size_t capacity)
 {
-    bool ok = false;
-    const QString text = QInputDialog::getText(parent, QString::fromLatin1(title), QString(),
-                                               QLineEdit::Normal, QString(), &ok);
-    if (!ok)
+    if (capacity == 0)
+        return false;
+    QString text;
+    if (!AskLine(parent, QString::fromLatin1(title), QString(), QStringLiteral("Cancel"),
+                 static_cast<int>(capacity - 1), text))
         return false;
     std::snprintf(answer, capacity, "%s", text.toLatin1().constData());
     return true;
@@ -73,21 +100,11 @@ bool QtDesktop::AskString(QWidget* parent, const char* title, char* answer, std:
 bool QtDesktop::AskDragTarget(QWidget* parent, std::string& target)
 {
     constexpr int DRAG_FIELD_LIMIT = 60;
-    QDialog dialog(parent);
-    dialog.setWindowTitle(QStringLiteral("Drag Someone"));
-    auto* field = new QLineEdit(QString::fromLatin1(target.c_str()), &dialog);
-    field->setMaxLength(DRAG_FIELD_LIMIT);
-    auto* buttons = new QDialogButtonBox(&dialog);
-    buttons->addButton(QDialogButtonBox::Ok);
-    buttons->addButton(QStringLiteral("Stop Dragging"), QDialogButtonBox::RejectRole);
-    QObject::connect(buttons, &QDialogButtonBox::accepted, &dialog, &QDialog::accept);
-    QObject::connect(buttons, &QDialogButtonBox::rejected, &dialog, &QDialog::reject);
-    auto* form = new QFormLayout(&dialog);
-    form->addRow(QStringLiteral("Drag who:"), field);
-    form->addRow(buttons);
-    if (dialog.exec() != QDialog::Accepted)
+    QString text = QString::fromLatin1(target.c_str());
+    if (!AskLine(parent, QStringLiteral("Drag Someone"), QStringLiteral("Drag who:"),
+                 QStringLiteral("Stop Dragging"), DRAG_FIELD_LIMIT, text))
         return false;
-    target = field->text().toLatin1().toStdString();
+    target = text.toLatin1().toStdString();
     return true;
 }
 

@@ -3,6 +3,7 @@
 #include "session/qt/FrameMenu.h"
 #include "session/qt/MdiClient.h"
 
+#include <QApplication>
 #include <QCloseEvent>
 #include <QMenuBar>
 #include <QPainter>
@@ -47,6 +48,11 @@ FrameWindow::FrameWindow(Handlers handlers, QWidget* parent)
     setMinimumSize(MIN_TRACK_SIZE, MIN_TRACK_SIZE);
     setCentralWidget(surface_);
     menu_ = new FrameMenu(*menuBar(), *mdi_, handlers_.Command, handlers_.ReadMenuInputs);
+    // Escape from a menu leaves the menu bar with the focus, where letters would open menus.
+    connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* now) {
+        if (now == menuBar())
+            QMetaObject::invokeMethod(this, &FrameWindow::FocusCommandLine, Qt::QueuedConnection);
+    });
 }
 
 FrameWindow::~FrameWindow() = default;
