@@ -1,10 +1,13 @@
 #include "ClientHarness.h"
+#include "config/BinaryRecords.h"
 #include "config/IniStore.h"
 #include "session/FrameCommand.h"
 
 #include <QDir>
 #include <QEventLoop>
 #include <QTimer>
+
+#include <map>
 
 namespace steward::test {
 namespace {
@@ -210,19 +213,57 @@ TEST_F(ClientWorldTest, DialogChoosesTheHostAndRemembersIt)
     EXPECT_EQ(ReadInt(ini, "Connection", "Port", 0), world->port);
 }
 
-TEST_F(ClientWorldTest, OfflineStartsWithoutAConnection)
+TEST_F(ClientWorldTest, OfflineOrAnEmptyHostStartsWithoutAConnection)
 {
-    desktop.choice = ConnectChoice::Offline;
-    auto client = MakeClient("");
-    ASSERT_TRUE(client->Start());
-    EXPECT_TRUE(client->IsDisconnected());
-    EXPECT_NE(GameText(*client).find("*** Operating in an Offline mode."), std::string::npos);
-    EXPECT_STREQ(client->State().ConnectionString, "/H127.0.0.1/P34283");
-    const std::string ini = folder.filePath("Thornmere.Ini").toStdString();
-    EXPECT_EQ(ReadInt(ini, "Connection", "Port", 0), 0);
+    const struct {
+        ConnectChoice choice;
+        const char* host;
+    } cases[] = {{ConnectChoice::Offline, "127.0.0.1"}, {ConnectChoice::Connect, ""}};
+    for (const auto& c : cases) {
+        desktop.choice = c.choice;
+        desktop.answerHost = c.host;
+        desktop.answerPort = world->port;
+        auto client = MakeClient("");
+        ASSERT_TRUE(client->Start()) << c.host;
+        EXPECT_TRUE(client->IsDisconnected());
+        EXPECT_NE(client->State().Windows.GameWindow, nullptr);
+        EXPECT_NE(GameText(*client).find("*** Operating in an Offline mode."), std::string::npos);
+        EXPECT_STREQ(client->State().ConnectionString, "/H127.0.0.1/P34283");
+        const std::string ini = folder.filePath("Thornmere.Ini").toStdString();
+        EXPECT_EQ(ReadInt(ini, "Connection", "Port", 0), 0);
 
-    client->Frame().close();
-    EXPECT_EQ(desktop.exitQuestions, 0);
+        client->Frame().close();
+        EXPECT_EQ(desktop.exitQuestions, 0);
+    }
+    EXPECT_TRUE(desktop.messages.empty());
+}
+
+TEST_F(ClientWorldTest, AProfileSavedAfterPlayHoldsTheGaugeColours)
+{
+    {
+        auto client = MakeClient(Address());
+        ASSERT_TRUE(client->Start());
+        ASSERT_TRUE(WaitForGameText(*client, "By what name are you known?"));
+        Type(*client, "Tester");
+        ASSERT_TRUE(
+            QTest::qWaitFor([&] { return client->State().Panel.Hp.GetMax() > 0; }, WAIT_MS));
+        client->Frame().close();
+    }
+    const struct {
+        const char* key;
+        std::uint32_t bar;
+    } gauges[] = {{"Health", 0x5ADC5A}, {"Fatigue", 0x6E6EE6}, {"Weight", 0x82F0DC},
+                  {"PSI", 0xF0A0C8},    {"Web", 0x558CE6},     {"RT", 0x5A5AFA},
+                  {"Pause", 0xBE78C8}};
+    const std::string dat = folder.filePath("Default.Dat").toStdString();
+    for (const auto& gauge : gauges) {
+        GaugeColorBytes bytes{};
+        ASSERT_TRUE(ReadBinary(dat, "Colors", gauge.key, bytes.data(), bytes.size())) << gauge.key;
+        const GaugeColors colors = GaugeColorsFromBytes(bytes);
+        EXPECT_EQ(colors.GaugeTextColor, 0xFFFFFFu) << gauge.key;
+        EXPECT_EQ(colors.BarColor, gauge.bar) << gauge.key;
+        EXPECT_EQ(colors.GaugeBackColor, 0x5F5F5Fu) << gauge.key;
+    }
 }
 
 TEST_F(ClientWorldTest, PauseRestsAndAnyKeyWakes)
@@ -273,18 +314,34 @@ TEST_F(ClientWorldTest, ClosedPortEndsTheStartWithItsMessage)
               std::vector<std::string>{"Fatal Error|Unable to connect to the server!"});
 }
 
-TEST_F(ClientWorldTest, CancelEndsTheStartAndSavesNothing)
+// Every file of the folder with its bytes.
+std::map<QString, QByteArray> FolderBytes(const QString& path)
 {
+    std::map<QString, QByteArray> files;
+    for (const QString& name : QDir(path).entryList(QDir::Files)) {
+        QFile file(QDir(path).filePath(name));
+        if (file.open(QIODevice::ReadOnly))
+            files[name] = file.readAll();
+    }
+    return files;
+}
+
+TEST_F(ClientWorldTest, CancelEndsTheStartAndLeavesEveryFileAsItWas)
+{
+    {
+        desktop.choice = ConnectChoice::Offline;
+        auto earlier = MakeClient("");
+        ASSERT_TRUE(earlier->Start());
+        earlier->Frame().close();
+    }
+    // A state that a window would write back differently.
+    WriteString(folder.filePath("Default.Dat").toStdString(), "Game Window", "StateInfo", "11");
+    const auto before = FolderBytes(folder.path());
     desktop.choice = ConnectChoice::Cancel;
     auto client = MakeClient("");
     EXPECT_FALSE(client->Start());
     client.reset();
-    const std::string ini = folder.filePath("Thornmere.Ini").toStdString();
-    char value[64];
-    ReadString(ini, "Connection", "Host", value, sizeof value, "none");
-    EXPECT_STREQ(value, "none");
-    ReadString(ini, "History", "LastChar", value, sizeof value, "none");
-    EXPECT_STREQ(value, "none");
+    EXPECT_EQ(FolderBytes(folder.path()), before);
 }
 
 } // namespace

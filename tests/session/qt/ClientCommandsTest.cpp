@@ -17,12 +17,17 @@
 #include <QFile>
 #include <QGuiApplication>
 #include <QLineEdit>
+#include <QMdiSubWindow>
+#include <QMenuBar>
+#include <QStyle>
+#include <QStyleOption>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
 #include <gtest/gtest.h>
 
 #include <memory>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -211,6 +216,73 @@ TEST_F(ClientCommandsTest, WindowMenuOpensWindowsAndArrangesThem)
     mdi.Child(THOUGHT_ROW)->close();
     EXPECT_EQ(client->State().Windows.ThoughtWindow, nullptr);
     EXPECT_EQ(mdi.Child(ARRIVAL_ROW)->geometry(), QRect(0, 0, area.Width, area.Height / 4));
+}
+
+// Clicks the close button of a sub-window: in its title bar, or in the frame's menu bar while
+// the sub-window is maximised.
+void ClickCloseButton(FrameWindow& frame, QMdiSubWindow& sub)
+{
+    QWidget* controls = frame.menuBar()->findChild<QWidget*>(QStringLiteral("qt_maxcontrols"));
+    if (sub.isMaximized() && controls && controls->isVisible()) {
+        QStyleOptionComplex option;
+        option.initFrom(controls);
+        option.subControls = QStyle::SC_All;
+        const QRect button = controls->style()->subControlRect(QStyle::CC_MdiControls, &option,
+                                                               QStyle::SC_MdiCloseButton, controls);
+        QTest::mouseClick(controls, Qt::LeftButton, {}, button.center());
+        return;
+    }
+    QStyleOptionTitleBar option;
+    option.initFrom(&sub);
+    option.subControls = QStyle::SC_All;
+    option.titleBarFlags = sub.windowFlags();
+    option.titleBarState = sub.windowState();
+    option.rect = QRect(0, 0, sub.width(), sub.style()->pixelMetric(QStyle::PM_TitleBarHeight));
+    const QRect button = sub.style()->subControlRect(QStyle::CC_TitleBar, &option,
+                                                     QStyle::SC_TitleBarCloseButton, &sub);
+    QTest::mouseClick(&sub, Qt::LeftButton, {}, button.center());
+}
+
+TEST_F(ClientCommandsTest, TextWindowsCloseByTheirButtonAndReopenAgainAndAgain)
+{
+    const struct {
+        WindowRow row;
+        int reopen;
+    } windows[] = {{GAME_ROW, CMD_OPEN_GAME_WINDOW}, {THOUGHT_ROW, CMD_OPEN_THOUGHT_WINDOW}};
+    MdiClient& mdi = client->Frame().Mdi();
+    client->Frame().show();
+    for (int mode : {CMD_GRAPHICS_AT_BOTTOM, CMD_GRAPHICS_AT_TOP, CMD_FULL_SCREEN}) {
+        client->OnCommand(mode);
+        for (bool autoArrange : {true, false}) {
+            if ((client->State().Profile.Settings.AutoArrange != 0) != autoArrange)
+                client->OnCommand(CMD_AUTO_ARRANGE);
+            for (const auto& window : windows) {
+                for (int i = 0; i < 20; ++i) {
+                    ASSERT_NE(mdi.Child(window.row), nullptr);
+                    ClickCloseButton(client->Frame(), *mdi.Child(window.row));
+                    ASSERT_EQ(mdi.Child(window.row), nullptr)
+                        << mode << " " << autoArrange << " " << i;
+                    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+                    client->OnCommand(window.reopen);
+                }
+            }
+        }
+    }
+}
+
+TEST_F(ClientCommandsTest, CascadeLeavesEachWindowLargeEnoughToRead)
+{
+    client->OnCommand(CMD_OPEN_ARRIVAL_WINDOW);
+    client->OnCommand(CMD_CASCADE);
+    MdiClient& mdi = client->Frame().Mdi();
+    const Area area = mdi.ClientArea();
+    std::set<int> corners;
+    for (QMdiSubWindow* sub : mdi.subWindowList()) {
+        EXPECT_GE(sub->width(), area.Width / 2);
+        EXPECT_GE(sub->height(), area.Height / 2);
+        corners.insert(sub->y());
+    }
+    EXPECT_EQ(corners.size(), 3u);
 }
 
 TEST_F(ClientCommandsTest, DisplayModesMoveTheTextArea)
