@@ -22,6 +22,12 @@ struct RememberCase {
     std::vector<std::string> stored;
 };
 
+void PrintTo(const RememberCase& c, std::ostream* out)
+{
+    *out << "shortest " << c.minLength << ": " << ::testing::PrintToString(c.typed) << " keeps "
+         << ::testing::PrintToString(c.stored);
+}
+
 class RememberTest : public ::testing::TestWithParam<RememberCase> {};
 
 TEST_P(RememberTest, StoresWhatTheRulesAllow)

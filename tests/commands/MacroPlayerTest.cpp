@@ -122,6 +122,11 @@ struct WordCase {
     Strings hostCalls;
 };
 
+void PrintTo(const WordCase& c, std::ostream* out)
+{
+    *out << ::testing::PrintToString(std::string(c.text));
+}
+
 class MacroWordTest : public MacroPlayerTest, public ::testing::WithParamInterface<WordCase> {};
 
 TEST_P(MacroWordTest, PostsOrCallsTheFrame)

@@ -13,6 +13,11 @@ struct RewriteCase {
     std::string output;
 };
 
+void PrintTo(const RewriteCase& c, std::ostream* out)
+{
+    *out << ::testing::PrintToString(c.input) << " becomes " << ::testing::PrintToString(c.output);
+}
+
 std::string Contact(const std::string& text)
 {
     char buffer[512];

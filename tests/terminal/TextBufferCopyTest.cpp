@@ -46,6 +46,11 @@ struct RoomCase {
     std::string copied;
 };
 
+void PrintTo(const RoomCase& c, std::ostream* out)
+{
+    *out << "room " << c.room << " copies " << ::testing::PrintToString(c.copied);
+}
+
 class TextBufferCopyIntoRoom : public testing::TestWithParam<RoomCase> {};
 
 // However small the room, nothing is written past it, and the copy still ends in CR LF NUL

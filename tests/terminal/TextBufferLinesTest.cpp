@@ -32,6 +32,11 @@ struct CountCase {
     std::int32_t lines;
 };
 
+void PrintTo(const CountCase& c, std::ostream* out)
+{
+    *out << ::testing::PrintToString(std::string(c.text)) << " has " << c.lines << " lines";
+}
+
 class TextBufferCountLines : public testing::TestWithParam<CountCase> {};
 
 TEST_P(TextBufferCountLines, AfterAFreshStart)
@@ -94,6 +99,11 @@ struct SeekCase {
     std::int32_t index;
     std::string line;
 };
+
+void PrintTo(const SeekCase& c, std::ostream* out)
+{
+    *out << "line " << c.index << " is " << ::testing::PrintToString(c.line);
+}
 
 class TextBufferSeekLine : public testing::TestWithParam<SeekCase> {};
 

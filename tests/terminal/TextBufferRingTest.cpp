@@ -223,6 +223,11 @@ struct AdvanceCase {
     TextBuffer::Position expected;
 };
 
+void PrintTo(const AdvanceCase& c, std::ostream* out)
+{
+    *out << c.from << " by " << c.count << " gives " << c.expected;
+}
+
 class TextBufferAdvance : public testing::TestWithParam<AdvanceCase> {};
 
 TEST_P(TextBufferAdvance, WrapsAtTheSeam)
