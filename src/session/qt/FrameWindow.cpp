@@ -49,8 +49,9 @@ FrameWindow::FrameWindow(Handlers handlers, QWidget* parent)
     setCentralWidget(surface_);
     menu_ = new FrameMenu(*menuBar(), *mdi_, handlers_.Command, handlers_.ReadMenuInputs);
     // Escape from a menu leaves the menu bar with the focus, where letters would open menus.
-    connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* now) {
-        if (now == menuBar())
+    QMenuBar* bar = menuBar();
+    connect(qApp, &QApplication::focusChanged, bar, [this, bar](QWidget*, QWidget* now) {
+        if (now == bar)
             QMetaObject::invokeMethod(this, &FrameWindow::FocusCommandLine, Qt::QueuedConnection);
     });
 }
