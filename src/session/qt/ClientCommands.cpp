@@ -197,7 +197,6 @@ void Client::AskDragTarget()
     if (!desktop_.AskDragTarget(frame_.get(), target))
         target.clear();
     std::snprintf(dragTarget, sizeof dragTarget, "%s", target.c_str());
-    frame_->FocusCommandLine();
 }
 
 void Client::OnWheel(bool shift, int amount)

@@ -107,9 +107,7 @@ void Client::PostClose()
 
 bool Client::AskString(const char* title, char* answer, std::size_t capacity)
 {
-    const bool given = desktop_.AskString(frame_.get(), title, answer, capacity);
-    frame_->FocusCommandLine();
-    return given;
+    return desktop_.AskString(frame_.get(), title, answer, capacity);
 }
 
 void Client::PumpFor(int seconds)

@@ -3,7 +3,6 @@
 #include "session/qt/FrameMenu.h"
 #include "session/qt/MdiClient.h"
 
-#include <QApplication>
 #include <QCloseEvent>
 #include <QMenuBar>
 #include <QPainter>
@@ -48,12 +47,6 @@ FrameWindow::FrameWindow(Handlers handlers, QWidget* parent)
     setMinimumSize(MIN_TRACK_SIZE, MIN_TRACK_SIZE);
     setCentralWidget(surface_);
     menu_ = new FrameMenu(*menuBar(), *mdi_, handlers_.Command, handlers_.ReadMenuInputs);
-    // Escape from a menu leaves the menu bar with the focus, where letters would open menus.
-    QMenuBar* bar = menuBar();
-    connect(qApp, &QApplication::focusChanged, bar, [this, bar](QWidget*, QWidget* now) {
-        if (now == bar)
-            QMetaObject::invokeMethod(this, &FrameWindow::FocusCommandLine, Qt::QueuedConnection);
-    });
 }
 
 FrameWindow::~FrameWindow() = default;

@@ -4,7 +4,6 @@
 #include "session/qt/MdiClient.h"
 
 #include <QAction>
-#include <QApplication>
 #include <QLineEdit>
 #include <QMenu>
 #include <QMenuBar>
@@ -38,21 +37,6 @@ class FrameWindowTest : public ::testing::Test {
     bool active = false;
     std::unique_ptr<FrameWindow> frame;
 };
-
-TEST_F(FrameWindowTest, EscapeFromAMenuOpenedWithTheMouseGivesTheLineTheFocus)
-{
-    auto* line = new QLineEdit;
-    frame->SetCommandLine(line);
-    line->setFocus();
-    QMenuBar* bar = frame->menuBar();
-    QTest::mouseClick(bar, Qt::LeftButton, {},
-                      bar->actionGeometry(bar->actions().front()).center());
-    ASSERT_TRUE(QTest::qWaitFor([] { return QApplication::activePopupWidget() != nullptr; }));
-    QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_Escape);
-    EXPECT_TRUE(QTest::qWaitFor([&] { return QApplication::focusWidget() == line; }));
-    QTest::keyClicks(QApplication::focusWidget(), "look");
-    EXPECT_EQ(line->text(), QStringLiteral("look"));
-}
 
 TEST_F(FrameWindowTest, TitleAndMenusInTheirOrder)
 {
