@@ -1,17 +1,16 @@
-#include "analysis/LinePipeline.h"
+#include "base/FrameQueue.h"
 #include "config/BufferedLog.h"
 #include "config/Settings.h"
-#include "connection/GameLineSink.h"
+#include "connection/GameSocket.h"
 #include "connection/PacketDump.h"
-#include "connection/StreamDecoder.h"
 #include "highlights/HighlightLists.h"
 #include "highlights/HighlightMatch.h"
 #include "panels/StatusPanel.h"
 #include "scripts/ScriptWait.h"
 #include "scripts/Tokenizer.h"
-#include "session/ChildWindows.h"
-#include "session/FrameQueue.h"
+#include "session/GameLink.h"
 #include "terminal/AnsiWindow.h"
+#include "terminal/ChildWindows.h"
 
 #include "GameLines.h"
 #include "NullWindowHost.h"
@@ -135,13 +134,12 @@ class NoonClock : public LocalClock {
     TimeOfDay Now() const override { return {12, 0}; }
 };
 
-class PipelineSink : public GameLineSink {
+// The program runs offline: nothing is ever written.
+class OfflineSocket : public GameSocket {
   public:
-    explicit PipelineSink(LinePipeline& pipeline) : pipeline_(pipeline) {}
-    void ProcessGameLine(const char* line) override { pipeline_.ProcessGameLine(line); }
-
-  private:
-    LinePipeline& pipeline_;
+    bool Open(const char*, std::uint16_t, int) override { return false; }
+    void Write(const char*, std::size_t) override {}
+    void Close() override {}
 };
 
 // The whole receive path: blocks decoded into lines, the line analysis with both lists, and
@@ -162,18 +160,18 @@ void BM_ReceiveWithHighlights(benchmark::State& state)
     Tokenizer words;
     NoonClock clock;
     ChildWindows windows;
-    LinePipeline pipeline({settings, sessionLog, lists, sounds, windows, queue, script, panel,
-                           words, clock, nullptr});
+    PacketDump dump;
+    OfflineSocket socket;
+    GameLink link(
+        {settings, sessionLog, lists, sounds, windows, queue, script, panel, words, clock, nullptr},
+        dump, socket);
     NullWindowHost host;
     std::unique_ptr<AnsiWindow> game =
-        AnsiWindow::Create("Game Window", {host, settings, nullptr, &pipeline.Prompt()});
+        AnsiWindow::Create("Game Window", {host, settings, nullptr, &link.Pipeline().Prompt()});
     windows.GameWindow = game.get();
-    PipelineSink sink(pipeline);
-    PacketDump dump;
-    StreamDecoder decoder(sink, dump, settings);
     for (auto _ : state) {
         for (std::size_t at = 0; at + BLOCK_SIZE <= stream.size(); at += BLOCK_SIZE)
-            decoder.HandleSocketEvent(stream.data() + at, BLOCK_SIZE);
+            link.ReceiveBlock(stream.data() + at, BLOCK_SIZE);
         benchmark::DoNotOptimize(game->GetLiveBuffer().GetWritePos());
     }
     state.SetBytesProcessed(

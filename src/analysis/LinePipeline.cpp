@@ -1,15 +1,15 @@
 #include "analysis/LinePipeline.h"
 
-#include "analysis/ByteText.h"
+#include "base/ByteText.h"
+#include "base/ColorCode.h"
+#include "base/FrameCommand.h"
+#include "base/FrameQueue.h"
 #include "config/BufferedLog.h"
 #include "config/Settings.h"
-#include "connection/ColorCode.h"
 #include "connection/EscapeByte.h"
 #include "scripts/ScriptWait.h"
-#include "session/ChildWindows.h"
-#include "session/FrameCommand.h"
-#include "session/FrameQueue.h"
 #include "terminal/AnsiWindow.h"
+#include "terminal/ChildWindows.h"
 
 namespace steward {
 

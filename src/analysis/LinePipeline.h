@@ -1,8 +1,8 @@
 #pragma once
 
 #include "analysis/LocalClock.h"
-#include "analysis/PromptState.h"
 #include "connection/GameLineSink.h"
+#include "terminal/PromptState.h"
 
 #include <cstddef>
 #include <cstdint>

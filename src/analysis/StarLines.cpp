@@ -1,11 +1,11 @@
-#include "analysis/ByteText.h"
 #include "analysis/LinePipeline.h"
+#include "base/ByteText.h"
 
 #include "config/Settings.h"
 #include "highlights/HighlightLists.h"
 #include "panels/StatusPanel.h"
 #include "scripts/Tokenizer.h"
-#include "session/ChildWindows.h"
+#include "terminal/ChildWindows.h"
 
 #include <cstdio>
 #include <cstdlib>

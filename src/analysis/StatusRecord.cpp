@@ -5,7 +5,7 @@
 #include "connection/EscapeByte.h"
 #include "panels/StatusPanel.h"
 #include "scripts/ScriptWait.h"
-#include "session/ChildWindows.h"
+#include "terminal/ChildWindows.h"
 
 #include <cstdio>
 #include <cstring>

@@ -1,6 +1,8 @@
 #include "commands/CommandRoad.h"
 
-#include "analysis/ByteText.h"
+#include "base/ByteText.h"
+#include "base/FrameCommand.h"
+#include "base/FrameQueue.h"
 #include "commands/CommandHistory.h"
 #include "commands/CommandLineEdit.h"
 #include "commands/CommandSink.h"
@@ -9,8 +11,6 @@
 #include "config/Settings.h"
 #include "connection/EscapeByte.h"
 #include "scripts/Rewrites.h"
-#include "session/FrameCommand.h"
-#include "session/FrameQueue.h"
 
 #include <cstring>
 

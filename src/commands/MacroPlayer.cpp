@@ -1,13 +1,13 @@
 #include "commands/MacroPlayer.h"
 
-#include "analysis/ByteText.h"
+#include "base/ByteText.h"
+#include "base/FrameCommand.h"
+#include "base/FrameQueue.h"
 #include "commands/CommandLineEdit.h"
 #include "commands/CommandRoad.h"
 #include "commands/KeyboardHost.h"
 #include "commands/MacroStore.h"
 #include "commands/ScriptNames.h"
-#include "session/FrameCommand.h"
-#include "session/FrameQueue.h"
 
 #include <cstring>
 

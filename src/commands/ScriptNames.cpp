@@ -1,6 +1,6 @@
 #include "commands/ScriptNames.h"
 
-#include "analysis/ByteText.h"
+#include "base/ByteText.h"
 #include "commands/CommandParts.h"
 
 #include <cstring>

@@ -1,6 +1,6 @@
 #include "config/BufferedLog.h"
 
-#include "connection/ColorCode.h"
+#include "base/ColorCode.h"
 
 #include <cstdio>
 #include <cstring>

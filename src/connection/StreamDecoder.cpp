@@ -1,6 +1,6 @@
 #include "connection/StreamDecoder.h"
 
-#include "connection/ColorCode.h"
+#include "base/ColorCode.h"
 #include "connection/EscapeByte.h"
 #include "connection/GameLineSink.h"
 

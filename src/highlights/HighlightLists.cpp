@@ -1,7 +1,7 @@
 #include "highlights/HighlightLists.h"
 
+#include "base/FrameCommand.h"
 #include "highlights/HighlightMatch.h"
-#include "session/FrameCommand.h"
 
 namespace steward {
 namespace {

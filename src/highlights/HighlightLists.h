@@ -1,10 +1,10 @@
 #pragma once
 
+#include "base/FrameCommand.h"
 #include "highlights/ClipboardHighlights.h"
 #include "highlights/HighlightList.h"
 #include "highlights/HighlightMatcher.h"
 #include "highlights/SoundPlayer.h"
-#include "session/FrameCommand.h"
 
 #include <cstddef>
 #include <functional>

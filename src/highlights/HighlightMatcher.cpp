@@ -1,6 +1,6 @@
 #include "highlights/HighlightMatcher.h"
 
-#include "connection/ColorCode.h"
+#include "base/ColorCode.h"
 
 #include <algorithm>
 #include <bit>

@@ -1,7 +1,7 @@
 #include "highlights/HighlightRule.h"
 
+#include "base/ByteText.h"
 #include "highlights/HighlightList.h"
-#include "highlights/HighlightText.h"
 
 #include <cstring>
 

@@ -1,6 +1,6 @@
 #include "highlights/PatternAutomaton.h"
 
-#include "highlights/HighlightText.h"
+#include "base/ByteText.h"
 
 #include <cstring>
 #include <utility>

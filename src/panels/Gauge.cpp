@@ -1,17 +1,10 @@
 #include "panels/Gauge.h"
 
+#include "base/ByteText.h"
+
 #include <cstdio>
 
 namespace steward {
-
-namespace {
-
-void CopyCut(char* out, std::size_t size, const char* text)
-{
-    std::snprintf(out, size, "%s", text ? text : "");
-}
-
-} // namespace
 
 Gauge::Gauge(const char* label, std::uint32_t flags, bool horizontal, GaugeColors colors)
     : GaugeFlags(flags), Horizontal(horizontal), colors_(colors)

@@ -1,6 +1,6 @@
 #include "panels/PanelStates.h"
 
-#include <cstdio>
+#include "base/ByteText.h"
 
 namespace steward {
 
@@ -49,7 +49,7 @@ void IconState::SetState(std::uint32_t state)
 
 void PanelText::SetText(const char* text)
 {
-    std::snprintf(text_, sizeof text_, "%s", text ? text : "");
+    CopyCut(text_, sizeof text_, text ? text : "");
     if (view_)
         view_->Repaint();
 }

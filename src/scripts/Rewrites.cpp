@@ -1,6 +1,6 @@
 #include "scripts/Rewrites.h"
 
-#include "analysis/ByteText.h"
+#include "base/ByteText.h"
 
 #include <cctype>
 #include <cstring>

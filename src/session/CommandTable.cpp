@@ -1,6 +1,6 @@
 #include "session/CommandTable.h"
 
-#include "session/FrameCommand.h"
+#include "base/FrameCommand.h"
 
 #include <algorithm>
 #include <array>

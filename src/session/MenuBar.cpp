@@ -1,6 +1,6 @@
 #include "session/MenuBar.h"
 
-#include "session/FrameCommand.h"
+#include "base/FrameCommand.h"
 
 #include <array>
 

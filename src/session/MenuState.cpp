@@ -1,8 +1,8 @@
 #include "session/MenuState.h"
 
+#include "base/FrameCommand.h"
 #include "config/Settings.h"
 #include "session/CommandTable.h"
-#include "session/FrameCommand.h"
 
 namespace steward {
 

@@ -1,12 +1,14 @@
 #include "session/Session.h"
 
+#include "base/ByteText.h"
+
 #include <cstdio>
 
 namespace steward {
 
 void SetConnectionString(Session& session, const char* text)
 {
-    std::snprintf(session.ConnectionString, CONNECTION_STRING_SIZE, "%s", text);
+    CopyCut(session.ConnectionString, CONNECTION_STRING_SIZE, text);
 }
 
 void FormatConnectionString(char (&out)[CONNECTION_STRING_SIZE], const char* host, int port)

@@ -7,8 +7,8 @@
 #include "panels/StatusPanel.h"
 #include "scripts/ScriptWait.h"
 #include "scripts/Tokenizer.h"
-#include "session/ChildWindows.h"
 #include "session/RestMode.h"
+#include "terminal/ChildWindows.h"
 
 #include <cstddef>
 

@@ -1,11 +1,11 @@
 #pragma once
 
-#include "analysis/PromptState.h"
 #include "config/BinaryRecords.h"
 #include "config/Settings.h"
 #include "terminal/AnsiWindowHost.h"
 #include "terminal/ColorStacks.h"
 #include "terminal/DrawingLayer.h"
+#include "terminal/PromptState.h"
 #include "terminal/ScrollCommand.h"
 #include "terminal/TextBuffer.h"
 

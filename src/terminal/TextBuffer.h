@@ -5,7 +5,7 @@
 #include <cstdint>
 #include <memory>
 
-#include "connection/ColorCode.h"
+#include "base/ColorCode.h"
 
 namespace steward {
 

@@ -1,8 +1,5 @@
 #include "PipelineFixture.h"
 
-#include "connection/PacketDump.h"
-#include "connection/StreamDecoder.h"
-
 #include <random>
 
 namespace steward::testing {
@@ -74,16 +71,14 @@ TEST_F(PipelineTest, AHostileStreamNeverBreaksTheReceivePath)
     highlights.NameHighlights.Add("Mara", 14);
     windows.ThoughtWindow = Thought();
     windows.ArrivalWindow = Arrival();
-    PacketDump dump;
-    StreamDecoder decoder(pipeline, dump, options);
     std::mt19937 random(4097);
     for (int round = 0; round < 400; ++round) {
         options.CompressThoughtMessages = round % 2;
         options.OnlyListedArrivals = round % 3 == 0;
         options.ShowStatusPrompt = round % 5 == 0;
-        decoder.SetHoldPartialLines(round % 4 != 0);
+        link.SetHoldPartialLines(round % 4 != 0);
         const std::string block = HostileBlock(random);
-        decoder.HandleSocketEvent(block.data(), block.size());
+        link.ReceiveBlock(block.data(), block.size());
         ASSERT_FALSE(HoldsColorCode(pipeline.Plain())) << "round " << round;
     }
     EXPECT_FALSE(sounds.played.empty());

@@ -1,6 +1,6 @@
 #include "PipelineFixture.h"
 
-#include "connection/ColorCode.h"
+#include "base/ColorCode.h"
 
 namespace steward::testing {
 namespace {

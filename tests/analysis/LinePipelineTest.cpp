@@ -1,6 +1,6 @@
 #include "PipelineFixture.h"
 
-#include "session/FrameCommand.h"
+#include "base/FrameCommand.h"
 
 namespace steward::testing {
 namespace {
@@ -30,7 +30,7 @@ TEST_F(PipelineTest, AConnectAsksForTheModeAgain)
 {
     pipeline.ProcessGameLine("Obvious exits: north\r\n");
     pipeline.ProcessGameLine("x\r\n");
-    pipeline.ResetStatusMode();
+    ASSERT_EQ(link.ConnectToGame("/H127.0.0.1/P34283"), CONNECT_OK);
     pipeline.ProcessGameLine("Obvious exits: north\r\n");
     pipeline.ProcessGameLine("x\r\n");
     EXPECT_EQ(queue.commands.size(), 2u);

@@ -1,17 +1,19 @@
 #pragma once
 
-#include "analysis/LinePipeline.h"
+#include "base/ColorCode.h"
+#include "base/FrameQueue.h"
 #include "config/BufferedLog.h"
 #include "config/Settings.h"
-#include "connection/ColorCode.h"
+#include "connection/PacketDump.h"
+#include "connection/RecordingSocket.h"
 #include "highlights/HighlightLists.h"
 #include "panels/StatusPanel.h"
 #include "scripts/ScriptWait.h"
 #include "scripts/Tokenizer.h"
-#include "session/ChildWindows.h"
-#include "session/FrameQueue.h"
+#include "session/GameLink.h"
 #include "support/TempFolder.h"
 #include "terminal/AnsiWindow.h"
+#include "terminal/ChildWindows.h"
 #include "terminal/TextBufferFixture.h"
 #include "terminal/WindowFixture.h"
 
@@ -56,8 +58,8 @@ class RecordingSounds : public HighlightSounds {
     std::vector<std::string> played;
 };
 
-// The pipeline with real text windows, a real session log and real highlight lists; only the
-// frame's queue, the clock and the sound output are doubles.
+// The game link with real text windows, a real session log and real highlight lists; only the
+// socket, the frame's queue, the clock and the sound output are doubles.
 class PipelineTest : public ::testing::Test {
   protected:
     PipelineTest()
@@ -104,8 +106,13 @@ class PipelineTest : public ::testing::Test {
     ScriptWaitState script;
     StatusPanel panel;
     Tokenizer words;
-    LinePipeline pipeline{{options, sessionLog, highlights, sounds, windows, queue, script, panel,
-                           words, clock, nullptr}};
+    RecordingSocket socket;
+    PacketDump dump;
+    GameLink link{{options, sessionLog, highlights, sounds, windows, queue, script, panel, words,
+                   clock, nullptr},
+                  dump,
+                  socket};
+    LinePipeline& pipeline = link.Pipeline();
     std::unique_ptr<AnsiWindow> game;
     std::unique_ptr<AnsiWindow> thought;
     std::unique_ptr<AnsiWindow> arrival;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "base/FrameQueue.h"
 #include "commands/CommandHistory.h"
 #include "commands/CommandLineEdit.h"
 #include "commands/CommandParts.h"
@@ -10,10 +11,9 @@
 #include "commands/KeyboardHost.h"
 #include "commands/MacroPlayer.h"
 #include "commands/MacroStore.h"
-#include "session/FrameQueue.h"
 
+#include "base/FrameCommand.h"
 #include "config/Settings.h"
-#include "session/FrameCommand.h"
 
 #include <algorithm>
 #include <cstdio>

@@ -2,6 +2,7 @@
 #include "config/Settings.h"
 #include "connection/GameSocket.h"
 #include "connection/RecordingSink.h"
+#include "connection/RecordingSocket.h"
 #include "connection/StreamDecoder.h"
 
 #include <gtest/gtest.h>
@@ -12,26 +13,9 @@
 namespace steward {
 namespace {
 
-class RecordingSocket : public GameSocket {
-  public:
-    bool Open(const char* host, std::uint16_t port, int timeout) override
-    {
-        opened.push_back(std::string(host) + ":" + std::to_string(port) + " " +
-                         std::to_string(timeout));
-        return accept;
-    }
-    void Write(const char* bytes, std::size_t length) override { sent.append(bytes, length); }
-    void Close() override { ++closes; }
-
-    bool accept = true;
-    std::vector<std::string> opened;
-    std::string sent;
-    int closes = 0;
-};
-
 class ConnectionTest : public ::testing::Test {
   protected:
-    RecordingSocket socket;
+    testing::RecordingSocket socket;
     testing::RecordingSink lines;
     PacketDump dump;
     Settings settings;

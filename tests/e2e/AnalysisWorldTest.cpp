@@ -1,7 +1,7 @@
 #include "ClientHarness.h"
+#include "base/ByteText.h"
+#include "base/FrameCommand.h"
 #include "config/ConfigFiles.h"
-#include "highlights/HighlightText.h"
-#include "session/FrameCommand.h"
 
 #include <QTcpSocket>
 

@@ -1,7 +1,7 @@
 #include "ClientHarness.h"
+#include "base/FrameCommand.h"
 #include "config/BinaryRecords.h"
 #include "config/IniStore.h"
-#include "session/FrameCommand.h"
 
 #include <QDir>
 #include <QEventLoop>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "connection/ColorCode.h"
+#include "base/ColorCode.h"
 #include "highlights/ClipboardHighlights.h"
 #include "highlights/HighlightList.h"
 #include "highlights/SoundPlayer.h"

@@ -1,6 +1,6 @@
 #include "highlights/HighlightLists.h"
 #include "HighlightDoubles.h"
-#include "session/FrameCommand.h"
+#include "base/FrameCommand.h"
 
 #include <gtest/gtest.h>
 

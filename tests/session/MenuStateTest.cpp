@@ -1,5 +1,5 @@
 #include "session/MenuState.h"
-#include "session/FrameCommand.h"
+#include "base/FrameCommand.h"
 
 #include <gtest/gtest.h>
 

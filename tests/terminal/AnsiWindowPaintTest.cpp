@@ -1,6 +1,6 @@
 #include "WindowFixture.h"
 
-#include "connection/ColorCode.h"
+#include "base/ColorCode.h"
 
 #include <string>
 

@@ -1,24 +1,16 @@
 #pragma once
 
-#include "analysis/LinePipeline.h"
-#include "analysis/LocalClock.h"
-#include "commands/CommandSink.h"
-#include "commands/KeyboardHost.h"
-#include "config/LogHost.h"
-#include "config/ProfileParts.h"
-#include "connection/Connection.h"
-#include "connection/GameSocket.h"
-#include "connection/StreamDecoder.h"
+#include "analysis/qt/QtLocalClock.h"
+#include "base/FrameQueue.h"
 #include "connection/qt/QtGameSocket.h"
 #include "highlights/HighlightLists.h"
 #include "highlights/HighlightSound.h"
 #include "panels/qt/QtGaugeTimer.h"
-#include "session/FrameQueue.h"
-#include "session/LogNames.h"
+#include "session/GameLink.h"
 #include "session/MenuState.h"
 #include "session/RestMode.h"
 #include "session/Session.h"
-#include "session/WindowTable.h"
+#include "session/qt/QtLogHost.h"
 
 #include <QObject>
 #include <QTimer>
@@ -28,12 +20,14 @@
 
 namespace steward {
 
+class ChildWindowSet;
 class CommandLine;
 class Desktop;
 class FrameWindow;
 class Keyboard;
 class KeyFilterQt;
-class MdiClient;
+class QtKeyboardHost;
+class QtProfileHost;
 
 // What the process was started with.
 struct ClientOptions {
@@ -44,18 +38,10 @@ struct ClientOptions {
     std::string PacketDumpPath;
 };
 
-// The whole client: the session's state, the frame, the connection and the road of every
-// line between them. It serves the frame's commands through one switchboard.
-class Client : public QObject,
-               private SocketListener,
-               private FrameQueue,
-               private LocalClock,
-               private ProfileParts,
-               private LogHost,
-               private RestSender,
-               private FileProbe,
-               private CommandSink,
-               private KeyboardHost {
+// The client: start-up and shutdown, the switchboard of frame commands and the frame's queue.
+// It owns the game link and the hosts that serve the rest: the child windows, the keyboard,
+// the profile and the logs.
+class Client : public QObject, private FrameQueue, private RestSender {
     Q_OBJECT
   public:
     Client(ClientOptions options, Desktop& desktop);
@@ -75,47 +61,32 @@ class Client : public QObject,
     void OnCommand(int command);
     // The full road of a text to the game, with its echo.
     void SendCommand(const char* text) override;
-    void PrintToGameWindow(const char* text) override;
 
     FrameWindow& Frame() { return *frame_; }
+    ChildWindowSet& Windows() { return *windows_; }
     Session& State() { return session_; }
-    bool IsDisconnected() const { return connection_.IsDisconnected(); }
+    bool IsDisconnected() const { return link_.IsDisconnected(); }
 
   private:
     // Pause enters rest mode, Shift+Pause rests without snoring.
     void AddRestKeys();
     // Start-up steps.
-    void PlaceFrame();
-    void ShowVersionNotesOnce();
-    // The connection string of the command line, or the dialog's choice; false on Cancel.
-    bool ChooseConnection(char (&connection)[CONNECTION_STRING_SIZE], std::string& host, int& port);
     bool ChooseAndConnect();
 
     // The frame's messages.
     bool OnClose();
     void OnDropped();
-    void OnTimer();
     void OnWheel(bool shift, int amount);
     void OnLoopTurn();
     MenuInputs ReadMenuInputs() const;
-    void ReadEditInputs(MenuInputs& in) const;
 
     // Commands.
     bool ServeFixedCommand(int command);
-    void RunNotes();
-    void RunNotepad(const std::string& path);
-    void OpenDatedLog();
-    void ToggleAutoLog();
     void Reconnect();
     void ResetStewardMode();
     void EnterRestMode(bool silent);
     void SetDisplayMode(std::uint8_t mode);
-    void OpenWindowCommand(WindowRow row);
     void ToggleAutoArrange();
-    void TileCommand(void (MdiClient::*tile)());
-    void OpenLogWithDialog();
-    void RunVersionNotes();
-    void CopyCommand();
     // Copy Special: the clipboard's lines go to the string or the name highlights.
     void CopyToHighlights(int command);
     // DRAG_DIALOG: OK takes the field as DragTarget, "Stop Dragging" empties it.
@@ -127,78 +98,29 @@ class Client : public QObject,
     };
     static const CommandEntry COMMANDS[];
 
-    // Child windows.
-    AnsiWindow*& Handle(WindowRow row);
-    AnsiWindow* OpenChildWindow(WindowRow row);
-    void ChildClosed(WindowRow row);
-    void ArrangeWindows(bool force);
-    AnsiWindow* ActiveChild() const;
-
-    // SocketListener.
-    std::size_t BlockSize() const override;
-    void ReceiveBlock(const char* bytes, std::size_t length) override;
-    void ConnectionClosed() override;
     // FrameQueue.
     void PostCommand(int command) override;
     void PostDropped() override;
-    // LocalClock.
-    TimeOfDay Now() const override;
-    // ProfileParts.
-    void Trace(const std::string& line) override;
-    GaugeColors GetGaugeColors(ProfileGauge gauge) override;
-    void SetGaugeColors(ProfileGauge gauge, const GaugeColors& colors) override;
-    void SetNumLockOff() override;
-    void RestoreChildWindows(const std::string& profilePath) override;
-    void SaveChildWindows(const std::string& profilePath) override;
-    void LoadMacros(const std::string& macrosPath) override;
-    void SaveMacros(const std::string& macrosPath) override;
-    void LoadHighlights(const std::string& highlightsPath, const std::string& namesPath) override;
-    void SaveHighlights(const std::string& highlightsPath, const std::string& namesPath) override;
-    void SetDefaultMacros(bool newProfile) override;
-    void UpdateTitle() override;
-    // LogHost.
-    bool AskSaveFileName(const SaveFileRequest& request, char* path, std::size_t capacity) override;
-    void ShowMessage(const char* text, const char* title) override;
-    void Beep() override;
-    // FileProbe.
-    bool Exists(const char* path) const override;
-    // CommandSink.
-    void EchoCommand(const char* text) override;
-    void SetEchoPending() override;
-    void SendLine(const char* text) override;
-    void RecordCommand(const char* text) override;
-    // KeyboardHost.
-    bool RestMode() const override;
-    void SetRestMode(bool on) override;
-    void ScrollActiveChild(int scrollCode) override;
-    void NextChildWindow() override;
-    void ToggleGameWindowMaximized() override;
-    bool ScriptRunning() const override;
-    void AbortScript() override;
-    void EndScrollback() override;
-    void SetFrameTitle(const char* title) override;
-    const char* CurrentCharacter() const override;
-    void CopyFromActiveChild() override;
-    void PostClose() override;
-    bool AskString(const char* title, char* answer, std::size_t capacity) override;
-    void PumpFor(int seconds) override;
-    void Trace(const char* line) override;
 
     ClientOptions options_;
     Desktop& desktop_;
     Session session_;
     QtGaugeTimer gaugeTimer_;
+    QtLocalClock clock_;
     HighlightLists highlights_;
     SoundFolder sounds_;
-    LinePipeline pipeline_;
-    StreamDecoder decoder_;
+    GameLink link_;
+    // Reports every received block straight to the link.
     QtGameSocket socket_;
-    Connection connection_;
+    QtLogHost logs_;
     std::unique_ptr<FrameWindow> frame_;
     // The command line belongs to the frame; the keyboard works on it.
     CommandLine* commandLine_ = nullptr;
+    std::unique_ptr<ChildWindowSet> windows_;
+    std::unique_ptr<QtKeyboardHost> keyboardHost_;
     std::unique_ptr<Keyboard> keyboard_;
     std::unique_ptr<KeyFilterQt> keyFilter_;
+    std::unique_ptr<QtProfileHost> profile_;
     QTimer timer_;
     // A start that ended before the loop leaves LastChar as it was.
     bool started_ = false;

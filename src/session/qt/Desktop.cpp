@@ -1,5 +1,7 @@
 #include "session/qt/Desktop.h"
 
+#include "base/ByteText.h"
+
 #include "session/qt/ExitDialog.h"
 
 #include <QApplication>
@@ -11,8 +13,6 @@
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QUrl>
-
-#include <cstdio>
 
 namespace steward {
 
@@ -81,7 +81,7 @@ bool QtDesktop::AskSaveFileName(QWidget* parent, const SaveFileRequest& request,
     if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty())
         return false;
     const QByteArray chosen = dialog.selectedFiles().front().toLocal8Bit();
-    std::snprintf(path, capacity, "%s", chosen.constData());
+    CopyCut(path, capacity, chosen.constData());
     return true;
 }
 
@@ -93,7 +93,7 @@ bool QtDesktop::AskString(QWidget* parent, const char* title, char* answer, std:
     if (!AskLine(parent, QString::fromLatin1(title), QString(), QStringLiteral("Cancel"),
                  static_cast<int>(capacity - 1), text))
         return false;
-    std::snprintf(answer, capacity, "%s", text.toLatin1().constData());
+    CopyCut(answer, capacity, text.toLatin1().constData());
     return true;
 }
 

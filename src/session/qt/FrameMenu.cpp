@@ -1,7 +1,7 @@
 #include "session/qt/FrameMenu.h"
 
+#include "base/FrameCommand.h"
 #include "session/CommandTable.h"
-#include "session/FrameCommand.h"
 #include "session/MenuBar.h"
 
 #include <QMdiArea>

@@ -1,5 +1,6 @@
 #include "session/qt/FramePlacement.h"
 
+#include <QScreen>
 #include <QWidget>
 
 namespace steward {
@@ -52,6 +53,18 @@ void FramePlacement::ShowWindow(std::uint32_t showCmd)
 void FramePlacement::UpdateWindow()
 {
     window_.update();
+}
+
+void PlaceFrame(QWidget& frame, const std::string& profilePath)
+{
+    FramePlacement placement(frame);
+    if (ReadPlacement(profilePath, "Windows", "MainWindow", placement))
+        return;
+    // Without a window manager a maximise does nothing, so the frame takes the screen first.
+    if (QScreen* screen = frame.screen())
+        frame.setGeometry(screen->availableGeometry());
+    frame.showMaximized();
+    frame.update();
 }
 
 } // namespace steward

@@ -2,6 +2,8 @@
 
 #include "config/IniStore.h"
 
+#include <string>
+
 class QWidget;
 
 namespace steward {
@@ -20,5 +22,8 @@ class FramePlacement : public PlacementTarget {
   private:
     QWidget& window_;
 };
+
+// The frame's stored placement, or without one the whole screen, maximised.
+void PlaceFrame(QWidget& frame, const std::string& profilePath);
 
 } // namespace steward

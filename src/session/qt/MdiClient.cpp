@@ -1,6 +1,5 @@
 #include "session/qt/MdiClient.h"
 
-#include <QEvent>
 #include <QMdiSubWindow>
 #include <QPainter>
 #include <QStyle>
@@ -26,71 +25,16 @@ MdiClient::~MdiClient()
     }
 }
 
-QMdiSubWindow* MdiClient::AddChild(WindowRow row, QWidget* widget, const Area& place)
-{
-    auto* sub = new QMdiSubWindow(nullptr);
-    sub->setWidget(widget);
-    sub->installEventFilter(this);
-    sub->setWindowTitle(QString::fromLatin1(WindowTable[row].Name));
-    sub->setWindowIcon(QIcon(QStringLiteral(":/AppIcon.png")));
-    addSubWindow(sub);
-    sub->setGeometry(place.X, place.Y, place.Width, place.Height);
-    sub->show();
-    rows_[row] = sub;
-    connect(widget, &QObject::destroyed, this, [this, row] { ChildClosed(row); });
-    return sub;
-}
-
-int MdiClient::ActiveRow() const
-{
-    QMdiSubWindow* active = activeSubWindow();
-    for (const WindowTableRow& row : WindowTable)
-        if (active && rows_[row.Row] == active)
-            return row.Row;
-    return -1;
-}
-
-void MdiClient::SetChildClosedHandler(std::function<void(WindowRow)> handler)
-{
-    childClosed_ = std::move(handler);
-}
-
-bool MdiClient::eventFilter(QObject* watched, QEvent* event)
-{
-    if (event->type() != QEvent::Close)
-        return QMdiArea::eventFilter(watched, event);
-    for (const WindowTableRow& row : WindowTable) {
-        QMdiSubWindow* sub = rows_[row.Row];
-        if (sub != watched)
-            continue;
-        // The row is told while its window still lives, so nothing reaches a freed window and
-        // no arrangement runs inside a destructor.
-        QWidget* widget = sub->widget();
-        disconnect(widget, &QObject::destroyed, this, nullptr);
-        rows_[row.Row] = nullptr;
-        if (childClosed_)
-            childClosed_(row.Row);
-        delete widget;
-        sub->deleteLater();
-    }
-    return QMdiArea::eventFilter(watched, event);
-}
-
-void MdiClient::ChildClosed(WindowRow row)
-{
-    rows_[row] = nullptr;
-    if (!dying_ && childClosed_)
-        childClosed_(row);
-}
-
 void MdiClient::TileHorizontally()
 {
     Tile(true);
+    FocusCommandLine();
 }
 
 void MdiClient::TileVertically()
 {
     Tile(false);
+    FocusCommandLine();
 }
 
 // The sub-windows that are not minimised, each brought back to its normal state.
@@ -106,6 +50,12 @@ QList<QMdiSubWindow*> MdiClient::ShownNormal()
 }
 
 void MdiClient::Cascade()
+{
+    Step();
+    FocusCommandLine();
+}
+
+void MdiClient::Step()
 {
     const QList<QMdiSubWindow*> shown = ShownNormal();
     if (shown.isEmpty())
@@ -137,45 +87,6 @@ void MdiClient::Tile(bool stacked)
             shown[i]->setGeometry(i * w, 0, w, area.height());
         }
     }
-}
-
-bool MdiClient::Exists(WindowRow row) const
-{
-    return rows_[row] != nullptr;
-}
-
-bool MdiClient::IsMinimised(WindowRow row) const
-{
-    return rows_[row] && rows_[row]->isMinimized();
-}
-
-bool MdiClient::IsMaximised(WindowRow row) const
-{
-    return rows_[row] && rows_[row]->isMaximized();
-}
-
-void MdiClient::Restore(WindowRow row)
-{
-    if (rows_[row])
-        rows_[row]->showNormal();
-}
-
-void MdiClient::Maximise(WindowRow row)
-{
-    if (rows_[row])
-        rows_[row]->showMaximized();
-}
-
-void MdiClient::Move(WindowRow row, const Area& place)
-{
-    if (rows_[row])
-        rows_[row]->setGeometry(place.X, place.Y, place.Width, place.Height);
-}
-
-void MdiClient::Activate(WindowRow row)
-{
-    if (rows_[row])
-        setActiveSubWindow(rows_[row]);
 }
 
 Area MdiClient::ClientArea() const

@@ -1,6 +1,6 @@
 #include "terminal/qt/AnsiWindowWidget.h"
 
-#include "session/Wheel.h"
+#include "terminal/Wheel.h"
 #include "terminal/qt/FontRecord.h"
 
 #include <QApplication>

@@ -1,8 +1,9 @@
+#include "base/FrameCommand.h"
 #include "config/BufferedLog.h"
 #include "config/ConfigFiles.h"
 #include "config/IniStore.h"
 #include "highlights/HighlightList.h"
-#include "session/FrameCommand.h"
+#include "session/qt/ChildWindowSet.h"
 #include "session/qt/Client.h"
 #include "session/qt/Desktop.h"
 #include "session/qt/FrameMenu.h"
@@ -200,19 +201,19 @@ TEST_F(ClientCommandsTest, MainLoopWritesOutAFullLogOnItsTurn)
 
 TEST_F(ClientCommandsTest, WindowMenuOpensWindowsAndArrangesThem)
 {
-    MdiClient& mdi = client->Frame().Mdi();
-    EXPECT_TRUE(mdi.Exists(GAME_ROW));
-    EXPECT_TRUE(mdi.Exists(THOUGHT_ROW));
-    EXPECT_FALSE(mdi.Exists(ARRIVAL_ROW));
+    ChildWindowSet& windows = client->Windows();
+    EXPECT_TRUE(windows.Exists(GAME_ROW));
+    EXPECT_TRUE(windows.Exists(THOUGHT_ROW));
+    EXPECT_FALSE(windows.Exists(ARRIVAL_ROW));
     client->OnCommand(CMD_OPEN_ARRIVAL_WINDOW);
     ASSERT_NE(client->State().Windows.ArrivalWindow, nullptr);
-    const Area area = mdi.ClientArea();
-    EXPECT_EQ(mdi.Child(ARRIVAL_ROW)->geometry(),
+    const Area area = windows.ClientArea();
+    EXPECT_EQ(windows.Child(ARRIVAL_ROW)->geometry(),
               QRect(area.Width / 2, 0, area.Width / 2, area.Height / 4));
 
-    mdi.Child(THOUGHT_ROW)->close();
+    windows.Child(THOUGHT_ROW)->close();
     EXPECT_EQ(client->State().Windows.ThoughtWindow, nullptr);
-    EXPECT_EQ(mdi.Child(ARRIVAL_ROW)->geometry(), QRect(0, 0, area.Width, area.Height / 4));
+    EXPECT_EQ(windows.Child(ARRIVAL_ROW)->geometry(), QRect(0, 0, area.Width, area.Height / 4));
 }
 
 TEST_F(ClientCommandsTest, TextWindowsCloseAndReopenAgainAndAgainInEveryLayout)
@@ -221,7 +222,7 @@ TEST_F(ClientCommandsTest, TextWindowsCloseAndReopenAgainAndAgainInEveryLayout)
         WindowRow row;
         int reopen;
     } windows[] = {{GAME_ROW, CMD_OPEN_GAME_WINDOW}, {THOUGHT_ROW, CMD_OPEN_THOUGHT_WINDOW}};
-    MdiClient& mdi = client->Frame().Mdi();
+    ChildWindowSet& set = client->Windows();
     client->Frame().show();
     for (int mode : {CMD_GRAPHICS_AT_BOTTOM, CMD_GRAPHICS_AT_TOP, CMD_FULL_SCREEN}) {
         client->OnCommand(mode);
@@ -230,10 +231,10 @@ TEST_F(ClientCommandsTest, TextWindowsCloseAndReopenAgainAndAgainInEveryLayout)
                 client->OnCommand(CMD_AUTO_ARRANGE);
             for (const auto& window : windows) {
                 for (int i = 0; i < 20; ++i) {
-                    ASSERT_NE(mdi.Child(window.row), nullptr);
+                    ASSERT_NE(set.Child(window.row), nullptr);
                     // What the close button of the title bar or of the menu bar does.
-                    mdi.Child(window.row)->close();
-                    ASSERT_EQ(mdi.Child(window.row), nullptr)
+                    set.Child(window.row)->close();
+                    ASSERT_EQ(set.Child(window.row), nullptr)
                         << mode << " " << autoArrange << " " << i;
                     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
                     client->OnCommand(window.reopen);
@@ -270,7 +271,7 @@ TEST_F(ClientCommandsTest, DisplayModesMoveTheTextArea)
 TEST_F(ClientCommandsTest, WindowsAndPlacementComeBackAfterARestart)
 {
     client->OnCommand(CMD_OPEN_ARRIVAL_WINDOW);
-    client->Frame().Mdi().Activate(ARRIVAL_ROW);
+    client->Windows().Activate(ARRIVAL_ROW);
     client->Frame().close();
     client.reset();
     char letters[32];

@@ -1,5 +1,5 @@
 #include "session/qt/FrameWindow.h"
-#include "session/FrameCommand.h"
+#include "base/FrameCommand.h"
 #include "session/qt/FrameMenu.h"
 #include "session/qt/MdiClient.h"
 
@@ -94,29 +94,6 @@ TEST_F(FrameWindowTest, LayoutFollowsTheDisplayMode)
         EXPECT_EQ(line.geometry().y(), surface.height() - h - 4);
     }
     line.setParent(nullptr);
-}
-
-TEST_F(FrameWindowTest, TextAreaArrangesItsChildren)
-{
-    MdiClient& mdi = frame->Mdi();
-    mdi.AddChild(GAME_ROW, new QWidget, {1, 1, 100, 100});
-    mdi.AddChild(THOUGHT_ROW, new QWidget, {1, 1, 100, 100});
-    ArrangeWindows(mdi, true, true);
-    const Area client = mdi.ClientArea();
-    EXPECT_EQ(mdi.Child(THOUGHT_ROW)->geometry(), QRect(0, 0, client.Width, client.Height / 4));
-    EXPECT_EQ(mdi.Child(GAME_ROW)->geometry().top(), client.Height / 4);
-    EXPECT_EQ(mdi.ActiveRow(), GAME_ROW);
-}
-
-TEST_F(FrameWindowTest, ClosedChildClearsItsRow)
-{
-    MdiClient& mdi = frame->Mdi();
-    std::vector<WindowRow> closed;
-    mdi.SetChildClosedHandler([&](WindowRow row) { closed.push_back(row); });
-    mdi.AddChild(ARRIVAL_ROW, new QWidget, {1, 1, 100, 100});
-    mdi.Child(ARRIVAL_ROW)->close();
-    EXPECT_FALSE(mdi.Exists(ARRIVAL_ROW));
-    EXPECT_EQ(closed, std::vector<WindowRow>{ARRIVAL_ROW});
 }
 
 } // namespace

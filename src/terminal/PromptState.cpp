@@ -1,4 +1,4 @@
-#include "analysis/PromptState.h"
+#include "terminal/PromptState.h"
 
 #include <cstring>
 

@@ -1,4 +1,4 @@
-#include "session/Wheel.h"
+#include "terminal/Wheel.h"
 
 namespace steward {
 

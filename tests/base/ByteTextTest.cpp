@@ -1,5 +1,4 @@
-#include "highlights/HighlightText.h"
-#include "HighlightDoubles.h"
+#include "base/ByteText.h"
 
 #include <gtest/gtest.h>
 
@@ -8,7 +7,7 @@
 namespace steward::testing {
 namespace {
 
-TEST(HighlightText, InsertTextMovesTheRestUpAndReturnsTheNewEnd)
+TEST(ByteText, InsertTextMovesTheRestUpAndReturnsTheNewEnd)
 {
     const struct {
         const char* text;
@@ -29,7 +28,7 @@ TEST(HighlightText, InsertTextMovesTheRestUpAndReturnsTheNewEnd)
     }
 }
 
-TEST(HighlightText, RemovePrefixDropsTheFirstBytes)
+TEST(ByteText, RemovePrefixDropsTheFirstBytes)
 {
     char buffer[16] = "abcdef";
     RemovePrefix(buffer, 2);
@@ -38,7 +37,7 @@ TEST(HighlightText, RemovePrefixDropsTheFirstBytes)
     EXPECT_STREQ(buffer, "");
 }
 
-TEST(HighlightText, ColourSequencesCarryTheBackgroundOnlyWhenSet)
+TEST(ByteText, ColourSequencesCarryTheBackgroundOnlyWhenSet)
 {
     const struct {
         unsigned char color;
@@ -58,7 +57,7 @@ TEST(HighlightText, ColourSequencesCarryTheBackgroundOnlyWhenSet)
     }
 }
 
-TEST(HighlightText, FindNoCaseFoldsOnlyAsciiLetters)
+TEST(ByteText, FindNoCaseFoldsOnlyAsciiLetters)
 {
     const struct {
         const char* text;
@@ -85,7 +84,7 @@ TEST(HighlightText, FindNoCaseFoldsOnlyAsciiLetters)
     }
 }
 
-TEST(HighlightText, WordBoundariesAreEverythingButLettersAndDigits)
+TEST(ByteText, WordBoundariesAreEverythingButLettersAndDigits)
 {
     for (int c = 0; c < 256; ++c) {
         const bool alnum =

@@ -1,4 +1,4 @@
-#include "connection/ColorCode.h"
+#include "base/ColorCode.h"
 
 #include <gtest/gtest.h>
 

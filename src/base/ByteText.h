@@ -1,11 +1,26 @@
 #pragma once
 
 #include <cstddef>
+#include <initializer_list>
 
 namespace steward {
 
-// In-place operations on NUL-terminated bytes shared by the highlight matcher and the line
-// filters; the caller guarantees the room, as these test none.
+// Helpers over NUL-terminated bytes in buffers of known capacity.
+
+bool StartsWith(const char* text, const char* prefix);
+bool Contains(const char* text, const char* phrase);
+bool EqualNoCase(const char* a, const char* b);
+bool StartsWithNoCase(const char* text, const char* prefix);
+// Copies text into out, cut so that it ends inside the buffer.
+void CopyCut(char* out, std::size_t capacity, const char* text);
+// Inserts piece at offset; bytes that no longer fit are cut from the end of the text.
+void InsertCut(char* text, std::size_t capacity, std::size_t offset, const char* piece);
+// Appends piece, cut at the buffer's end.
+void AppendCut(char* text, std::size_t capacity, const char* piece);
+// Joins the pieces into out, cut at the buffer's end.
+void JoinCut(char* out, std::size_t capacity, std::initializer_list<const char*> pieces);
+
+// In-place operations that test no room: the caller guarantees it.
 
 // Moves the string at place (with its NUL) up by the length of text and puts text in front;
 // returns the position of the new terminating NUL.

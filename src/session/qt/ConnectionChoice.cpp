@@ -1,0 +1,51 @@
+#include "session/qt/ConnectionChoice.h"
+
+#include "base/ByteText.h"
+
+#include "config/ConfigFiles.h"
+#include "config/IniStore.h"
+#include "session/qt/Desktop.h"
+
+namespace steward {
+
+namespace {
+
+// The stored host holds up to 255 characters.
+constexpr std::size_t HOST_VALUE_SIZE = 256;
+constexpr char CONNECTION_SECTION[] = "Connection";
+
+} // namespace
+
+bool ChooseConnection(const std::string& commandLine, const std::string& mainIni, Desktop& desktop,
+                      QWidget* parent, char (&connection)[CONNECTION_STRING_SIZE],
+                      std::string& host, int& port)
+{
+    if (!commandLine.empty()) {
+        CopyCut(connection, sizeof connection, commandLine.c_str());
+        return true;
+    }
+    char stored[HOST_VALUE_SIZE];
+    ReadString(mainIni, CONNECTION_SECTION, "Host", stored, sizeof stored, DEFAULT_HOST);
+    host = stored;
+    port = ReadInt(mainIni, CONNECTION_SECTION, "Port", DEFAULT_PORT);
+    ConnectChoice choice = desktop.AskConnection(parent, host, port);
+    // Connecting to no host is the offline choice.
+    if (choice == ConnectChoice::Connect && host.empty())
+        choice = ConnectChoice::Offline;
+    switch (choice) {
+    case ConnectChoice::Cancel:
+        return false;
+    case ConnectChoice::Offline:
+        host = DEFAULT_HOST;
+        port = DEFAULT_PORT;
+        return true;
+    case ConnectChoice::Connect:
+        break;
+    }
+    FormatConnectionString(connection, host.c_str(), port);
+    WriteString(mainIni, CONNECTION_SECTION, "Host", host.c_str());
+    WriteInt(mainIni, CONNECTION_SECTION, "Port", port);
+    return true;
+}
+
+} // namespace steward

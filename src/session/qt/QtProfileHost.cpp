@@ -1,0 +1,92 @@
+#include "session/qt/QtProfileHost.h"
+
+#include "commands/KeyFilter.h"
+#include "commands/MacroStore.h"
+#include "commands/qt/KeyFilterQt.h"
+#include "config/CharacterProfile.h"
+#include "config/IniStore.h"
+#include "highlights/HighlightLists.h"
+#include "session/Trace.h"
+#include "session/qt/ChildWindowSet.h"
+#include "session/qt/FramePlacement.h"
+#include "session/qt/FrameWindow.h"
+
+namespace steward {
+
+void QtProfileHost::Load()
+{
+    LoadProfile(links_.Files, links_.Profile, *this, nullptr, false);
+}
+
+void QtProfileHost::Save()
+{
+    SaveProfile(links_.Files, links_.Profile, *this, links_.Profile.CurrentCharacter);
+}
+
+void QtProfileHost::Trace(const std::string& line)
+{
+    steward::Trace("%s", line.c_str());
+}
+
+GaugeColors QtProfileHost::GetGaugeColors(ProfileGauge gauge)
+{
+    return GaugeFor(links_.Panel, gauge).Colors();
+}
+
+void QtProfileHost::SetGaugeColors(ProfileGauge gauge, const GaugeColors& colors)
+{
+    GaugeFor(links_.Panel, gauge).SetColors(colors);
+}
+
+void QtProfileHost::SetNumLockOff()
+{
+    links_.Filter.SetNumLockOff();
+}
+
+void QtProfileHost::RestoreChildWindows(const std::string& profilePath)
+{
+    links_.Windows.Restore(profilePath);
+}
+
+void QtProfileHost::SaveChildWindows(const std::string& profilePath)
+{
+    links_.Windows.Save(profilePath);
+    FramePlacement placement(links_.Frame);
+    WritePlacement(profilePath, "Windows", "MainWindow", placement);
+}
+
+void QtProfileHost::LoadMacros(const std::string& macrosPath)
+{
+    links_.Macros.LoadMacros(macrosPath.c_str(), [this](const std::string& line) { Trace(line); });
+}
+
+void QtProfileHost::SaveMacros(const std::string& macrosPath)
+{
+    links_.Macros.SaveMacros(macrosPath.c_str(), [this](const std::string& line) { Trace(line); });
+}
+
+void QtProfileHost::SetDefaultMacros(bool newProfile)
+{
+    steward::SetDefaultMacros(links_.Macros, newProfile);
+}
+
+void QtProfileHost::LoadHighlights(const std::string& highlightsPath, const std::string& namesPath)
+{
+    links_.Highlights.Load(highlightsPath, namesPath,
+                           [this](const std::string& line) { Trace(line); });
+}
+
+void QtProfileHost::SaveHighlights(const std::string& highlightsPath, const std::string& namesPath)
+{
+    links_.Highlights.Save(highlightsPath, namesPath,
+                           [this](const std::string& line) { Trace(line); });
+}
+
+void QtProfileHost::UpdateTitle()
+{
+    char title[FRAME_TITLE_SIZE];
+    MacroSetTitle(title, sizeof title, links_.Profile.CurrentCharacter, links_.Macros);
+    links_.Frame.setWindowTitle(QString::fromLatin1(title));
+}
+
+} // namespace steward

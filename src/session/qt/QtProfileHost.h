@@ -1,0 +1,54 @@
+#pragma once
+
+#include "config/ProfileParts.h"
+
+namespace steward {
+
+class ChildWindowSet;
+class FrameWindow;
+class HighlightLists;
+class KeyFilterQt;
+class MacroStore;
+struct ConfigFiles;
+struct CharacterProfile;
+
+// The profile host: loads a character's profile into the running program and saves it back,
+// handing each part of the program its share at the fixed step.
+class QtProfileHost : private ProfileParts {
+  public:
+    struct Links {
+        const ConfigFiles& Files;
+        CharacterProfile& Profile;
+        StatusPanel& Panel;
+        HighlightLists& Highlights;
+        MacroStore& Macros;
+        KeyFilterQt& Filter;
+        ChildWindowSet& Windows;
+        FrameWindow& Frame;
+    };
+
+    explicit QtProfileHost(const Links& links) : links_(links) {}
+
+    // LoadProfile of LastChar.
+    void Load();
+    // SaveProfile of the current character.
+    void Save();
+
+  private:
+    void Trace(const std::string& line) override;
+    GaugeColors GetGaugeColors(ProfileGauge gauge) override;
+    void SetGaugeColors(ProfileGauge gauge, const GaugeColors& colors) override;
+    void SetNumLockOff() override;
+    void RestoreChildWindows(const std::string& profilePath) override;
+    void SaveChildWindows(const std::string& profilePath) override;
+    void LoadMacros(const std::string& macrosPath) override;
+    void SaveMacros(const std::string& macrosPath) override;
+    void LoadHighlights(const std::string& highlightsPath, const std::string& namesPath) override;
+    void SaveHighlights(const std::string& highlightsPath, const std::string& namesPath) override;
+    void SetDefaultMacros(bool newProfile) override;
+    void UpdateTitle() override;
+
+    Links links_;
+};
+
+} // namespace steward
