@@ -1,5 +1,6 @@
 #include "commands/MacroSlots.h"
 #include "commands/MacroStore.h"
+#include "config/AtomicFile.h"
 #include "config/FileHandle.h"
 
 #include <cstdio>
@@ -126,15 +127,16 @@ void MacroStore::SaveMacros(const char* path, const MacroTrace& trace) const
         return;
     if (trace)
         trace(std::string("MACROS: Saving to \"") + path + "\"\n");
-    File file(std::fopen(path, "w"));
-    if (!file)
+    AtomicFile file(path);
+    std::FILE* out = file.Get();
+    if (!out)
         return;
     char head[16];
     for (int group : {ALT_LETTERS, CTRL_LETTERS}) {
         for (int letter = 0; letter < MACRO_LETTER_COUNT; ++letter) {
             std::snprintf(head, sizeof head, "%c %c", group == ALT_LETTERS ? 'A' : 'C',
                           'A' + letter);
-            WriteText(file.get(), head, Slot(group + letter));
+            WriteText(out, head, Slot(group + letter));
         }
     }
     static constexpr struct {
@@ -144,7 +146,7 @@ void MacroStore::SaveMacros(const char* path, const MacroTrace& trace) const
     for (const auto& pad : KEYPADS) {
         for (int index = 0; index < KEYPAD_KEY_COUNT; ++index) {
             std::snprintf(head, sizeof head, "K %c %c", pad.Name, KEYPAD_FILE_CHARACTERS[index]);
-            WriteText(file.get(), head, Slot(pad.Group + index));
+            WriteText(out, head, Slot(pad.Group + index));
         }
     }
     static constexpr struct {
@@ -154,14 +156,15 @@ void MacroStore::SaveMacros(const char* path, const MacroTrace& trace) const
         {FUNCTION_PLAIN, 'N'}, {FUNCTION_ALT, 'A'}, {FUNCTION_SHIFT, 'S'}, {FUNCTION_CTRL, 'C'}};
     for (int set = 0; set < MACRO_SET_COUNT; ++set) {
         std::snprintf(head, sizeof head, "N %d", set);
-        WriteText(file.get(), head, names_[set]);
+        WriteText(out, head, names_[set]);
         for (const auto& function : FUNCTIONS) {
             for (int key = 0; key < FUNCTION_KEY_COUNT; ++key) {
                 std::snprintf(head, sizeof head, "%d %c %02d", set, function.Name, key);
-                WriteText(file.get(), head, Slot(FunctionSlot(function.Group, set, key)));
+                WriteText(out, head, Slot(FunctionSlot(function.Group, set, key)));
             }
         }
     }
+    file.Commit();
 }
 
 } // namespace steward

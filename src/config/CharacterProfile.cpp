@@ -1,6 +1,7 @@
 #include "config/CharacterProfile.h"
 
 #include "config/BinaryRecords.h"
+#include "config/IniBatch.h"
 #include "config/IniStore.h"
 
 #include <algorithm>
@@ -133,10 +134,12 @@ void SaveProfile(const ConfigFiles& files, const CharacterProfile& profile, Prof
         name = profile.CurrentCharacter;
     const std::string path = ProfileFilePath(files, name, PROFILE_EXTENSION);
     parts.Trace("Saving data to \"" + path + "\"\n");
+    IniBatch dat(path);
     WriteSettings(path, profile.Settings);
     WriteEquipment(path, profile);
     WriteGaugeColors(path, parts);
     parts.SaveChildWindows(path);
+    dat.Commit();
     parts.SaveMacros(ProfileFilePath(files, name, MACROS_EXTENSION));
     parts.SaveHighlights(ProfileFilePath(files, name, HIGHLIGHTS_EXTENSION),
                          ProfileFilePath(files, name, NAMES_EXTENSION));

@@ -41,7 +41,7 @@ bool LoadProfile(const ConfigFiles& files, CharacterProfile& profile, ProfilePar
                  const char* name, bool createOnly);
 
 // Writes every file of the profile under name (null: CurrentCharacter); empty equipment
-// commands lose their keys.
+// commands lose their keys. Each file is replaced whole or not at all.
 void SaveProfile(const ConfigFiles& files, const CharacterProfile& profile, ProfileParts& parts,
                  const char* name);
 

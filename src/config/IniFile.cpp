@@ -1,7 +1,9 @@
 #include "config/IniFile.h"
 
+#include "config/AtomicFile.h"
+
 #include <algorithm>
-#include <filesystem>
+#include <cstdio>
 #include <fstream>
 
 namespace steward {
@@ -118,18 +120,11 @@ std::string IniFile::Text() const
 
 bool IniFile::Save(const std::string& path) const
 {
-    const std::string temporary = path + ".tmp";
-    {
-        std::ofstream out(temporary, std::ios::binary | std::ios::trunc);
-        const std::string text = Text();
-        if (!out || !out.write(text.data(), static_cast<std::streamsize>(text.size())).flush())
-            return false;
-    }
-    std::error_code error;
-    std::filesystem::rename(temporary, path, error);
-    if (error)
-        std::filesystem::remove(temporary, error);
-    return !error;
+    AtomicFile file(path);
+    const std::string text = Text();
+    if (file.Get())
+        std::fwrite(text.data(), 1, text.size(), file.Get());
+    return file.Commit();
 }
 
 std::optional<IniFile::Section> IniFile::FindSection(std::string_view section) const

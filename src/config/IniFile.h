@@ -21,7 +21,7 @@ class IniFile {
     static IniFile Load(const std::string& path);
     static IniFile Parse(std::string_view text);
 
-    // Writes through a temporary file and a rename, so a failed write leaves the old file whole.
+    // Through an AtomicFile: a failed write leaves the old file whole.
     bool Save(const std::string& path) const;
     std::string Text() const;
 

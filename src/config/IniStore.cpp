@@ -1,5 +1,6 @@
 #include "config/IniStore.h"
 
+#include "config/IniBatch.h"
 #include "config/IniFile.h"
 #include "config/LittleEndian.h"
 
@@ -8,31 +9,48 @@
 #include <filesystem>
 #include <optional>
 #include <string>
+#include <utility>
 
 namespace steward {
 
 namespace {
 
+// The open batch's copy of the file, or the file as it is on disk.
+IniFile Current(const std::string& path)
+{
+    const IniFile* batch = IniBatch::FileOf(path);
+    return batch ? *batch : IniFile::Load(path);
+}
+
+bool Store(const std::string& path, IniFile ini)
+{
+    if (IniFile* batch = IniBatch::FileOf(path)) {
+        *batch = std::move(ini);
+        return true;
+    }
+    return ini.Save(path);
+}
+
 std::optional<std::string> ReadValue(std::string_view file, std::string_view section,
                                      std::string_view key)
 {
-    return IniFile::Load(std::string(file)).Get(section, key);
+    return Current(std::string(file)).Get(section, key);
 }
 
 bool WriteValue(std::string_view file, std::string_view section, std::string_view key,
                 std::string_view value)
 {
     const std::string path(file);
-    IniFile ini = IniFile::Load(path);
+    IniFile ini = Current(path);
     ini.Set(section, key, value);
-    return ini.Save(path);
+    return Store(path, std::move(ini));
 }
 
 bool RemoveValue(std::string_view file, std::string_view section, std::string_view key)
 {
     const std::string path(file);
-    IniFile ini = IniFile::Load(path);
-    return !ini.Remove(section, key) || ini.Save(path);
+    IniFile ini = Current(path);
+    return !ini.Remove(section, key) || Store(path, std::move(ini));
 }
 
 std::uint8_t HexDigit(char c)

@@ -1,4 +1,5 @@
 #include "highlights/HighlightList.h"
+#include "config/AtomicFile.h"
 #include "config/FileHandle.h"
 
 #include <atomic>
@@ -101,13 +102,14 @@ void HighlightList::Save(const char* path) const
 {
     if (*path == '\0')
         return;
-    File file(std::fopen(path, "wt"));
-    if (!file)
+    AtomicFile file(path);
+    if (!file.Get())
         return;
     for (const HighlightEntry& slot : slots_) {
         if (slot.Text[0] != '\0')
-            std::fprintf(file.get(), "%03d \"%s\"\n", slot.Color, slot.Text);
+            std::fprintf(file.Get(), "%03d \"%s\"\n", slot.Color, slot.Text);
     }
+    file.Commit();
 }
 
 void SortByColor(HighlightList& list)

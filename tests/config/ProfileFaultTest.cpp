@@ -1,0 +1,170 @@
+#include "commands/MacroStore.h"
+#include "config/CharacterProfile.h"
+#include "highlights/HighlightList.h"
+
+#include "support/TempFolder.h"
+
+#include <gtest/gtest.h>
+
+#include <array>
+#include <chrono>
+#include <csignal>
+#include <cstring>
+#include <filesystem>
+#include <random>
+#include <string>
+#include <sys/resource.h>
+#include <sys/wait.h>
+#include <thread>
+#include <unistd.h>
+
+namespace steward {
+namespace {
+
+using testing::ReadBytes;
+using testing::TempFolder;
+
+constexpr std::array<const char*, 4> PROFILE_FILES = {"Rook.Dat", "Rook.Macros", "Rook.Highlights",
+                                                      "Rook.Names"};
+using ProfileBytes = std::array<std::string, PROFILE_FILES.size()>;
+
+// The parts of the program that own profile files, saving for real.
+class SavingParts : public ProfileParts {
+  public:
+    void Trace(const std::string&) override {}
+    GaugeColors GetGaugeColors(ProfileGauge) override { return {}; }
+    void SetGaugeColors(ProfileGauge, const GaugeColors&) override {}
+    void SetNumLockOff() override {}
+    void RestoreChildWindows(const std::string&) override {}
+    void SaveChildWindows(const std::string& path) override { WriteOpenWindows(path, "gTa"); }
+    void LoadMacros(const std::string&) override {}
+    void SaveMacros(const std::string& path) override { macros.SaveMacros(path.c_str()); }
+    void LoadHighlights(const std::string&, const std::string&) override {}
+    void SaveHighlights(const std::string& strings, const std::string& names) override
+    {
+        stringHighlights.Save(strings.c_str());
+        nameHighlights.Save(names.c_str());
+    }
+    void SetDefaultMacros(bool) override {}
+    void UpdateTitle() override {}
+
+    MacroStore macros;
+    HighlightList stringHighlights;
+    HighlightList nameHighlights;
+};
+
+// Two different states of one character; a save of either must leave files of one of them.
+struct ProfileState {
+    CharacterProfile profile;
+    SavingParts parts;
+
+    explicit ProfileState(int variant)
+    {
+        std::strcpy(profile.CurrentCharacter, "Rook");
+        profile.Settings.HonorNumLock = variant;
+        std::strcpy(profile.EquipWeapon, variant ? "wield axe" : "ready saber");
+        SetDefaultMacros(parts.macros, variant == 1);
+        parts.macros.SetMacroSetName(variant ? "Hunting" : "Town");
+        for (int i = 0; i < 40 + variant * 30; ++i) {
+            const std::string text = "highlight " + std::to_string(i * (variant + 1));
+            parts.stringHighlights.Add(text.c_str(), static_cast<unsigned char>(i));
+            parts.nameHighlights.Add(("Name" + text).c_str(), static_cast<unsigned char>(i + 1));
+        }
+    }
+    void Save(const ConfigFiles& files) { SaveProfile(files, profile, parts, nullptr); }
+};
+
+class ProfileFaultTest : public ::testing::Test {
+  protected:
+    ProfileBytes Stored() const
+    {
+        ProfileBytes bytes;
+        for (std::size_t i = 0; i < PROFILE_FILES.size(); ++i)
+            bytes[i] = ReadBytes(folder.File(PROFILE_FILES[i]));
+        return bytes;
+    }
+
+    // What each state's save writes, from a clean folder.
+    ProfileBytes SavedBytesOf(ProfileState& state)
+    {
+        TempFolder clean;
+        const ConfigFiles cleanFiles = MakeConfigFiles(clean.Path());
+        state.Save(cleanFiles);
+        ProfileBytes bytes;
+        for (std::size_t i = 0; i < PROFILE_FILES.size(); ++i)
+            bytes[i] = ReadBytes(clean.File(PROFILE_FILES[i]));
+        return bytes;
+    }
+
+    void ExpectEachFileWhole(const std::string& when) const
+    {
+        const ProfileBytes now = Stored();
+        for (std::size_t i = 0; i < PROFILE_FILES.size(); ++i)
+            EXPECT_TRUE(now[i] == oldBytes[i] || now[i] == newBytes[i])
+                << PROFILE_FILES[i] << " is a mix " << when;
+    }
+
+    TempFolder folder;
+    ConfigFiles files = MakeConfigFiles(folder.Path());
+    ProfileState oldState{0};
+    ProfileState newState{1};
+    ProfileBytes oldBytes = SavedBytesOf(oldState);
+    ProfileBytes newBytes = SavedBytesOf(newState);
+};
+
+// The kernel refuses every byte past the limit, as a full disk would.
+class FileSizeLimit {
+  public:
+    explicit FileSizeLimit(rlim_t bytes)
+    {
+        std::signal(SIGXFSZ, SIG_IGN);
+        getrlimit(RLIMIT_FSIZE, &saved_);
+        const rlimit limit{bytes, saved_.rlim_max};
+        setrlimit(RLIMIT_FSIZE, &limit);
+    }
+    ~FileSizeLimit() { setrlimit(RLIMIT_FSIZE, &saved_); }
+
+  private:
+    rlimit saved_{};
+};
+
+TEST_F(ProfileFaultTest, AWriteThatFailsAfterAnyByteLeavesEachFileOldOrNew)
+{
+    for (rlim_t limit : {0, 1, 100, 400, 1000, 2000, 5000, 100000}) {
+        oldState.Save(files);
+        {
+            FileSizeLimit full(limit);
+            newState.Save(files);
+        }
+        ExpectEachFileWhole("after a fault at byte " + std::to_string(limit));
+        for (std::size_t i = 0; i < PROFILE_FILES.size(); ++i) {
+            if (newBytes[i].size() <= limit) {
+                EXPECT_EQ(Stored()[i], newBytes[i]) << PROFILE_FILES[i] << " fits in " << limit;
+            }
+            EXPECT_FALSE(std::filesystem::exists(folder.File(PROFILE_FILES[i]) + ".tmp"));
+        }
+    }
+}
+
+TEST_F(ProfileFaultTest, AKillAtAnyMomentOfSavingLeavesEachFileOldOrNew)
+{
+    oldState.Save(files);
+    std::mt19937 random(17);
+    for (int run = 0; run < 200; ++run) {
+        const pid_t saver = fork();
+        ASSERT_GE(saver, 0);
+        if (saver == 0) {
+            for (;;) {
+                newState.Save(files);
+                oldState.Save(files);
+            }
+        }
+        std::this_thread::sleep_for(std::chrono::microseconds(random() % 4000));
+        kill(saver, SIGKILL);
+        waitpid(saver, nullptr, 0);
+        ExpectEachFileWhole("after a kill in run " + std::to_string(run));
+    }
+}
+
+} // namespace
+} // namespace steward
