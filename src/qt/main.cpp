@@ -10,12 +10,16 @@
 #include <QLockFile>
 #include <QStringList>
 
+#include <cstdio>
 #include <cstdlib>
 #include <string>
 
 namespace {
 
 constexpr char LOCK_FILE_NAME[] = "Thornmere Steward.lock";
+constexpr char READ_ONLY_TEXT[] =
+    "\r\n\r\n*** The data folder %s cannot be written: this session's settings, macros, "
+    "highlights and logs will not be saved.\r\n\r\n";
 
 // The diagnostic options first, then the connection string as it stands.
 steward::ClientOptions ReadCommandLine(const QStringList& arguments)
@@ -53,7 +57,9 @@ int main(int argc, char** argv)
 
     QLockFile lock(QDir(QString::fromLocal8Bit(folder.c_str())).filePath(LOCK_FILE_NAME));
     lock.setStaleLockTime(0);
-    if (!lock.tryLock(0))
+    // Another client holds the folder: it ends here; a folder that cannot be written still plays.
+    const bool locked = lock.tryLock(0);
+    if (!locked && lock.error() == QLockFile::LockFailedError)
         return 0;
 
     options.Files = steward::MakeConfigFiles(folder);
@@ -64,6 +70,11 @@ int main(int argc, char** argv)
     steward::SignalPipe stopSignals([&client] { client.Terminate(); });
     if (!client.Start() || client.Closed())
         return 0;
+    if (!locked) {
+        char text[sizeof READ_ONLY_TEXT + 4096];
+        std::snprintf(text, sizeof text, READ_ONLY_TEXT, folder.c_str());
+        client.PrintToGameWindow(text);
+    }
     const int code = app.exec();
     client.Finish();
     return code;

@@ -7,6 +7,7 @@
 #include <gtest/gtest.h>
 
 #include <csignal>
+#include <unistd.h>
 
 namespace steward::test {
 namespace {
@@ -45,7 +46,9 @@ class ClientProcessTest : public ::testing::Test {
     }
 
     // The version notes were shown before, so that no editor is asked for.
-    void StartClient(QProcess& process)
+    void StartClient(QProcess& process) { StartClient(process, QStringLiteral(CLIENT_BINARY), {}); }
+
+    void StartClient(QProcess& process, const QString& program, QStringList arguments)
     {
         QDir().mkpath(home.filePath(QStringLiteral("ThornmereSteward")));
         QFile ini(DataFile("Thornmere.Ini"));
@@ -56,7 +59,8 @@ class ClientProcessTest : public ::testing::Test {
         environment.insert(QStringLiteral("XDG_DATA_HOME"), home.path());
         environment.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("offscreen"));
         process.setProcessEnvironment(environment);
-        process.start(QStringLiteral(CLIENT_BINARY), {QStringLiteral("/H127.0.0.1/P%1").arg(port)});
+        arguments << QStringLiteral("/H127.0.0.1/P%1").arg(port);
+        process.start(program, arguments);
     }
 
     QByteArray Sent() const
@@ -109,6 +113,38 @@ TEST_F(ClientProcessTest, SecondStartOnTheSameFolderEndsAtOnce)
     ASSERT_TRUE(second.waitForFinished(WAIT_MS));
     EXPECT_EQ(second.exitCode(), 0);
     EXPECT_EQ(client.state(), QProcess::Running);
+}
+
+TEST_F(ClientProcessTest, AReadOnlyDataFolderStillPlaysAndWritesNothing)
+{
+    QProcess prepare;
+    StartClient(prepare);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return QFile::exists(DataFile("Default.Dat")); }, WAIT_MS));
+    prepare.terminate();
+    ASSERT_TRUE(prepare.waitForFinished(WAIT_MS));
+    const QString folder = home.filePath(QStringLiteral("ThornmereSteward"));
+    const QStringList before = QDir(folder).entryList(QDir::Files);
+    QFile(folder).setPermissions(QFile::ReadOwner | QFile::ExeOwner);
+    const QByteArray sentBefore = Sent();
+
+    // Root writes anywhere, so as root the client runs without that power.
+    QStringList arguments;
+    QString program = QStringLiteral(CLIENT_BINARY);
+    if (::geteuid() == 0) {
+        arguments << QStringLiteral("--bounding-set=-dac_override,-dac_read_search,-fowner")
+                  << program;
+        program = QStringLiteral("setpriv");
+    }
+    StartClient(client, program, arguments);
+    ASSERT_TRUE(client.waitForStarted(WAIT_MS));
+    QTest::qWait(1500);
+    ASSERT_EQ(client.state(), QProcess::Running);
+    client.terminate();
+    EXPECT_TRUE(client.waitForFinished(WAIT_MS));
+    EXPECT_EQ(client.exitCode(), 0);
+    EXPECT_TRUE(Sent().mid(sentBefore.size()).contains("quit\n\r"));
+    QFile(folder).setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+    EXPECT_EQ(QDir(folder).entryList(QDir::Files), before);
 }
 
 } // namespace
