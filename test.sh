@@ -1,10 +1,11 @@
 #!/usr/bin/env bash
 # Builds and runs every test twice: a normal build and one with AddressSanitizer and
-# UndefinedBehaviorSanitizer. The last line is the summary "N passed, N failed".
+# UndefinedBehaviorSanitizer, then the short fuzz runs. The last line is the summary "N passed, N failed".
 set -uo pipefail
 ROOT=$(cd "$(dirname "$0")" && pwd)
 source "$ROOT/scripts/common.sh"
 ensure_packages || exit 1
+ensure_packages "${FUZZ_PACKAGES[@]}" || exit 1
 
 export QT_QPA_PLATFORM=offscreen
 export ASAN_OPTIONS=detect_leaks=1:abort_on_error=1
@@ -45,6 +46,8 @@ run_suite() {
 
 run_suite "release" "$ROOT/build/release" -DCMAKE_BUILD_TYPE=Release
 run_suite "sanitize" "$ROOT/build/sanitize" -DCMAKE_BUILD_TYPE=Debug -DSTEWARD_SANITIZE=ON -DSTEWARD_BENCH=OFF
+# Each fuzz program over its corpus for a few seconds, and over every input that once failed.
+run_suite "fuzz" "$ROOT/build/fuzz" "${FUZZ_OPTIONS[@]}"
 
 echo "$passed passed, $failed failed"
 exit $status

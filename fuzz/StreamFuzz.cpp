@@ -1,0 +1,104 @@
+// The received byte stream, cut into blocks whose sizes the input's first bytes choose, through
+// the decoder, the line pipeline with its status record and highlights, and the three text
+// windows, which are painted at the end.
+#include "FuzzFiles.h"
+
+#include "analysis/LinePipeline.h"
+#include "config/BufferedLog.h"
+#include "connection/PacketDump.h"
+#include "connection/StreamDecoder.h"
+#include "highlights/HighlightLists.h"
+#include "panels/StatusPanel.h"
+#include "scripts/ScriptWait.h"
+#include "session/ChildWindows.h"
+#include "session/FrameQueue.h"
+#include "terminal/WindowFixture.h"
+
+#include <algorithm>
+#include <memory>
+#include <random>
+
+namespace steward::fuzz {
+namespace {
+
+class NullQueue : public FrameQueue {
+  public:
+    void PostCommand(int) override {}
+    void PostDropped() override {}
+};
+
+class NullSounds : public HighlightSounds {
+  public:
+    void PlayHighlightSound(const char*) override {}
+};
+
+class FixedClock : public LocalClock {
+  public:
+    TimeOfDay Now() const override { return {17, 30}; }
+};
+
+// Option bits of the first byte; the second seeds the block sizes.
+void ApplyOptions(std::uint8_t bits, Settings& options)
+{
+    options.CompressThoughtMessages = bits & 1;
+    options.OnlyListedArrivals = (bits >> 1) & 1;
+    options.ShowStatusPrompt = (bits >> 2) & 1;
+    options.ReceiveChunkSize = 1 + (bits >> 4) * 300;
+}
+
+void Receive(const std::uint8_t* data, std::size_t size)
+{
+    Settings options;
+    ApplyOptions(data[0], options);
+    testing::FakeHost host;
+    host.client = {0, 0, 640, 480};
+    NullQueue queue;
+    NullSounds sounds;
+    FixedClock clock;
+    BufferedLog sessionLog;
+    sessionLog.OpenNew(InputFile("Session.Log", nullptr, 0).c_str());
+    HighlightLists highlights;
+    highlights.StringHighlights.Add("{Chime}salmon", 12);
+    highlights.StringHighlights.Add("$*Obvious", 0x1E);
+    highlights.NameHighlights.Add("Mara", 14);
+    ChildWindows windows;
+    ScriptWaitState script;
+    StatusPanel panel;
+    LinePipeline pipeline{
+        {options, sessionLog, highlights, sounds, windows, queue, script, panel, clock, nullptr}};
+    std::unique_ptr<AnsiWindow> game =
+        AnsiWindow::Create("Game Window", {host, options, nullptr, &pipeline.Prompt()});
+    std::unique_ptr<AnsiWindow> thought =
+        AnsiWindow::Create("Thought Window", {host, options, nullptr, nullptr});
+    std::unique_ptr<AnsiWindow> arrival =
+        AnsiWindow::Create("Arrival Window", {host, options, nullptr, nullptr});
+    windows = {game.get(), thought.get(), arrival.get()};
+    PacketDump dump;
+    StreamDecoder decoder(pipeline, dump, options);
+    decoder.SetHoldPartialLines((data[0] >> 3) & 1);
+
+    std::minstd_rand blockSizes(data[1]);
+    const char* bytes = reinterpret_cast<const char*>(data + 2);
+    std::size_t left = size - 2;
+    while (left > 0) {
+        const std::size_t block = std::min(left, 1 + blockSizes() % decoder.ReceiveChunkSize());
+        decoder.HandleSocketEvent(bytes, block);
+        bytes += block;
+        left -= block;
+        sessionLog.FlushIfFull();
+    }
+    for (AnsiWindow* window : {game.get(), thought.get(), arrival.get()}) {
+        testing::RecordingLayer layer;
+        window->Paint(layer, true);
+    }
+}
+
+} // namespace
+} // namespace steward::fuzz
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
+{
+    if (size >= 2)
+        steward::fuzz::Receive(data, size);
+    return 0;
+}
