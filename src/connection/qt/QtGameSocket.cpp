@@ -8,12 +8,16 @@ namespace {
 
 // How long a close waits for the last line (such as "quit") to leave.
 constexpr int CLOSE_FLUSH_MS = 2000;
+// Qt reads ahead of us only this far; beyond it the bytes wait in the kernel and TCP slows the
+// server down, so a flood faster than the client can show never piles up in memory.
+constexpr qint64 READ_AHEAD_LIMIT = 16 * QtGameSocket::MAX_BLOCK_SIZE;
 
 } // namespace
 
 QtGameSocket::QtGameSocket(SocketListener& listener, QObject* parent)
     : QObject(parent), listener_(listener)
 {
+    socket_.setReadBufferSize(READ_AHEAD_LIMIT);
     connect(&socket_, &QTcpSocket::readyRead, this, &QtGameSocket::ScheduleRead);
     connect(&socket_, &QTcpSocket::disconnected, this, &QtGameSocket::OnDisconnected);
 }
