@@ -1,5 +1,6 @@
 #include "terminal/qt/AnsiWindowWidget.h"
 
+#include "session/Trace.h"
 #include "terminal/Wheel.h"
 #include "terminal/qt/FontRecord.h"
 
@@ -196,6 +197,8 @@ void AnsiWindowWidget::paintEvent(QPaintEvent*)
     // Qt keeps no erase request, so every paint fills the bands beside the rows as well.
     window_->Paint(layer_, true);
     layer_.End();
+    // One line per paint, so that a soak run can count the paint rate of each window.
+    Trace("PAINT: %s\n", window_->GetSectionName());
 }
 
 void AnsiWindowWidget::resizeEvent(QResizeEvent*)
