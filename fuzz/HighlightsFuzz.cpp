@@ -2,6 +2,7 @@
 // its first NUL byte), loaded into the two lists and matched against received lines.
 #include "FuzzFiles.h"
 
+#include "highlights/HighlightDoubles.h"
 #include "highlights/HighlightLists.h"
 
 #include <cstdint>
@@ -9,11 +10,6 @@
 
 namespace steward::fuzz {
 namespace {
-
-class NullSounds : public HighlightSounds {
-  public:
-    void PlayHighlightSound(const char*) override {}
-};
 
 constexpr const char* LINES[] = {
     "Mara says, \"Fresh salmon at the quay.\"",
@@ -35,7 +31,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     static HighlightLists lists;
     lists.Load(fuzz::InputFile("Fuzz.Highlights", data, first),
                fuzz::InputFile("Fuzz.Names", data + second, size - second));
-    fuzz::NullSounds sounds;
+    testing::RecordedSounds sounds;
     for (const char* text : fuzz::LINES) {
         char line[1024];
         std::strcpy(line, text);

@@ -3,16 +3,9 @@
 // windows, which are painted at the end.
 #include "FuzzFiles.h"
 
-#include "analysis/LinePipeline.h"
-#include "config/BufferedLog.h"
+#include "analysis/PipelineFixture.h"
 #include "connection/PacketDump.h"
 #include "connection/StreamDecoder.h"
-#include "highlights/HighlightLists.h"
-#include "panels/StatusPanel.h"
-#include "scripts/ScriptWait.h"
-#include "session/ChildWindows.h"
-#include "session/FrameQueue.h"
-#include "terminal/WindowFixture.h"
 
 #include <algorithm>
 #include <memory>
@@ -20,22 +13,6 @@
 
 namespace steward::fuzz {
 namespace {
-
-class NullQueue : public FrameQueue {
-  public:
-    void PostCommand(int) override {}
-    void PostDropped() override {}
-};
-
-class NullSounds : public HighlightSounds {
-  public:
-    void PlayHighlightSound(const char*) override {}
-};
-
-class FixedClock : public LocalClock {
-  public:
-    TimeOfDay Now() const override { return {17, 30}; }
-};
 
 // Option bits of the first byte; the second seeds the block sizes.
 void ApplyOptions(std::uint8_t bits, Settings& options)
@@ -52,11 +29,11 @@ void Receive(const std::uint8_t* data, std::size_t size)
     ApplyOptions(data[0], options);
     testing::FakeHost host;
     host.client = {0, 0, 640, 480};
-    NullQueue queue;
-    NullSounds sounds;
-    FixedClock clock;
+    testing::RecordingQueue queue;
+    testing::RecordingSounds sounds;
+    testing::FixedClock clock;
     BufferedLog sessionLog;
-    sessionLog.OpenNew(InputFile("Session.Log", nullptr, 0).c_str());
+    sessionLog.OpenNew((ScratchFolder() / "Session.Log").c_str());
     HighlightLists highlights;
     highlights.StringHighlights.Add("{Chime}salmon", 12);
     highlights.StringHighlights.Add("$*Obvious", 0x1E);
