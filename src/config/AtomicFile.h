@@ -8,8 +8,8 @@
 namespace steward {
 
 // A file rewritten in full: the text goes to path + ".tmp" in the same folder and is renamed
-// over path only when every byte reached the disk, so a full disk, a failed write or a kill at
-// any moment leaves either the old file or the new one, never a mix or nothing.
+// over path only when every write, the flush and the close succeeded, so a full disk, a failed
+// write or a kill at any moment leaves either the old file or the new one, never a mix or nothing.
 class AtomicFile {
   public:
     explicit AtomicFile(std::string path);
