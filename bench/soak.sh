@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # bench/soak.sh [MINUTES] [BUILD]: floods the client from the practice world for MINUTES
 # (default 10) with highlights on and all three text windows open, under its own Xvfb, and
-# prints once a second the client's resident memory and the paints of that second; at the end
+# prints once a second the client's resident memory and its paints per second; at the end
 # the growth of resident memory from minute 1 to the last sample. Not a test: a measurement.
 set -euo pipefail
 ROOT=$(cd "$(dirname "$0")/.." && pwd)
@@ -43,17 +43,26 @@ XDG_DATA_HOME=$WORK/home "$CLIENT" --trace "/H127.0.0.1/P$port" 2>"$WORK/trace" 
 client=$!
 pids+=($client)
 
-echo "second  rss_kb  paints"
-paints_before=0
+echo "second  rss_kb  paints_per_s"
+start=${EPOCHREALTIME/./}
+last=$start
+read_bytes=0
 rss_minute1=0
 rss=0
 for ((second = 1; second <= MINUTES * 60; second++)); do
-    sleep 1
+    # Each sample waits for its whole second since the start, so slow sampling never drifts.
+    now=${EPOCHREALTIME/./}
+    wait_us=$((start + second * 1000000 - now))
+    [ "$wait_us" -le 0 ] || sleep "$(printf '%d.%06d' $((wait_us / 1000000)) $((wait_us % 1000000)))"
     rss=$(awk '/^VmRSS:/ {print $2}' "/proc/$client/status" 2>/dev/null || echo 0)
     [ "$rss" != 0 ] || { echo "the client ended early"; exit 1; }
-    paints=$(grep -c '^PAINT: ' "$WORK/trace" || true)
-    printf '%6d  %6d  %6d\n' "$second" "$rss" "$((paints - paints_before))"
-    paints_before=$paints
+    size=$(stat -c %s "$WORK/trace")
+    paints=$(tail -c +$((read_bytes + 1)) "$WORK/trace" | head -c $((size - read_bytes)) |
+        grep -c '^PAINT: ' || true)
+    read_bytes=$size
+    now=${EPOCHREALTIME/./}
+    printf '%6d  %6d  %6d\n' "$second" "$rss" "$((paints * 1000000 / (now - last)))"
+    last=$now
     [ "$second" -ne 60 ] || rss_minute1=$rss
 done
 [ "$rss_minute1" -ne 0 ] || rss_minute1=$rss
