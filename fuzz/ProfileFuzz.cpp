@@ -29,7 +29,7 @@ class WindowParts : public ProfileParts {
     void SaveChildWindows(const std::string& path) override
     {
         for (const auto& window : windows)
-            window->SaveState();
+            window->SaveState(path);
         WriteOpenWindows(path, "gTa");
     }
     void LoadMacros(const std::string&) override {}

@@ -41,8 +41,9 @@ void Receive(const std::uint8_t* data, std::size_t size)
     ChildWindows windows;
     ScriptWaitState script;
     StatusPanel panel;
-    LinePipeline pipeline{
-        {options, sessionLog, highlights, sounds, windows, queue, script, panel, clock, nullptr}};
+    Tokenizer words;
+    LinePipeline pipeline{{options, sessionLog, highlights, sounds, windows, queue, script, panel,
+                           words, clock, nullptr}};
     std::unique_ptr<AnsiWindow> game =
         AnsiWindow::Create("Game Window", {host, options, nullptr, &pipeline.Prompt()});
     std::unique_ptr<AnsiWindow> thought =
