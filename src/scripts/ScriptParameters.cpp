@@ -1,6 +1,6 @@
 #include "scripts/ScriptParameters.h"
 
-#include "analysis/ByteText.h"
+#include "base/ByteText.h"
 #include "scripts/Tokenizer.h"
 
 #include <algorithm>

@@ -1,6 +1,6 @@
 #include "scripts/ScriptRecorder.h"
 
-#include "analysis/ByteText.h"
+#include "base/ByteText.h"
 #include "config/SessionLog.h"
 #include "scripts/ScriptHost.h"
 #include "scripts/Tokenizer.h"

@@ -7,6 +7,13 @@ namespace steward {
 class ScriptHost;
 class Tokenizer;
 
+// Where each command sent on the full road is recorded.
+class CommandRecording {
+  public:
+    virtual ~CommandRecording() = default;
+    virtual void RecordCommand(const char* text) = 0;
+};
+
 constexpr char SCRIPT_SAVED_TEXT[] = "\r\n[Script file saved.]\r\n";
 
 // The recording of sent commands as a script, one line per command.

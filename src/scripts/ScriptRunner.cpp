@@ -1,6 +1,6 @@
 #include "scripts/ScriptRunner.h"
 
-#include "analysis/ByteText.h"
+#include "base/ByteText.h"
 #include "commands/CommandParts.h"
 #include "panels/Gauge.h"
 #include "scripts/ScriptHost.h"
@@ -10,6 +10,7 @@
 #include <climits>
 #include <cstdlib>
 #include <cstring>
+#include <filesystem>
 #include <string>
 
 namespace steward {
@@ -38,6 +39,20 @@ int PauseSeconds(const char* text)
     return seconds < 1 ? 1 : seconds > INT_MAX ? INT_MAX : static_cast<int>(seconds);
 }
 
+// The path of the script in the folder: the name as it stands, or else the first file whose
+// name differs from it only in case, since a player types `.hunt` for "Hunt.Cmd".
+std::string ScriptPathIn(const char* folder, const char* name)
+{
+    std::string path = std::string(folder) + "/" + name;
+    std::error_code error;
+    if (std::filesystem::exists(path, error))
+        return path;
+    for (const auto& entry : std::filesystem::directory_iterator(folder, error))
+        if (EqualNoCase(entry.path().filename().c_str(), name))
+            return entry.path().string();
+    return path;
+}
+
 } // namespace
 
 const ScriptRunner::Command ScriptRunner::COMMANDS[] = {
@@ -53,7 +68,7 @@ void ScriptRunner::RunScript(const char* scriptFolder)
 {
     AbortScript();
     parts_.Wait.ScriptWait = WAIT_NONE;
-    const std::string path = std::string(scriptFolder) + "/" + parts_.Names.ScriptName;
+    const std::string path = ScriptPathIn(scriptFolder, parts_.Names.ScriptName);
     if (!file_.Open(path.c_str())) {
         const std::string message = "\r\n*** Error opening script \"" + path + "\"\r\n\r\n";
         parts_.Host.PrintToGameWindow(message.c_str());

@@ -7,6 +7,7 @@
 #include "connection/GameSocket.h"
 #include "connection/PacketDump.h"
 #include "connection/StreamDecoder.h"
+#include "scripts/ScriptRecorder.h"
 #include "terminal/ChildWindows.h"
 
 #include <cstddef>
@@ -40,8 +41,13 @@ class GameLink : public SocketListener, public CommandSink {
     void EchoCommand(const char* text) override { pipeline_.EchoCommand(text); }
     void SetEchoPending() override { pipeline_.Prompt().EchoPending = true; }
     void SendLine(const char* text) override { connection_.SendLine(text); }
-    // Waits for script recording, which will write the command into the open recording.
-    void RecordCommand(const char*) override {}
+    void RecordCommand(const char* text) override
+    {
+        if (recording_)
+            recording_->RecordCommand(text);
+    }
+    // The scripts, which record the sent commands while a recording is open.
+    void SetRecording(CommandRecording* recording) { recording_ = recording; }
 
   private:
     FrameQueue& queue_;
@@ -49,6 +55,7 @@ class GameLink : public SocketListener, public CommandSink {
     LinePipeline pipeline_;
     StreamDecoder decoder_;
     Connection connection_;
+    CommandRecording* recording_ = nullptr;
 };
 
 } // namespace steward

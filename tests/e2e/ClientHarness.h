@@ -70,8 +70,23 @@ class RecordingDesktop : public Desktop {
         return true;
     }
     SoundPlayer& Sounds() override { return sounds; }
+    // The script dialogs answer with the files the test names; the folder is kept.
+    std::string ChooseScriptFile(QWidget*, const std::string& folder, bool) override
+    {
+        scriptFolder = folder;
+        return scriptFile;
+    }
+    std::string AskRecordFile(QWidget*, const std::string& folder) override
+    {
+        scriptFolder = folder;
+        return recordFile;
+    }
+    std::string CreateScript(QWidget*, const std::string&) override { return {}; }
 
     RecordingSoundPlayer sounds;
+    std::string scriptFile;
+    std::string recordFile;
+    std::string scriptFolder;
     std::string dragTarget;
     ConnectChoice choice = ConnectChoice::Connect;
     std::string answerHost;

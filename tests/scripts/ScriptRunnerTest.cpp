@@ -177,6 +177,9 @@ TEST(ScriptRunnerTest, StartsStopsAndSaysWhatFailed)
     rig.runner.ExecuteFile(rig.folder.File("Missing.Stw").c_str());
     rig.runner.ExecuteFile(rig.folder.File("Test.Cmd").c_str());
     EXPECT_STREQ(rig.names.ScriptParameters, "");
+    std::snprintf(rig.names.ScriptName, sizeof rig.names.ScriptName, "test.cmd");
+    rig.runner.RunScript(rig.folder.Path().c_str());
+    EXPECT_TRUE(rig.runner.Running());
     const Events expected = {"send:a",
                              "print:\\r\\n*** Error opening script \"" +
                                  rig.folder.File("Missing.Cmd") + "\"\\r\\n\\r\\n",

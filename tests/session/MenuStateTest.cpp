@@ -96,11 +96,40 @@ TEST(MenuState, OpenWindowItemsAreGreyWhileTheirWindowIsOpen)
     EXPECT_FALSE(After(in, CMD_OPEN_ARRIVAL_WINDOW).Enabled);
 }
 
+struct ScriptMenuCase {
+    bool recording;
+    bool running;
+    bool start; // 951, 952 and 953
+    bool stopScript;
+    bool stopRecording;
+};
+
+TEST(MenuState, ScriptItemsKeepARunningScriptAndARecordingApart)
+{
+    const ScriptMenuCase cases[] = {
+        {false, false, true, false, false},
+        {true, false, false, false, true},
+        {false, true, false, true, false},
+    };
+    MenuState state;
+    for (const ScriptMenuCase& c : cases) {
+        MenuInputs in;
+        in.Recording = c.recording;
+        in.ScriptRunning = c.running;
+        state.Update(in);
+        for (int command : {CMD_EXECUTE_SCRIPT, CMD_RECORD_SCRIPT, CMD_EDIT_SCRIPT})
+            EXPECT_EQ(state.Of(command).Enabled, c.start) << command;
+        EXPECT_EQ(state.Of(CMD_STOP_SCRIPT).Enabled, c.stopScript);
+        EXPECT_EQ(state.Of(CMD_STOP_RECORDING).Enabled, c.stopRecording);
+        EXPECT_TRUE(state.Of(CMD_CREATE_SCRIPT).Enabled);
+    }
+}
+
 TEST(MenuState, CommandsOfLaterPartsStayGrey)
 {
     MenuInputs in;
     EXPECT_FALSE(After(in, CMD_ABOUT).Enabled);
-    EXPECT_FALSE(After(in, CMD_EXECUTE_SCRIPT).Enabled);
+    EXPECT_FALSE(After(in, CMD_OPTIONS).Enabled);
     EXPECT_TRUE(After(in, CMD_INFO_GENERAL).Enabled);
     EXPECT_TRUE(After(in, CMD_EXIT).Enabled);
 }

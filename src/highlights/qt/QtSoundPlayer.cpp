@@ -1,5 +1,7 @@
 #include "highlights/qt/QtSoundPlayer.h"
 
+#include "session/qt/ProgramFiles.h"
+
 #include <QAudioDevice>
 #include <QDir>
 #include <QFile>
@@ -45,15 +47,7 @@ bool QtSoundPlayer::PlayFile(const char* path)
 void InstallDefaultSounds(const QString& folder)
 {
     LoadResources();
-    const QDir sounds(QStringLiteral(":/sounds"));
-    for (const QString& name : sounds.entryList(QDir::Files)) {
-        const QString target = QDir(folder).filePath(name);
-        if (QFileInfo::exists(target))
-            continue;
-        QFile::copy(sounds.filePath(name), target);
-        QFile::setPermissions(target, QFile::ReadOwner | QFile::WriteOwner | QFile::ReadGroup |
-                                          QFile::ReadOther);
-    }
+    InstallMissingResources(QStringLiteral(":/sounds"), folder);
 }
 
 } // namespace steward

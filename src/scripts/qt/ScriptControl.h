@@ -29,7 +29,7 @@ struct ScriptControlParts {
 };
 
 // The Scripts menu, the running script and the recording, on the Qt main loop.
-class ScriptControl : private ScriptHost {
+class ScriptControl : public CommandRecording, private ScriptHost {
   public:
     explicit ScriptControl(ScriptControlParts parts);
     ~ScriptControl() override;
@@ -41,7 +41,7 @@ class ScriptControl : private ScriptHost {
     // The per-turn hook of the main loop.
     void ScriptStep() { runner_.ScriptStep(); }
     void AbortScript() { runner_.AbortScript(); }
-    void RecordCommand(const char* text);
+    void RecordCommand(const char* text) override;
 
     // MM_RUN_SCRIPT.
     void RunScript();

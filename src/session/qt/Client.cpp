@@ -5,6 +5,7 @@
 #include "commands/Keyboard.h"
 #include "commands/qt/CommandLine.h"
 #include "commands/qt/KeyFilterQt.h"
+#include "scripts/qt/ScriptControl.h"
 #include "session/qt/ChildWindowSet.h"
 #include "session/qt/ConnectionChoice.h"
 #include "session/qt/Desktop.h"
@@ -59,6 +60,7 @@ Client::Client(ClientOptions options, Desktop& desktop)
                                            session_.Profile.Settings);
     keyFilter_ = std::make_unique<KeyFilterQt>(keyboard_->Filter, *commandLine_);
     qApp->installEventFilter(keyFilter_.get());
+    MakeScriptControl();
     profile_ = std::make_unique<QtProfileHost>(
         QtProfileHost::Links{session_.Files, session_.Profile, session_.Panel, highlights_,
                              keyboard_->Macros, *keyFilter_, *windows_, *frame_});
@@ -179,6 +181,8 @@ void Client::OnLoopTurn()
     if (QThread::currentThread()->loopLevel() != 1)
         return;
     logs_.FlushIfFull();
+    if (scripts_->Running())
+        scripts_->ScriptStep();
 }
 
 void Client::PostCommand(int command)

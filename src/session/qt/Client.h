@@ -28,6 +28,7 @@ class Keyboard;
 class KeyFilterQt;
 class QtKeyboardHost;
 class QtProfileHost;
+class ScriptControl;
 
 // What the process was started with.
 struct ClientOptions {
@@ -77,6 +78,7 @@ class Client : public QObject, private FrameQueue, private RestSender {
     bool OnClose();
     void OnDropped();
     void OnWheel(bool shift, int amount);
+    void MakeScriptControl();
     void OnLoopTurn();
     MenuInputs ReadMenuInputs() const;
 
@@ -121,6 +123,7 @@ class Client : public QObject, private FrameQueue, private RestSender {
     std::unique_ptr<Keyboard> keyboard_;
     std::unique_ptr<KeyFilterQt> keyFilter_;
     std::unique_ptr<QtProfileHost> profile_;
+    std::unique_ptr<ScriptControl> scripts_;
     QTimer timer_;
     // A start that ended before the loop leaves LastChar as it was.
     bool started_ = false;

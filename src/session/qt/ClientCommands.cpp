@@ -7,11 +7,13 @@
 #include "commands/Keyboard.h"
 #include "commands/qt/CommandLine.h"
 #include "highlights/qt/QtClipboardReader.h"
+#include "scripts/qt/ScriptControl.h"
 #include "session/CommandTable.h"
 #include "session/qt/ChildWindowSet.h"
 #include "session/qt/Desktop.h"
 #include "session/qt/FrameWindow.h"
 #include "session/qt/MdiClient.h"
+#include "session/qt/QtKeyboardHost.h"
 #include "terminal/AnsiWindow.h"
 #include "terminal/Wheel.h"
 
@@ -65,6 +67,13 @@ const Client::CommandEntry Client::COMMANDS[] = {
     {CMD_GRAPHICS_AT_TOP, [](Client& c) { c.SetDisplayMode(DISPLAY_GRAPHICS_TOP); }},
     {CMD_GRAPHICS_AT_BOTTOM, [](Client& c) { c.SetDisplayMode(DISPLAY_GRAPHICS_BOTTOM); }},
     {CMD_FULL_SCREEN, [](Client& c) { c.SetDisplayMode(DISPLAY_FULL_SCREEN); }},
+    {MM_RUN_SCRIPT, [](Client& c) { c.scripts_->RunScript(); }},
+    {CMD_EXECUTE_SCRIPT, [](Client& c) { c.scripts_->ExecuteScript(); }},
+    {CMD_STOP_SCRIPT, [](Client& c) { c.scripts_->StopScript(); }},
+    {CMD_RECORD_SCRIPT, [](Client& c) { c.scripts_->RecordScript(); }},
+    {CMD_STOP_RECORDING, [](Client& c) { c.scripts_->StopRecording(); }},
+    {CMD_EDIT_SCRIPT, [](Client& c) { c.logs_.RunNotepad(c.scripts_->ChooseScriptToEdit()); }},
+    {CMD_CREATE_SCRIPT, [](Client& c) { c.logs_.RunNotepad(c.scripts_->CreateScript()); }},
 };
 
 void Client::OnCommand(int command)
@@ -140,6 +149,18 @@ void Client::AskDragTarget()
     CopyCut(dragTarget, sizeof dragTarget, target.c_str());
 }
 
+void Client::MakeScriptControl()
+{
+    scripts_ = std::make_unique<ScriptControl>(
+        ScriptControlParts{session_.Script, keyboard_->State, session_.Words, session_.Panel.RT,
+                           desktop_, frame_.get(), [this] { return ScriptPath(session_.Files); },
+                           [this](const char* text) { link_.PrintToGameWindow(text); },
+                           [this](const char* text) { keyboard_->Road.SendScripted(text); },
+                           [this](int seconds) { keyboardHost_->PumpFor(seconds); }});
+    keyboardHost_->SetScripts(*scripts_);
+    link_.SetRecording(scripts_.get());
+}
+
 void Client::OnWheel(bool shift, int amount)
 {
     if (AnsiWindow* window = windows_->ActiveWindow())
@@ -162,6 +183,8 @@ MenuInputs Client::ReadMenuInputs() const
     AnsiWindow* child = windows_->ActiveWindow();
     in.ActiveChildHasSelection = child && child->HasSelection();
     in.ClipboardHasText = !QGuiApplication::clipboard()->text().isEmpty();
+    in.Recording = scripts_->Recording();
+    in.ScriptRunning = scripts_->Running();
     return in;
 }
 

@@ -2,6 +2,7 @@
 
 #include "base/ByteText.h"
 
+#include "scripts/qt/ScriptDialogs.h"
 #include "session/qt/ExitDialog.h"
 
 #include <QApplication>
@@ -111,6 +112,21 @@ bool QtDesktop::AskDragTarget(QWidget* parent, std::string& target)
 void QtDesktop::Beep()
 {
     QApplication::beep();
+}
+
+std::string QtDesktop::ChooseScriptFile(QWidget* parent, const std::string& folder, bool forEditing)
+{
+    return ChooseScriptFileDialog(parent, folder, forEditing);
+}
+
+std::string QtDesktop::AskRecordFile(QWidget* parent, const std::string& folder)
+{
+    return RecordScriptFileDialog(parent, folder);
+}
+
+std::string QtDesktop::CreateScript(QWidget* parent, const std::string& folder)
+{
+    return ScriptCreatorDialog(parent, folder);
 }
 
 } // namespace steward

@@ -38,6 +38,12 @@ class Desktop {
     virtual bool AskDragTarget(QWidget* parent, std::string& target) = 0;
     // The player of the highlight and start-up sounds.
     virtual SoundPlayer& Sounds() = 0;
+    // The script dialogs, starting in the script folder: a file to run or to edit, the file
+    // of a recording, a new empty script. Each gives a path, or empty on Cancel.
+    virtual std::string ChooseScriptFile(QWidget* parent, const std::string& folder,
+                                         bool forEditing) = 0;
+    virtual std::string AskRecordFile(QWidget* parent, const std::string& folder) = 0;
+    virtual std::string CreateScript(QWidget* parent, const std::string& folder) = 0;
 };
 
 // The real dialogs and the desktop's own editor.
@@ -53,6 +59,10 @@ class QtDesktop : public Desktop {
     bool AskString(QWidget* parent, const char* title, char* answer, std::size_t capacity) override;
     bool AskDragTarget(QWidget* parent, std::string& target) override;
     SoundPlayer& Sounds() override { return sounds_; }
+    std::string ChooseScriptFile(QWidget* parent, const std::string& folder,
+                                 bool forEditing) override;
+    std::string AskRecordFile(QWidget* parent, const std::string& folder) override;
+    std::string CreateScript(QWidget* parent, const std::string& folder) override;
 
   private:
     QtSoundPlayer sounds_;

@@ -2,10 +2,14 @@
 
 #include <string>
 
+class QString;
+
 namespace steward {
 
-// Writes the files that the program brings ("Version Notes.Txt" and the default sounds) into
-// the folder where they are missing.
+// Writes the files that the program brings ("Version Notes.Txt", the default sounds and the
+// example scripts) into the folder where they are missing.
 void InstallProgramFiles(const std::string& folder);
+// Copies each file of a resource folder into the folder, unless a file of its name is there.
+void InstallMissingResources(const QString& resourceFolder, const QString& folder);
 
 } // namespace steward

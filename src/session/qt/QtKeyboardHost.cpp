@@ -1,5 +1,6 @@
 #include "session/qt/QtKeyboardHost.h"
 
+#include "scripts/qt/ScriptControl.h"
 #include "session/GameLink.h"
 #include "session/Session.h"
 #include "session/Trace.h"
@@ -100,6 +101,17 @@ void QtKeyboardHost::PumpFor(int seconds)
 void QtKeyboardHost::Trace(const char* line)
 {
     steward::Trace("%s", line);
+}
+
+bool QtKeyboardHost::ScriptRunning() const
+{
+    return scripts_ && scripts_->Running();
+}
+
+void QtKeyboardHost::AbortScript()
+{
+    if (scripts_)
+        scripts_->AbortScript();
 }
 
 } // namespace steward

@@ -8,6 +8,7 @@ class ChildWindowSet;
 class Desktop;
 class FrameWindow;
 class GameLink;
+class ScriptControl;
 struct Session;
 
 // The keyboard's host: rest mode, the text windows and the frame as keys and macros reach them.
@@ -29,10 +30,8 @@ class QtKeyboardHost : public KeyboardHost {
     void ScrollActiveChild(int scrollCode) override;
     void NextChildWindow() override;
     void ToggleGameWindowMaximized() override;
-    // Waits for the script runner, which will say whether a script is open.
-    bool ScriptRunning() const override { return false; }
-    // Waits for the script runner, which will close the open script.
-    void AbortScript() override {}
+    bool ScriptRunning() const override;
+    void AbortScript() override;
     void EndScrollback() override;
     void SetFrameTitle(const char* title) override;
     const char* CurrentCharacter() const override;
@@ -43,8 +42,12 @@ class QtKeyboardHost : public KeyboardHost {
     void PumpFor(int seconds) override;
     void Trace(const char* line) override;
 
+    // The scripts come after the keyboard, whose state they share.
+    void SetScripts(ScriptControl& scripts) { scripts_ = &scripts; }
+
   private:
     Links links_;
+    ScriptControl* scripts_ = nullptr;
 };
 
 } // namespace steward

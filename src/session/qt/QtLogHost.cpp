@@ -93,6 +93,8 @@ void QtLogHost::RunVersionNotes()
 
 void QtLogHost::RunNotepad(const std::string& path)
 {
+    if (path.empty())
+        return;
     if (!desktop_.RunEditor(path))
         desktop_.ShowMessage(owner_, EDITOR_FAILED_TEXT, nullptr);
 }

@@ -46,8 +46,10 @@ class QtLogHost : public LogHost, public FileProbe {
     // FileProbe.
     bool Exists(const char* path) const override;
 
-  private:
+    // Opens the file in the text editor, or says that none started; an empty path opens none.
     void RunNotepad(const std::string& path);
+
+  private:
 
     Session& session_;
     GameLink& link_;

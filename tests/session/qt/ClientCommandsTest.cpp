@@ -68,6 +68,9 @@ class OfflineDesktop : public Desktop {
         return dragOk;
     }
     SoundPlayer& Sounds() override { return sounds; }
+    std::string ChooseScriptFile(QWidget*, const std::string&, bool) override { return {}; }
+    std::string AskRecordFile(QWidget*, const std::string&) override { return {}; }
+    std::string CreateScript(QWidget*, const std::string&) override { return {}; }
 
     SilentPlayer sounds;
     std::string shownTarget;
