@@ -33,18 +33,6 @@ class OtherPlayer {
 
 class AnalysisWorldTest : public ClientHarness {
   protected:
-    // Starts a client and logs in as Tester, up to the first status record.
-    std::unique_ptr<Client> LoggedInClient()
-    {
-        auto client = MakeClient(Address());
-        if (!client->Start() || !WaitForGameText(*client, "By what name are you known?"))
-            return nullptr;
-        Type(*client, "Tester");
-        if (!QTest::qWaitFor([&] { return client->State().Panel.Hp.GetMax() > 0; }, WAIT_MS))
-            return nullptr;
-        return client;
-    }
-
     // Every byte that a window holds, colour codes included.
     static std::string WindowBytes(AnsiWindow* window)
     {

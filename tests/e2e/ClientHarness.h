@@ -147,6 +147,18 @@ class ClientHarness : public ::testing::Test {
         return std::make_unique<Client>(std::move(options), desktop);
     }
 
+    // Starts a client and logs in as Tester, up to the first status record.
+    std::unique_ptr<Client> LoggedInClient()
+    {
+        auto client = MakeClient(Address());
+        if (!client->Start() || !WaitForGameText(*client, "By what name are you known?"))
+            return nullptr;
+        Type(*client, "Tester");
+        if (!QTest::qWaitFor([&] { return client->State().Panel.Hp.GetMax() > 0; }, WAIT_MS))
+            return nullptr;
+        return client;
+    }
+
     std::string Address() const { return "/H127.0.0.1/P" + std::to_string(world->port); }
 
     static std::string GameText(Client& client)

@@ -17,13 +17,7 @@ class ScriptWorldTest : public ClientHarness {
     std::unique_ptr<Client> LoggedIn()
     {
         InstallProgramFiles(folder.path().toStdString());
-        auto client = MakeClient(Address());
-        if (!client->Start() || !WaitForGameText(*client, "By what name are you known?"))
-            return nullptr;
-        Type(*client, "Tester");
-        if (!QTest::qWaitFor([&] { return client->State().Panel.Hp.GetMax() > 0; }, WAIT_MS))
-            return nullptr;
-        return client;
+        return LoggedInClient();
     }
 
     // Runs the program's own loop, where a script steps, until done says so or time runs out.
