@@ -47,9 +47,10 @@ std::string ScriptPathIn(const char* folder, const char* name)
     std::error_code error;
     if (std::filesystem::exists(path, error))
         return path;
-    for (const auto& entry : std::filesystem::directory_iterator(folder, error))
-        if (EqualNoCase(entry.path().filename().c_str(), name))
-            return entry.path().string();
+    std::filesystem::directory_iterator entry(folder, error);
+    for (; !error && entry != std::filesystem::directory_iterator(); entry.increment(error))
+        if (EqualNoCase(entry->path().filename().c_str(), name))
+            return entry->path().string();
     return path;
 }
 

@@ -93,7 +93,7 @@ TEST_F(ScriptWorldTest, WaitForResumesOnlyOnItsTextWhileTypedCommandsGoOutAtOnce
     auto client = LoggedIn();
     ASSERT_TRUE(client);
     ScriptWaitState& wait = client->State().Script;
-    Execute(*client, Script("Bell.Stw", "WaitFor The bell tower says\nput look\n"
+    Execute(*client, Script("Bell.Stw", "WaitFor The bell tower says\nput look\npause 1\n"
                                         "WaitFor a text that never comes\nput never\n"));
     ASSERT_TRUE(RunLoopUntil([&] { return wait.ScriptWait == WAIT_TEXT; }));
 
