@@ -47,26 +47,5 @@ TEST(SubstituteParametersTest, ExpandsEachPercentWordOnce)
         EXPECT_EQ(Substitute(c), c.expanded) << c.line.substr(0, 40) << " with " << c.parameters;
 }
 
-TEST(ShiftParametersTest, DropsTheFirstAndKeepsQuotedOnesWhole)
-{
-    const struct {
-        const char* before;
-        const char* after;
-    } cases[] = {
-        {"\"big rat\" 3", "3 "},
-        {"a \"b c\" d", "b\x7f"
-                        "c d "},
-        {"a", ""},
-        {"", ""},
-    };
-    Tokenizer words;
-    for (const auto& c : cases) {
-        char parameters[EXPANSION_SIZE];
-        std::strcpy(parameters, c.before);
-        ShiftParameters(parameters, sizeof parameters, words);
-        EXPECT_STREQ(parameters, c.after) << c.before;
-    }
-}
-
 } // namespace
 } // namespace steward
