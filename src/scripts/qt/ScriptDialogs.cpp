@@ -134,7 +134,6 @@ std::string ScriptCreatorDialog(QWidget* parent, const std::string& folder)
 {
     QWizard sheet(parent);
     sheet.setWindowTitle(QStringLiteral("Create Script Steward"));
-    sheet.setOption(QWizard::NoCancelButton, false);
     auto* kind = new ScriptKindPage;
     auto* name = new ScriptNamePage(folder, *kind);
     sheet.addPage(kind);
