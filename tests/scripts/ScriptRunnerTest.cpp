@@ -14,6 +14,11 @@ struct StepCase {
     Events events;
 };
 
+void PrintTo(const StepCase& c, std::ostream* out)
+{
+    *out << c.name;
+}
+
 const std::string A506(506, 'a');
 // A rest of line is cut at the token buffer's 255 characters.
 const std::string A255(255, 'a');
