@@ -67,6 +67,7 @@ class Client : public QObject, private FrameQueue, private RestSender {
     ChildWindowSet& Windows() { return *windows_; }
     Session& State() { return session_; }
     bool IsDisconnected() const { return link_.IsDisconnected(); }
+    void PrintToGameWindow(const char* text) { link_.PrintToGameWindow(text); }
 
   private:
     // Pause enters rest mode, Shift+Pause rests without snoring.
