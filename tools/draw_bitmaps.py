@@ -1,13 +1,17 @@
 #!/usr/bin/env python3
 """Draws the client's own pictures into resources/: the emblem behind the text windows
 (Background.png, 175 by 161), the title of the connect dialog (GameTitle.png, 330 by 177)
-and the program's icon (AppIcon.png, 32 by 32). Uses the standard library only."""
+and the program's icon (AppIcon.png, 32 by 32), and the panel's bitmaps and the gauges' alphabet into
+resources/bitmaps/ (see panel_art.py and alphabet.py). Uses the standard library only."""
 
 import math
 import os
 import struct
 import sys
 import zlib
+
+from alphabet import save_alphabet
+from panel_art import save_panel_bitmaps
 
 # A 5 by 7 capital font for the title, one string of rows per letter.
 GLYPHS = {
@@ -179,6 +183,10 @@ def main():
     background().save(os.path.join(folder, "Background.png"))
     game_title().save(os.path.join(folder, "GameTitle.png"))
     app_icon().save(os.path.join(folder, "AppIcon.png"))
+    bitmaps = os.path.join(folder, "bitmaps")
+    os.makedirs(bitmaps, exist_ok=True)
+    save_alphabet(os.path.join(bitmaps, "IDB_ALPHABET.bmp"))
+    save_panel_bitmaps(bitmaps)
 
 
 if __name__ == "__main__":
