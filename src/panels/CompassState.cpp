@@ -11,6 +11,8 @@ void CompassState::SetExits(std::uint32_t masks)
         ExitStates[zone] = !(exits & bit) ? EXIT_NONE : (special & bit) ? EXIT_SPECIAL : EXIT_OPEN;
     }
     lastMasks_ = masks;
+    if (view_)
+        view_->Repaint();
 }
 
 } // namespace steward

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "panels/PanelStates.h"
+
 #include <cstddef>
 #include <cstdint>
 
@@ -12,6 +14,7 @@ enum ExitState : std::uint8_t { EXIT_NONE = 0, EXIT_OPEN = 1, EXIT_SPECIAL = 2 }
 // The lit zones of the compass; zone i stands for exit bit 1 << i.
 class CompassState {
   public:
+    void SetView(PanelView* view) { view_ = view; }
     // CM_SETEXITS: low 16 bits the exits, high 16 bits the special ones among them.
     void SetExits(std::uint32_t masks);
     ExitState Zone(std::size_t index) const
@@ -23,6 +26,7 @@ class CompassState {
   private:
     ExitState ExitStates[COMPASS_ZONES] = {};
     std::uint32_t lastMasks_ = 0;
+    PanelView* view_ = nullptr;
 };
 
 } // namespace steward

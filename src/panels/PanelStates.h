@@ -63,8 +63,8 @@ class IconState {
     PanelView* view_ = nullptr;
 };
 
-// Text of a small text box such as the "Silver:" and "Gold:" fields.
-constexpr std::size_t PANEL_TEXT_SIZE = 64;
+// Text of a small text box such as the "Silver:" and "Gold:" fields: up to 254 characters.
+constexpr std::size_t PANEL_TEXT_SIZE = 255;
 
 class PanelText {
   public:

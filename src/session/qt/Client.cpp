@@ -6,6 +6,7 @@
 #include "commands/qt/CommandLine.h"
 #include "commands/qt/KeyFilterQt.h"
 #include "scripts/qt/ScriptControl.h"
+#include "panels/qt/StatusPanelView.h"
 #include "session/qt/ChildWindowSet.h"
 #include "session/qt/ConnectionChoice.h"
 #include "session/qt/Desktop.h"
@@ -46,9 +47,15 @@ Client::Client(ClientOptions options, Desktop& desktop)
     handlers.ReadMenuInputs = [this] { return ReadMenuInputs(); };
     handlers.Close = [this] { return OnClose(); };
     handlers.Wheel = [this](bool shift, int amount) { OnWheel(shift, amount); };
-    handlers.Resized = [this] { windows_->Arrange(false); };
+    handlers.Resized = [this] {
+        if (panelView_)
+            panelView_->Place(frame_->Layout());
+        windows_->Arrange(false);
+    };
     frame_ = std::make_unique<FrameWindow>(std::move(handlers));
     logs_.SetOwner(frame_.get());
+    panelView_ = std::make_unique<StatusPanelView>(frame_->Surface(), session_.Panel,
+                                                   [this](int command) { OnCommand(command); });
     commandLine_ = new CommandLine;
     windows_ = std::make_unique<ChildWindowSet>(ChildWindowSet::Links{
         frame_->Mdi(), session_.Windows, session_.Profile, link_.Pipeline(), commandLine_});
@@ -161,6 +168,7 @@ void Client::Finish()
     if (!frame_)
         return;
     keyFilter_.reset();
+    panelView_.reset();
     frame_.reset();
     link_.ShutdownConnection();
     if (started_)

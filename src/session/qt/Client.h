@@ -29,6 +29,7 @@ class KeyFilterQt;
 class QtKeyboardHost;
 class QtProfileHost;
 class ScriptControl;
+class StatusPanelView;
 
 // What the process was started with.
 struct ClientOptions {
@@ -117,6 +118,7 @@ class Client : public QObject, private FrameQueue, private RestSender {
     QtGameSocket socket_;
     QtLogHost logs_;
     std::unique_ptr<FrameWindow> frame_;
+    std::unique_ptr<StatusPanelView> panelView_;
     // The command line belongs to the frame; the keyboard works on it.
     CommandLine* commandLine_ = nullptr;
     std::unique_ptr<ChildWindowSet> windows_;

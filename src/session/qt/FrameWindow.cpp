@@ -1,5 +1,6 @@
 #include "session/qt/FrameWindow.h"
 
+#include "config/Settings.h"
 #include "session/qt/FrameMenu.h"
 #include "session/qt/MdiClient.h"
 
@@ -76,13 +77,14 @@ int FrameWindow::CommandLineHeight() const
 void FrameWindow::LayoutFrame()
 {
     const int h = CommandLineHeight();
-    FrameLayout layout =
-        steward::LayoutFrame(surface_->width(), surface_->height(), h, displayMode_);
-    const Area& mdi = layout.MdiClient;
+    layout_ = steward::LayoutFrame(surface_->width(), surface_->height(), h, displayMode_);
+    const Area& mdi = layout_.MdiClient;
     mdi_->setGeometry(mdi.X, mdi.Y, mdi.Width, mdi.Height);
+    if (displayMode_ == DISPLAY_GRAPHICS_BOTTOM)
+        layout_.PanelTop = PanelTopBelow(mdi_->contentsRect().height());
     surface_->SetEdge(mdi_->geometry());
     if (commandLine_) {
-        const Area& line = layout.CommandLine;
+        const Area& line = layout_.CommandLine;
         commandLine_->setGeometry(line.X, line.Y, line.Width, line.Height);
     }
     surface_->update();

@@ -60,6 +60,8 @@ class FrameWindow : public QMainWindow {
     void SetDisplayMode(std::uint8_t mode);
     // WM_SIZE: places everything for the display mode.
     void LayoutFrame();
+    // The last layout, with the panel's PanelTop worked out for every mode.
+    const FrameLayout& Layout() const { return layout_; }
     void FocusCommandLine();
 
   protected:
@@ -77,6 +79,7 @@ class FrameWindow : public QMainWindow {
     FrameMenu* menu_;
     QPointer<QWidget> commandLine_;
     std::uint8_t displayMode_ = 0;
+    FrameLayout layout_;
 };
 
 } // namespace steward

@@ -1,0 +1,41 @@
+#pragma once
+
+#include "panels/MultiControl.h"
+#include "panels/qt/BitmapImage.h"
+
+#include <QString>
+#include <QWidget>
+
+#include <memory>
+
+namespace steward {
+
+class PanelResources;
+
+// The one window kind of every panel control: it owns its handler with the handler's data and,
+// for the kinds that show a picture of their own, that picture. It paints only when the
+// handler says that the picture changed.
+class MultiControl : public QWidget, public GaugeView, public PanelView {
+    Q_OBJECT
+  public:
+    MultiControl(QWidget* parent, std::unique_ptr<ControlHandler> handler,
+                 PanelResources& resources, const char* pictureName = nullptr);
+
+    int Id() const { return id_; }
+    ControlHandler& Handler() { return *handler_; }
+
+    void Repaint() override;
+    void Repaint(bool erase) override;
+
+  protected:
+    void paintEvent(QPaintEvent* event) override;
+
+  private:
+    std::unique_ptr<ControlHandler> handler_;
+    PanelResources& resources_;
+    BitmapImage picture_;
+    QString scratch_;
+    int id_;
+};
+
+} // namespace steward
