@@ -1,6 +1,7 @@
 #include "highlights/qt/QtSoundPlayer.h"
 
 #include "session/qt/ProgramFiles.h"
+#include "session/qt/ProgramResources.h"
 
 #include <QAudioDevice>
 #include <QDir>
@@ -9,17 +10,6 @@
 #include <QMediaDevices>
 #include <QSoundEffect>
 #include <QUrl>
-
-// The compiled-in files sit in the static ui library, whose resource initialiser nothing else
-// references, so it is called here by name; it must be called outside any namespace.
-static void LoadResources()
-{
-    static const bool loaded = [] {
-        Q_INIT_RESOURCE(resources);
-        return true;
-    }();
-    (void)loaded;
-}
 
 namespace steward {
 
@@ -46,7 +36,7 @@ bool QtSoundPlayer::PlayFile(const char* path)
 
 void InstallDefaultSounds(const QString& folder)
 {
-    LoadResources();
+    LoadProgramResources();
     InstallMissingResources(QStringLiteral(":/sounds"), folder);
 }
 

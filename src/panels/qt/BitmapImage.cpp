@@ -1,5 +1,7 @@
 #include "panels/qt/BitmapImage.h"
 
+#include "session/qt/ProgramResources.h"
+
 #include <QPainter>
 
 #include <cstdio>
@@ -42,6 +44,7 @@ bool BitmapImage::LoadBitmapImage(const char* name, bool)
     if (ImageName[0] && std::strcmp(name, ImageName) == 0)
         return true;
     ClearBitmapImage();
+    LoadProgramResources();
     QImage loaded(ResourcePath(name));
     if (loaded.isNull())
         return false;

@@ -1,6 +1,7 @@
 #include "session/qt/ProgramFiles.h"
 
 #include "highlights/qt/QtSoundPlayer.h"
+#include "session/qt/ProgramResources.h"
 
 #include <QDir>
 #include <QFile>
@@ -20,7 +21,7 @@ void InstallProgramFiles(const std::string& folder)
 {
     const QString base = QString::fromLocal8Bit(folder.c_str());
     const QString notes = QDir(base).filePath(QString::fromLatin1(VERSION_NOTES));
-    // The sounds load the program's resources, which the other files come from too.
+    LoadProgramResources();
     InstallDefaultSounds(base);
     if (!QFile::exists(notes) && QFile::copy(QStringLiteral(":/") + VERSION_NOTES, notes))
         QFile::setPermissions(notes, READ_ALL_WRITE_OWNER);
