@@ -5,13 +5,11 @@
 namespace steward {
 
 const std::uint8_t ALPHABET_ADVANCES[ALPHABET_CHAR_COUNT] = {
-    3, 5, 7, 8, 7, 7, 8, 4, 6, 6, 8, 7, 5, 8, 4, 8, 7, 7, 7, 7, 8, 7, 7, 8, 7, 7, 4, 4,
-    7, 7, 7, 7, 8, 7, 8, 8, 8, 8, 8, 8, 7, 5, 8, 8, 8, 8, 8, 8, 8, 8, 8, 7, 7, 7, 7, 8,
-    7, 7, 8, 5, 8, 5, 8, 8, 4, 7, 7, 7, 7, 7, 7, 7, 7, 5, 7, 7, 5, 8, 7, 7, 7, 7, 7, 7,
-    7, 7, 7, 8, 8, 7, 7, 7, 3, 7, 8, 8};
+    3, 5, 7, 8, 7, 7, 8, 4, 6, 6, 8, 7, 5, 8, 4, 8, 7, 7, 7, 7, 8, 7, 7, 8, 7, 7, 4, 4, 7, 7, 7, 7,
+    8, 7, 8, 8, 8, 8, 8, 8, 7, 5, 8, 8, 8, 8, 8, 8, 8, 8, 8, 7, 7, 7, 7, 8, 7, 7, 8, 5, 8, 5, 8, 8,
+    4, 7, 7, 7, 7, 7, 7, 7, 7, 5, 7, 7, 5, 8, 7, 7, 7, 7, 7, 7, 7, 7, 7, 8, 8, 7, 7, 7, 3, 7, 8, 8};
 
-BitmapFontGrid::BitmapFontGrid(int bitmapWidth, int bitmapHeight,
-                               const std::uint8_t* advanceTable)
+BitmapFontGrid::BitmapFontGrid(int bitmapWidth, int bitmapHeight, const std::uint8_t* advanceTable)
     : cellWidth_(bitmapWidth / ALPHABET_COLUMNS), cellHeight_(bitmapHeight / ALPHABET_ROWS),
       advanceTable_(advanceTable)
 {

@@ -17,9 +17,9 @@ constexpr int COMPASS_PANEL_WIDTH = 62;
 constexpr int COMPASS_PANEL_HEIGHT = 43;
 // Each zone's rectangle in a panel of the compass picture: x, y, width, height.
 constexpr int COMPASS_ZONE_RECTS[COMPASS_ZONES][4] = {
-    {32, 3, 15, 13}, {47, 5, 9, 9},   {45, 14, 13, 15}, {47, 29, 9, 9},
-    {32, 27, 15, 13}, {23, 29, 9, 9},  {21, 14, 13, 15}, {23, 5, 9, 9},
-    {6, 17, 9, 9},   {3, 3, 15, 13},  {3, 27, 15, 13}};
+    {32, 3, 15, 13},  {47, 5, 9, 9},  {45, 14, 13, 15}, {47, 29, 9, 9},
+    {32, 27, 15, 13}, {23, 29, 9, 9}, {21, 14, 13, 15}, {23, 5, 9, 9},
+    {6, 17, 9, 9},    {3, 3, 15, 13}, {3, 27, 15, 13}};
 
 struct OverlayPlaces {
     FigureBitmap Bitmap;
@@ -80,16 +80,16 @@ bool TextBoxHandler::NeedsPaint() const
 
 bool GaugeHandler::Look::operator==(const Look& o) const
 {
-    return Minimum == o.Minimum && Maximum == o.Maximum && Value == o.Value &&
-           Flags == o.Flags && Colors.GaugeTextColor == o.Colors.GaugeTextColor &&
+    return Minimum == o.Minimum && Maximum == o.Maximum && Value == o.Value && Flags == o.Flags &&
+           Colors.GaugeTextColor == o.Colors.GaugeTextColor &&
            Colors.BarColor == o.Colors.BarColor &&
            Colors.GaugeBackColor == o.Colors.GaugeBackColor && Text == o.Text;
 }
 
 GaugeHandler::Look GaugeHandler::Current() const
 {
-    Look look{gauge_.GetMin(), gauge_.GetMax(), gauge_.GetValue(), gauge_.GetFlags(),
-              gauge_.Colors(), {}};
+    Look look{gauge_.GetMin(),   gauge_.GetMax(), gauge_.GetValue(),
+              gauge_.GetFlags(), gauge_.Colors(), {}};
     std::memcpy(look.Text.data(), gauge_.Text(), look.Text.size());
     return look;
 }

@@ -64,9 +64,8 @@ TEST(BitmapFontGridTest, CellsOfCharacters)
     struct Case {
         char c;
         int sourceX, glyphY, maskY;
-    } cases[] = {{' ', 0, 0, 33},          {'A', 8, 11, 44},         {'4', 160, 0, 33},
-                 {'\x7f', 248, 22, 55},    {'\x80', 0, 0, 33},       {'\x1f', 0, 0, 33},
-                 {'\xff', 0, 0, 33}};
+    } cases[] = {{' ', 0, 0, 33},    {'A', 8, 11, 44},   {'4', 160, 0, 33}, {'\x7f', 248, 22, 55},
+                 {'\x80', 0, 0, 33}, {'\x1f', 0, 0, 33}, {'\xff', 0, 0, 33}};
     for (const Case& c : cases) {
         const FontCell cell = Alphabet.CellOf(c.c);
         EXPECT_EQ(cell.SourceX, c.sourceX) << int(c.c);
@@ -95,9 +94,12 @@ TEST(BitmapFontGridTest, WidthsAndPlaces)
 TEST(BitmapFontGridTest, TextSkipsTheSpaceButAdvances)
 {
     RecordingCanvas canvas;
-    DrawText(canvas, Alphabet, 10, 2, "1 \x90" "2", 0xFFFFFF);
-    EXPECT_EQ(canvas.calls, (std::vector<std::string>{"cell 136,0 at 10,2 ffffff",
-                                                      "cell 144,0 at 23,2 ffffff"}));
+    DrawText(canvas, Alphabet, 10, 2,
+             "1 \x90"
+             "2",
+             0xFFFFFF);
+    EXPECT_EQ(canvas.calls,
+              (std::vector<std::string>{"cell 136,0 at 10,2 ffffff", "cell 144,0 at 23,2 ffffff"}));
 }
 
 // A 60 by 16 gauge with a client area of 58 by 14 inside its one-pixel frame.
@@ -118,8 +120,12 @@ TEST(GaugeDrawingTest, BarStaysInsideTheClientArea)
         {"beyond maximum", 0, 100, 32767, {"fill 1,1,59,15 5f5f5f", "fill 1,1,59,15 5adc5a"}, 3},
         {"negative", 0, 100, -5, {"fill 1,1,59,15 5f5f5f"}, 0},
         {"minimum above maximum", 50, 40, 45, {"fill 1,1,59,15 5f5f5f"}, 0},
-        {"value past the range's length", 50, 100, 90,
-         {"fill 1,1,59,15 5f5f5f", "fill 1,1,59,15 5adc5a"}, 3},
+        {"value past the range's length",
+         50,
+         100,
+         90,
+         {"fill 1,1,59,15 5f5f5f", "fill 1,1,59,15 5adc5a"},
+         3},
     };
     for (const GaugeCase& c : cases) {
         Gauge gauge("Hp:", GF_SHOWVALUE | GF_SHOWMAX, true, {0xFFFFFF, 0x5ADC5A, 0x5F5F5F});
@@ -143,12 +149,12 @@ TEST(GaugeDrawingTest, OneBoxGaugeRecorded)
     GaugeHandler handler(gauge, Alphabet, &valueBox);
     RecordingCanvas canvas;
     handler.Paint(canvas, 62, 16);
-    EXPECT_EQ(canvas.calls, (std::vector<std::string>{
-                                "line 0,15-0,0 808080", "line 0,0-61,0 808080",
-                                "line 61,0-61,15 808080", "line 61,15--1,15 808080",
-                                "fill 1,1,61,15 5f5f5f", "fill 1,1,19,15 5adc5a",
-                                "line 16,14-16,12 ffffff", "line 31,14-31,12 ffffff",
-                                "line 46,14-46,12 ffffff"}));
+    EXPECT_EQ(canvas.calls,
+              (std::vector<std::string>{"line 0,15-0,0 808080", "line 0,0-61,0 808080",
+                                        "line 61,0-61,15 808080", "line 61,15--1,15 808080",
+                                        "fill 1,1,61,15 5f5f5f", "fill 1,1,19,15 5adc5a",
+                                        "line 16,14-16,12 ffffff", "line 31,14-31,12 ffffff",
+                                        "line 46,14-46,12 ffffff"}));
     EXPECT_STREQ(valueBox.Text(), "30/100");
     EXPECT_FALSE(handler.NeedsPaint());
     gauge.SetValue(30);
@@ -166,8 +172,8 @@ TEST(GaugeDrawingTest, CountdownStacksItsSeconds)
     GaugeHandler handler(gauge, Alphabet, nullptr);
     RecordingCanvas canvas;
     handler.Paint(canvas, 16, 36);
-    EXPECT_EQ(canvas.Only("cell"), (std::vector<std::string>{"cell 136,0 at 5,7 ffffff",
-                                                             "cell 144,0 at 5,18 ffffff"}));
+    EXPECT_EQ(canvas.Only("cell"),
+              (std::vector<std::string>{"cell 136,0 at 5,7 ffffff", "cell 144,0 at 5,18 ffffff"}));
 }
 
 TEST(CompassDrawingTest, ZonesLitFromExitBits)

@@ -75,8 +75,8 @@ void BitmapImage::DrawBitmap(QPainter& target, int x, int y) const
         target.drawImage(x, y, image_);
 }
 
-void BitmapImage::DrawBitmapPart(QPainter& target, int x, int y, int width, int height,
-                                 int sourceX, int sourceY) const
+void BitmapImage::DrawBitmapPart(QPainter& target, int x, int y, int width, int height, int sourceX,
+                                 int sourceY) const
 {
     if (!Empty())
         target.drawImage(x, y, image_, sourceX, sourceY, width, height);
@@ -95,9 +95,8 @@ BitmapImage LoadMappedBitmap(int resourceId)
 }
 
 BitmapFont::BitmapFont(const char* name, const std::uint8_t* advanceTable)
-    : FontImage(name, true),
-      grid_(FontImage.Empty() ? 0 : FontImage.Width(), FontImage.Empty() ? 0 : FontImage.Height(),
-            advanceTable)
+    : FontImage(name, true), grid_(FontImage.Empty() ? 0 : FontImage.Width(),
+                                   FontImage.Empty() ? 0 : FontImage.Height(), advanceTable)
 {
 }
 
@@ -127,8 +126,7 @@ const QImage* BitmapFont::Tinted(std::uint32_t color)
     return &tints_[slot].Image;
 }
 
-void BitmapFont::DrawCell(QPainter& target, const FontCell& cell, int x, int y,
-                          std::uint32_t color)
+void BitmapFont::DrawCell(QPainter& target, const FontCell& cell, int x, int y, std::uint32_t color)
 {
     if (FontImage.Empty())
         return;

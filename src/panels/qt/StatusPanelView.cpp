@@ -36,10 +36,10 @@ StatusPanelView::StatusPanelView(QWidget& frame, StatusPanel& panel,
                               COMPASS_WIDTH, COMPASS_HEIGHT, "IDB_COMPASS"));
     panel.BodyFigure.SetView(Add(std::make_unique<FigureHandler>(panel.BodyFigure), 460, 17,
                                  FIGURE_WIDTH, FIGURE_HEIGHT));
-    panel.WeaponIcon.SetView(Add(std::make_unique<IconHandler>(panel.WeaponIcon), 466, 3,
-                                 ICON_SIZE, ICON_SIZE, "IDB_SMALL_SWORD"));
-    panel.ShieldIcon.SetView(Add(std::make_unique<IconHandler>(panel.ShieldIcon), 486, 3,
-                                 ICON_SIZE, ICON_SIZE, "IDB_SMALL_SHIELD"));
+    panel.WeaponIcon.SetView(Add(std::make_unique<IconHandler>(panel.WeaponIcon), 466, 3, ICON_SIZE,
+                                 ICON_SIZE, "IDB_SMALL_SWORD"));
+    panel.ShieldIcon.SetView(Add(std::make_unique<IconHandler>(panel.ShieldIcon), 486, 3, ICON_SIZE,
+                                 ICON_SIZE, "IDB_SMALL_SHIELD"));
     AddLabel("Gold:", 546, 5, 34);
     AddBox(panel.Gold, 580, 5, MONEY_BOX_WIDTH);
     AddLabel("Silver:", 540, 22, 40);
@@ -63,8 +63,8 @@ StatusPanelView::~StatusPanelView()
     panel_.ShieldIcon.SetView(nullptr);
 }
 
-MultiControl* StatusPanelView::Add(std::unique_ptr<ControlHandler> handler, int x, int y,
-                                   int width, int height, const char* picture)
+MultiControl* StatusPanelView::Add(std::unique_ptr<ControlHandler> handler, int x, int y, int width,
+                                   int height, const char* picture)
 {
     auto* control = new MultiControl(&frame_, std::move(handler), resources_, picture);
     control->resize(width, height);
@@ -88,9 +88,8 @@ void StatusPanelView::AddGauge(Gauge& gauge, int x, int y, int width, int height
                                   font.TextWidth(VALUE_BOX_SAMPLE), font.CellHeight()));
         }
     }
-    gauge.SetView(
-        Add(std::make_unique<GaugeHandler>(gauge, resources_.Font().Grid(), valueBox), x, y,
-            width, height));
+    gauge.SetView(Add(std::make_unique<GaugeHandler>(gauge, resources_.Font().Grid(), valueBox), x,
+                      y, width, height));
 }
 
 void StatusPanelView::AddBox(PanelText& text, int x, int y, int width)

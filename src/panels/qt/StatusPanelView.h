@@ -34,12 +34,11 @@ class StatusPanelView {
         int X;
         int Y;
     };
-    MultiControl* Add(std::unique_ptr<ControlHandler> handler, int x, int y, int width,
-                      int height, const char* picture = nullptr);
+    MultiControl* Add(std::unique_ptr<ControlHandler> handler, int x, int y, int width, int height,
+                      const char* picture = nullptr);
     void AddGauge(Gauge& gauge, int x, int y, int width, int height);
     void AddBox(PanelText& text, int x, int y, int width);
-    void AddLabel(const char* text, int x, int y, int width,
-                  std::uint32_t color = LABEL_BOX_COLOR);
+    void AddLabel(const char* text, int x, int y, int width, std::uint32_t color = LABEL_BOX_COLOR);
 
     QWidget& frame_;
     StatusPanel& panel_;

@@ -45,9 +45,8 @@ TEST_F(PanelControlsTest, GaugeDrawsFrameBarAndBackground)
     Gauge gauge("Hp:", StatusPanel::BoxGaugeFlags, true, Colors);
     gauge.SetMax(100);
     gauge.SetValue(50);
-    const QImage image = Paint(std::make_unique<GaugeHandler>(gauge, resources.Font().Grid(),
-                                                              nullptr),
-                               60, 16);
+    const QImage image =
+        Paint(std::make_unique<GaugeHandler>(gauge, resources.Font().Grid(), nullptr), 60, 16);
     EXPECT_EQ(image.pixel(0, 0), qRgb(0x80, 0x80, 0x80));
     EXPECT_EQ(image.pixel(10, 8), qRgb(0x5A, 0xDC, 0x5A));
     EXPECT_EQ(image.pixel(50, 8), Grey);
@@ -58,9 +57,8 @@ TEST_F(PanelControlsTest, UprightGaugeWritesItsSecondsInTheAlphabet)
     Gauge gauge("RT:", StatusPanel::TimeGaugeFlags, false, Colors);
     gauge.SetMax(8000);
     gauge.StartCountdown(nullptr);
-    const QImage image = Paint(std::make_unique<GaugeHandler>(gauge, resources.Font().Grid(),
-                                                              nullptr),
-                               16, 36);
+    const QImage image =
+        Paint(std::make_unique<GaugeHandler>(gauge, resources.Font().Grid(), nullptr), 16, 36);
     int white = 0;
     for (int y = 0; y < image.height(); ++y)
         for (int x = 0; x < image.width(); ++x)
@@ -91,8 +89,7 @@ TEST_F(PanelControlsTest, FigureMapsItsMarkersToThePanelGrey)
     figure.SetState(FIGURE_SITTING);
     EXPECT_EQ(Paint(std::make_unique<FigureHandler>(figure), 46, 38).pixel(0, 0), Grey);
     figure.SetState(FIGURE_STANDING | FIGURE_BLEEDING);
-    EXPECT_EQ(Paint(std::make_unique<FigureHandler>(figure), 46, 38).pixel(0, 0),
-              qRgb(255, 0, 0));
+    EXPECT_EQ(Paint(std::make_unique<FigureHandler>(figure), 46, 38).pixel(0, 0), qRgb(255, 0, 0));
 }
 
 TEST_F(PanelControlsTest, IconShowsTheHeldHalf)
@@ -108,8 +105,7 @@ TEST_F(PanelControlsTest, IconShowsTheHeldHalf)
 
 TEST_F(PanelControlsTest, TextBoxFillsItsColourBehindTheText)
 {
-    const QImage image =
-        Paint(std::make_unique<TextBoxHandler>("Gold:", LABEL_BOX_COLOR), 34, 11);
+    const QImage image = Paint(std::make_unique<TextBoxHandler>("Gold:", LABEL_BOX_COLOR), 34, 11);
     EXPECT_EQ(image.pixel(33, 10), Grey);
     EXPECT_TRUE(image.pixel(33, 10) != image.pixel(2, 4) || image.pixel(3, 5) != Grey);
 }
