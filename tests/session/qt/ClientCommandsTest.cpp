@@ -262,13 +262,37 @@ TEST_F(ClientCommandsTest, CascadeLeavesEachWindowLargeEnoughToRead)
     EXPECT_EQ(corners.size(), 3u);
 }
 
-TEST_F(ClientCommandsTest, DisplayModesMoveTheTextArea)
+TEST_F(ClientCommandsTest, DisplayModesMoveTheTextAreaAndThePanel)
 {
-    client->OnCommand(CMD_FULL_SCREEN);
-    EXPECT_EQ(client->State().Profile.Settings.DisplayMode, 2);
-    EXPECT_EQ(client->Frame().Mdi().geometry().top(), 4);
-    client->OnCommand(CMD_GRAPHICS_AT_TOP);
-    EXPECT_EQ(client->Frame().Mdi().geometry().top(), 62);
+    FrameWindow& frame = client->Frame();
+    const int below = [&] {
+        client->OnCommand(CMD_GRAPHICS_AT_BOTTOM);
+        return frame.Mdi().contentsRect().height() + 4;
+    }();
+    struct Case {
+        int command;
+        int mode;
+        int mdiTop;
+        int panelTop;
+    } cases[] = {{CMD_FULL_SCREEN, 2, 4, -5000},
+                 {CMD_GRAPHICS_AT_BOTTOM, 1, 4, below},
+                 {CMD_GRAPHICS_AT_TOP, 0, 62, 0}};
+    for (const Case& c : cases) {
+        client->OnCommand(c.command);
+        EXPECT_EQ(client->State().Profile.Settings.DisplayMode, c.mode);
+        EXPECT_EQ(frame.Mdi().geometry().top(), c.mdiTop) << c.command;
+        // The "Hp:" gauge stands 4 pixels below the panel's top, at x 64.
+        QWidget* hp = frame.Surface().childAt(70, c.panelTop + 8);
+        ASSERT_TRUE(hp || c.panelTop < 0) << c.command;
+        if (hp) {
+            EXPECT_EQ(hp->geometry(), QRect(64, c.panelTop + 4, 60, 16)) << c.command;
+        }
+        // The tool buttons stand at the bottom right in every mode.
+        QWidget& surface = frame.Surface();
+        QWidget* last = surface.childAt(surface.width() - 108 + 3 * 26 + 5, surface.height() - 20);
+        ASSERT_TRUE(last) << c.command;
+        EXPECT_EQ(last->toolTip(), QStringLiteral("Unready your shield"));
+    }
 }
 
 TEST_F(ClientCommandsTest, WindowsAndPlacementComeBackAfterARestart)
