@@ -2,7 +2,7 @@
 
 #include "panels/MultiControl.h"
 #include "panels/qt/QtPanelCanvas.h"
-#include "session/FrameCommand.h"
+#include "base/FrameCommand.h"
 
 #include <QPainter>
 
