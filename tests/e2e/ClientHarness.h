@@ -201,18 +201,6 @@ class ClientHarness : public ::testing::Test {
         return QTest::qWaitFor([&] { return Sent().contains(needle); }, WAIT_MS);
     }
 
-    // Starts a client and logs in as Tester, up to the first status record.
-    std::unique_ptr<Client> LoggedInClient()
-    {
-        auto client = MakeClient(Address());
-        if (!client->Start() || !WaitForGameText(*client, "By what name are you known?"))
-            return nullptr;
-        Type(*client, "Tester");
-        if (!QTest::qWaitFor([&] { return client->State().Panel.Hp.GetMax() > 0; }, WAIT_MS))
-            return nullptr;
-        return client;
-    }
-
     static void Type(Client& client, const char* text)
     {
         FrameWindow& frame = client.Frame();
