@@ -71,6 +71,18 @@ void Gauge::SetBackColor(std::uint32_t color)
     colors_.GaugeBackColor = color;
 }
 
+bool Gauge::MenuCommand(int command, const GaugeColorPicker& pick)
+{
+    std::uint32_t* color = command == GAUGE_MENU_BAR_COLOR    ? &colors_.BarColor
+                           : command == GAUGE_MENU_BACK_COLOR ? &colors_.GaugeBackColor
+                                                              : nullptr;
+    if (!color)
+        return false;
+    pick(*color);
+    Repaint(true);
+    return true;
+}
+
 void Gauge::SetText(const char* text)
 {
     CopyCut(CustomText, sizeof CustomText, text);

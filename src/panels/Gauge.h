@@ -2,6 +2,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <functional>
 
 namespace steward {
 
@@ -22,6 +23,13 @@ constexpr std::size_t GAUGE_LABEL_SIZE = 64;
 // Enough for three signed 32-bit numbers with their two slashes.
 constexpr std::size_t GAUGE_TEXT_SIZE = 40;
 constexpr int GAUGE_TICK_MS = 1000;
+
+// The commands of a gauge's popup menu.
+constexpr int GAUGE_MENU_BAR_COLOR = 2324;
+constexpr int GAUGE_MENU_BACK_COLOR = 2340;
+
+// Asks the user for a colour: true and color changed when the user confirms.
+using GaugeColorPicker = std::function<bool(std::uint32_t& color)>;
 
 class Gauge;
 
@@ -90,6 +98,9 @@ class Gauge {
     void SetBarColor(std::uint32_t color);
     void SetTextColor(std::uint32_t color);
     void SetBackColor(std::uint32_t color);
+    // A popup menu command: picks BarColor or GaugeBackColor (the boxes keep theirs), then
+    // repaints with erasing. False, and nothing asked, for any other id.
+    bool MenuCommand(int command, const GaugeColorPicker& pick);
     // WM_SETTEXT: stored (cut to the buffer) for GF_CUSTOMTEXT.
     void SetText(const char* text);
 

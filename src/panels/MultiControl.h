@@ -22,6 +22,8 @@ class ControlHandler {
     virtual void Paint(PanelCanvas& canvas, int width, int height) = 0;
     // Whether the picture now differs from the one painted last, so that a repaint is needed.
     virtual bool NeedsPaint() const = 0;
+    // The gauge whose popup menu the control shows on a right click; none for other kinds.
+    virtual Gauge* MenuGauge() { return nullptr; }
 };
 
 constexpr std::uint32_t BOX_TEXT_COLOR = 0xEFEFEF;
@@ -59,6 +61,7 @@ class GaugeHandler : public ControlHandler {
     }
     void Paint(PanelCanvas& canvas, int width, int height) override;
     bool NeedsPaint() const override;
+    Gauge* MenuGauge() override { return &gauge_; }
 
   private:
     struct Look {

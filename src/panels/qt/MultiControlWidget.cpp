@@ -1,7 +1,10 @@
 #include "panels/qt/MultiControlWidget.h"
 
 #include "panels/qt/QtPanelCanvas.h"
+#include "terminal/qt/PainterLayer.h"
 
+#include <QMenu>
+#include <QMouseEvent>
 #include <QPainter>
 
 namespace steward {
@@ -38,6 +41,31 @@ void MultiControl::paintEvent(QPaintEvent*)
     QPainter painter(this);
     QtPanelCanvas canvas(painter, resources_, picture_.Empty() ? nullptr : &picture_, scratch_);
     handler_->Paint(canvas, width(), height());
+}
+
+void MultiControl::mouseReleaseEvent(QMouseEvent* event)
+{
+    if (event->button() != Qt::RightButton || !handler_->MenuGauge()) {
+        QWidget::mouseReleaseEvent(event);
+        return;
+    }
+    QMenu menu(this);
+    menu.addAction(tr("Change Bar Color"))->setData(GAUGE_MENU_BAR_COLOR);
+    menu.addAction(tr("Change Background Color"))->setData(GAUGE_MENU_BACK_COLOR);
+    if (QAction* chosen = menu.exec(event->globalPosition().toPoint()))
+        MenuCommand(chosen->data().toInt());
+}
+
+bool MultiControl::MenuCommand(int command)
+{
+    Gauge* gauge = handler_->MenuGauge();
+    return gauge && gauge->MenuCommand(command, [this](std::uint32_t& color) {
+        QColor chosen = ToQColor(color);
+        if (!dialogs_->PickColor(this, chosen, false))
+            return false;
+        color = FromQColor(chosen);
+        return true;
+    });
 }
 
 } // namespace steward

@@ -2,6 +2,7 @@
 
 #include "panels/MultiControl.h"
 #include "panels/qt/BitmapImage.h"
+#include "terminal/qt/AppearanceDialogs.h"
 
 #include <QString>
 #include <QWidget>
@@ -27,14 +28,22 @@ class MultiControl : public QWidget, public GaugeView, public PanelView {
     void Repaint() override;
     void Repaint(bool erase) override;
 
+    // Tests give their own colour dialog; Qt's otherwise.
+    void SetDialogs(AppearanceDialogs* dialogs) { dialogs_ = dialogs ? dialogs : &qtDialogs_; }
+    // A command of the gauge's popup menu; false when the control has no such command.
+    bool MenuCommand(int command);
+
   protected:
     void paintEvent(QPaintEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
 
   private:
     std::unique_ptr<ControlHandler> handler_;
     PanelResources& resources_;
     BitmapImage picture_;
     QString scratch_;
+    QtAppearanceDialogs qtDialogs_;
+    AppearanceDialogs* dialogs_ = &qtDialogs_;
     int id_;
 };
 
