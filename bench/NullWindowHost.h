@@ -26,6 +26,8 @@ class NullWindowHost : public AnsiWindowHost {
     bool PickColor(COLORREF&, bool) override { return false; }
     bool PickFont(const LogFontRecord&, LogFontRecord&) override { return false; }
     void Beep() override {}
+    void SetClipboardText(const std::string&) override {}
+    void DropCommandLineSelection() override {}
 };
 
 } // namespace steward

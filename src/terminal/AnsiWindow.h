@@ -8,6 +8,7 @@
 #include "terminal/PromptState.h"
 #include "terminal/ScrollCommand.h"
 #include "terminal/TextBuffer.h"
+#include "terminal/TextWindowServices.h"
 
 #include <cstddef>
 #include <cstdint>
@@ -37,6 +38,8 @@ struct AnsiWindowParts {
     const Settings& Options;
     const char* ProfilePath;
     PromptState* Prompt = nullptr;
+    // Null leaves the popup menu's file, editor and frame commands without effect.
+    TextWindowServices* Services = nullptr;
 };
 
 // One text window: its two buffers, layout, colours and font measurements, the frozen view of
@@ -87,6 +90,24 @@ class AnsiWindow : public FontTarget {
 
     void PaintText(DrawingLayer& layer);
 
+    // The mouse and the selection, on the displayed buffer. Points are client coordinates.
+    TextBuffer::Position PosFromPoint(std::int32_t x, std::int32_t y);
+    void LButtonDown(std::int32_t x, std::int32_t y, bool shift);
+    void MouseMove(std::int32_t x, std::int32_t y);
+    // The end of a drag, by the button's release or a lost capture.
+    void EndDrag();
+    void LButtonDblClk(std::int32_t x, std::int32_t y);
+    bool IsDragging() const { return Dragging; }
+    // WM_COPY and WM_CLEAR.
+    void Copy();
+    void Clear();
+
+    // The popup menu's commands on the whole LiveBuffer.
+    void CopyAllToClipboard();
+    void CopyAllToFile();
+    void EditAll();
+    void SaveScrollback(const std::string& text);
+
     // The frozen view of the scrollback.
     void FreezeView();
     void ThawView();
@@ -126,10 +147,12 @@ class AnsiWindow : public FontTarget {
     std::int32_t PaintRow(DrawingLayer& layer, TextBuffer& shown, std::int32_t y, bool active);
     void ApplyColorCode(DrawingLayer& layer, unsigned char code, bool selectionSeen);
     void Fill(DrawingLayer& layer, const Rect& rect);
+    void RepaintNow();
 
     AnsiWindowHost& host_;
     const Settings& options_;
     PromptState* prompt_;
+    TextWindowServices* services_;
 
     std::unique_ptr<TextBuffer> LiveBuffer;
     std::unique_ptr<TextBuffer> ViewBuffer;
@@ -150,6 +173,10 @@ class AnsiWindow : public FontTarget {
     char WindowName[WINDOW_NAME_SIZE] = {};
     char Label[LABEL_SIZE] = {};
     ColorStacks Stacks;
+    bool Dragging = false;
+    // The position last given to the selection by a drag.
+    static constexpr TextBuffer::Position NO_DRAG_POS = UINT32_MAX;
+    TextBuffer::Position LastDragPos = NO_DRAG_POS;
     // Filled by ReadLine on each painted row, so painting allocates nothing.
     char line_[READ_LINE_BUFFER_SIZE] = {};
 };

@@ -6,6 +6,7 @@
 #include "terminal/TextBuffer.h"
 
 #include <cstdint>
+#include <string>
 
 namespace steward {
 
@@ -44,6 +45,11 @@ class AnsiWindowHost : public BellListener, public PlacementTarget {
     virtual bool PickColor(COLORREF& color, bool foregroundRule) = 0;
     // Font dialog on font; true and record filled when the user confirms.
     virtual bool PickFont(const LogFontRecord& font, LogFontRecord& record) = 0;
+    // Puts the bytes on the clipboard as text, each byte one Latin-1 character.
+    virtual void SetClipboardText(const std::string& text) = 0;
+    // A click in a text window collapses the command line's selection to its end, so that
+    // Copy then takes the window's selection.
+    virtual void DropCommandLineSelection() = 0;
 };
 
 } // namespace steward

@@ -4,6 +4,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <memory>
+#include <string>
 
 #include "base/ColorCode.h"
 
@@ -113,6 +114,24 @@ class TextBuffer {
 
     void SetSelection(std::int32_t selStart, std::int32_t selEnd);
     void ClearSelection();
+
+    // The mouse's selection: each call takes a position in the ring. BeginSelection returns
+    // whether a selection existed before.
+    bool BeginSelection(Position position);
+    void ExtendSelection(Position position);
+    // The shift click: at or right of the selection moves its end, left of or inside it its
+    // start.
+    void MoveSelectionEdge(Position position);
+    void SelectWord(Position position);
+    // A display line: soft line ends count as ends.
+    void SelectLine(Position position);
+    void SelectionRange(std::int32_t& low, std::int32_t& high) const;
+    // The selected bytes as plain text: line feeds as CR LF, soft line ends as spaces, no
+    // colour codes.
+    std::string SelectionText() const;
+    // The whole text as plain text, as CopyAsText gives it with room for Capacity + 8192
+    // bytes, colour codes dropped.
+    std::string ExportPlainText() const;
     // Both copies need equal capacities; between different ones nothing is copied and the
     // result is false.
     bool CopyBufferTo(TextBuffer& other) const;
@@ -132,6 +151,10 @@ class TextBuffer {
     Position FindBreak(Position from, Position mark, Position& stop) const;
     Position FindAppendBreak();
     void ForgetBreakScan() { scanMark_ = NO_POSITION; }
+    Position WordStart(Position p) const;
+    Position WordEnd(Position p) const;
+    Position LineStart(Position p) const;
+    Position LineEnd(Position p) const;
 
     std::uint32_t Capacity;
     std::unique_ptr<unsigned char[]> Storage;

@@ -128,6 +128,8 @@ class FakeHost : public AnsiWindowHost {
         return true;
     }
     void Beep() override { ++beeps; }
+    void SetClipboardText(const std::string& text) override { clipboard = text; }
+    void DropCommandLineSelection() override { ++selectionDrops; }
 
     Rect client{0, 0, 400, 105};
     bool active = true;
@@ -138,6 +140,8 @@ class FakeHost : public AnsiWindowHost {
     int focusCalls = 0;
     int titleClears = 0;
     int beeps = 0;
+    std::string clipboard;
+    int selectionDrops = 0;
     WindowPlacementRecord placement;
     bool confirmDialogs = true;
     bool lastForegroundRule = false;

@@ -29,7 +29,8 @@ AnsiWindow* ChildWindowSet::Open(WindowRow row)
     const char* name = WindowTable[row].Name;
     const Settings& settings = links_.Profile.Settings;
     AnsiWindowWidget::Parts parts{settings, links_.Profile.ProfilePath.c_str(),
-                                  row == GAME_ROW ? &links_.Pipeline.Prompt() : nullptr, nullptr};
+                                  row == GAME_ROW ? &links_.Pipeline.Prompt() : nullptr, nullptr,
+                                  links_.Services};
     std::unique_ptr<AnsiWindowWidget> widget = AnsiWindowWidget::Create(name, parts);
     Published(row) = widget ? &widget->Window() : nullptr;
     if (!widget)

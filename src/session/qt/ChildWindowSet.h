@@ -18,6 +18,7 @@ class AnsiWindow;
 class AnsiWindowWidget;
 class LinePipeline;
 class MdiClient;
+class TextWindowServices;
 struct CharacterProfile;
 
 // The child-window registry: one record per row of the WindowTable (its text window and the
@@ -31,6 +32,8 @@ class ChildWindowSet : public QObject, public ChildWindowHost {
         const CharacterProfile& Profile;
         LinePipeline& Pipeline;
         QWidget* CommandLine;
+        // The popup menus' commands, dialogs and editor.
+        TextWindowServices* Services;
     };
 
     explicit ChildWindowSet(const Links& links);

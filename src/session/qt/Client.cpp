@@ -56,9 +56,10 @@ Client::Client(ClientOptions options, Desktop& desktop)
     logs_.SetOwner(frame_.get());
     panelView_ = std::make_unique<StatusPanelView>(frame_->Surface(), session_.Panel,
                                                    [this](int command) { OnCommand(command); });
+    logs_.SetCommandRoute([this](int command) { OnCommand(command); });
     commandLine_ = new CommandLine;
     windows_ = std::make_unique<ChildWindowSet>(ChildWindowSet::Links{
-        frame_->Mdi(), session_.Windows, session_.Profile, link_.Pipeline(), commandLine_});
+        frame_->Mdi(), session_.Windows, session_.Profile, link_.Pipeline(), commandLine_, &logs_});
     frame_->SetCommandLine(commandLine_);
     keyboardHost_ = std::make_unique<QtKeyboardHost>(
         QtKeyboardHost::Links{session_, link_, *windows_, *frame_, desktop_});

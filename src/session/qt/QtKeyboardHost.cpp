@@ -70,6 +70,12 @@ void QtKeyboardHost::EndScrollback()
     links_.Windows.EndScrollback();
 }
 
+void QtKeyboardHost::CopyFromActiveChild()
+{
+    if (AnsiWindow* child = links_.Windows.ActiveWindow())
+        child->Copy();
+}
+
 void QtKeyboardHost::SetFrameTitle(const char* title)
 {
     links_.Frame.setWindowTitle(QString::fromLatin1(title));

@@ -35,8 +35,8 @@ class QtKeyboardHost : public KeyboardHost {
     void EndScrollback() override;
     void SetFrameTitle(const char* title) override;
     const char* CurrentCharacter() const override;
-    // Waits for copying from the text windows, which will copy the active one's selection.
-    void CopyFromActiveChild() override {}
+    // Puts the active text window's selection on the clipboard.
+    void CopyFromActiveChild() override;
     void PostClose() override;
     bool AskString(const char* title, char* answer, std::size_t capacity) override;
     void PumpFor(int seconds) override;

@@ -124,4 +124,15 @@ bool QtLogHost::Exists(const char* path) const
     return File(std::fopen(path, "rb")) != nullptr;
 }
 
+void QtLogHost::ForwardCommand(int command)
+{
+    if (route_)
+        route_(command);
+}
+
+std::string QtLogHost::ProgramFolder() const
+{
+    return session_.Files.ProgramFolder;
+}
+
 } // namespace steward

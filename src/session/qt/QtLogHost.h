@@ -2,6 +2,9 @@
 
 #include "config/LogHost.h"
 #include "session/LogNames.h"
+#include "terminal/TextWindowServices.h"
+
+#include <functional>
 
 #include <string>
 
@@ -15,13 +18,16 @@ class GameLink;
 struct Session;
 
 // The log host: the session log and the packet dump with their dialogs and messages, the
-// dated logs, and the text files beside the program that the editor opens.
-class QtLogHost : public LogHost, public FileProbe {
+// dated logs, and the text files beside the program that the editor opens. It also serves the
+// text windows' popup menus: their save dialog, the editor, and the frame commands.
+class QtLogHost : public LogHost, public FileProbe, public TextWindowServices {
   public:
     QtLogHost(Session& session, GameLink& link, Desktop& desktop);
 
     // The parent of the save dialog and the editor's failure message.
     void SetOwner(QWidget* owner) { owner_ = owner; }
+    // Where the popup menus' Copy commands go: the frame's switchboard.
+    void SetCommandRoute(std::function<void(int)> route) { route_ = std::move(route); }
 
     // CMD_OPEN_DATED_LOG: today's next free log, with a line in the Game window either way.
     void OpenDatedLog();
@@ -46,8 +52,10 @@ class QtLogHost : public LogHost, public FileProbe {
     // FileProbe.
     bool Exists(const char* path) const override;
 
-    // Opens the file in the text editor, or says that none started; an empty path opens none.
-    void RunNotepad(const std::string& path);
+    // TextWindowServices; an empty path opens no editor.
+    void ForwardCommand(int command) override;
+    void RunNotepad(const std::string& path) override;
+    std::string ProgramFolder() const override;
 
   private:
 
@@ -55,6 +63,7 @@ class QtLogHost : public LogHost, public FileProbe {
     GameLink& link_;
     Desktop& desktop_;
     QWidget* owner_ = nullptr;
+    std::function<void(int)> route_;
 };
 
 } // namespace steward

@@ -7,8 +7,6 @@
 #include <QApplication>
 #include <QMdiArea>
 #include <QMdiSubWindow>
-#include <QMenu>
-#include <QMouseEvent>
 #include <QPainter>
 #include <QScrollBar>
 #include <QWheelEvent>
@@ -20,7 +18,8 @@ std::unique_ptr<AnsiWindowWidget> AnsiWindowWidget::Create(const char* name, con
     std::unique_ptr<AnsiWindowWidget> widget(new AnsiWindowWidget(parts));
     widget->setWindowTitle(QString::fromLatin1(name));
     widget->window_ = AnsiWindow::Create(
-        name, AnsiWindowParts{*widget, parts.Options, parts.ProfilePath, parts.Prompt});
+        name, AnsiWindowParts{*widget, parts.Options, parts.ProfilePath, parts.Prompt,
+                              parts.Services});
     if (!widget->window_)
         return nullptr;
     widget->layer_.SetCharWidths(&widget->window_->GetCharWidth());
@@ -28,7 +27,7 @@ std::unique_ptr<AnsiWindowWidget> AnsiWindowWidget::Create(const char* name, con
 }
 
 AnsiWindowWidget::AnsiWindowWidget(const Parts& parts)
-    : dialogs_(parts.Dialogs ? parts.Dialogs : &qtDialogs_),
+    : dialogs_(parts.Dialogs ? parts.Dialogs : &qtDialogs_), services_(parts.Services),
       scrollBar_(new QScrollBar(Qt::Vertical, this))
 {
     setAttribute(Qt::WA_OpaquePaintEvent);
@@ -42,16 +41,8 @@ AnsiWindowWidget::AnsiWindowWidget(const Parts& parts)
         repaintPending_ = false;
         update();
     });
-}
-
-void AnsiWindowWidget::MenuCommand(int id)
-{
-    if (id == IDM_CHANGE_FOREGROUND)
-        window_->ChangeForegroundColor();
-    else if (id == IDM_CHANGE_BACKGROUND)
-        window_->ChangeBackgroundColor();
-    else if (id == IDM_CHANGE_FONT)
-        window_->ChangeFont();
+    dragScrollTimer_.setInterval(DRAG_SCROLL_INTERVAL_MS);
+    connect(&dragScrollTimer_, &QTimer::timeout, this, &AnsiWindowWidget::DragStep);
 }
 
 Rect AnsiWindowWidget::GetClientRect() const
@@ -220,12 +211,6 @@ void AnsiWindowWidget::wheelEvent(QWheelEvent* event)
     event->accept();
 }
 
-void AnsiWindowWidget::mouseReleaseEvent(QMouseEvent* event)
-{
-    if (event->button() == Qt::RightButton)
-        ShowPopupMenu(event->globalPosition().toPoint());
-}
-
 void AnsiWindowWidget::focusInEvent(QFocusEvent*)
 {
     FocusCommandLine();
@@ -279,19 +264,6 @@ void AnsiWindowWidget::SubWindowStateChanged(Qt::WindowStates before, Qt::Window
 {
     if (window_ && ((before ^ now) & Qt::WindowActive))
         window_->MdiActivate();
-}
-
-void AnsiWindowWidget::ShowPopupMenu(const QPoint& at)
-{
-    QMenu menu(this);
-    QMenu* appearance = menu.addMenu(QStringLiteral("Appearance"));
-    appearance->addAction(QStringLiteral("Change Foreground Color..."))
-        ->setData(IDM_CHANGE_FOREGROUND);
-    appearance->addAction(QStringLiteral("Change Background Color..."))
-        ->setData(IDM_CHANGE_BACKGROUND);
-    appearance->addAction(QStringLiteral("Change Font..."))->setData(IDM_CHANGE_FONT);
-    if (const QAction* chosen = menu.exec(at))
-        MenuCommand(chosen->data().toInt());
 }
 
 } // namespace steward

@@ -12,14 +12,25 @@
 #include <memory>
 
 class QMdiSubWindow;
+class QMenu;
 class QScrollBar;
 
 namespace steward {
 
-// Ids of the popup menu's Appearance commands.
+// Ids of the popup menu's own commands; Copy and Copy Special carry the frame's numbers.
 constexpr int IDM_CHANGE_FONT = 1800;
 constexpr int IDM_CHANGE_BACKGROUND = 1801;
+constexpr int IDM_COPY_ALL_TO_CLIPBOARD = 1802;
+constexpr int IDM_COPY_ALL_TO_FILE = 1803;
 constexpr int IDM_CHANGE_FOREGROUND = 1804;
+constexpr int IDM_EDIT = 1850;
+constexpr int IDM_RESTORE = 1851;
+constexpr int IDM_MAXIMIZE = 1852;
+constexpr int IDM_CLOSE = 1853;
+
+// While a drag holds the pointer above or below the window, the window scrolls one line this
+// often.
+constexpr int DRAG_SCROLL_INTERVAL_MS = 50;
 
 // While text floods in, a window paints at most once per display frame.
 constexpr int REPAINT_INTERVAL_MS = 16;
@@ -37,6 +48,8 @@ class AnsiWindowWidget : public QWidget, public AnsiWindowHost {
         PromptState* Prompt = nullptr;
         // Null uses Qt's dialogs.
         AppearanceDialogs* Dialogs = nullptr;
+        // Null leaves the frame, file and editor commands of the popup menu without effect.
+        TextWindowServices* Services = nullptr;
     };
 
     // Null when the window's buffers cannot be made.
@@ -48,8 +61,10 @@ class AnsiWindowWidget : public QWidget, public AnsiWindowHost {
     QScrollBar* ScrollBar() const { return scrollBar_; }
     // The widget that takes the focus whenever this window would get it.
     void SetCommandLine(QWidget* commandLine) { commandLine_ = commandLine; }
-    // A command of the popup menu: one of the IDM_ values.
+    // A command of the popup menu: one of the IDM_ values or a forwarded frame command.
     void MenuCommand(int id);
+    // The popup menu's items for the window as it is now; each action's data is its command.
+    void FillPopupMenu(QMenu& menu);
 
     // AnsiWindowHost. The placement is that of the sub-window holding this widget, so the
     // frame can restore it through ReadPlacement with this widget as the target.
@@ -69,13 +84,18 @@ class AnsiWindowWidget : public QWidget, public AnsiWindowHost {
     bool PickColor(COLORREF& color, bool foregroundRule) override;
     bool PickFont(const LogFontRecord& font, LogFontRecord& record) override;
     void Beep() override;
+    void SetClipboardText(const std::string& text) override;
+    void DropCommandLineSelection() override;
 
   protected:
     bool event(QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
     void wheelEvent(QWheelEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
+    void mouseDoubleClickEvent(QMouseEvent* event) override;
     void focusInEvent(QFocusEvent* event) override;
 
   private:
@@ -85,11 +105,13 @@ class AnsiWindowWidget : public QWidget, public AnsiWindowHost {
     void FollowSubWindow();
     void SubWindowStateChanged(Qt::WindowStates before, Qt::WindowStates now);
     void ShowPopupMenu(const QPoint& at);
+    void DragStep();
     // The sub-window holding this widget, or the widget itself outside the text area.
     QWidget* Frame();
 
     QtAppearanceDialogs qtDialogs_;
     AppearanceDialogs* dialogs_;
+    TextWindowServices* services_;
     std::unique_ptr<AnsiWindow> window_;
     PainterLayer layer_;
     QFont font_;
@@ -97,6 +119,9 @@ class AnsiWindowWidget : public QWidget, public AnsiWindowHost {
     std::int32_t scrollPos_ = 0;
     QTimer repaintTimer_;
     bool repaintPending_ = false;
+    // Repeats the last drag step while the pointer stays outside the window.
+    QTimer dragScrollTimer_;
+    QPoint dragPoint_;
     QPointer<QWidget> commandLine_;
     QPointer<QMdiSubWindow> subWindow_;
     QMetaObject::Connection subWindowConnection_;
