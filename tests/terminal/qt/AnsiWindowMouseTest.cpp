@@ -1,0 +1,203 @@
+#include "session/FrameCommand.h"
+#include "support/TempFolder.h"
+#include "terminal/qt/AnsiWindowWidget.h"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QMenu>
+#include <QTest>
+
+#include <gtest/gtest.h>
+
+#include <cstdio>
+#include <filesystem>
+#include <string>
+#include <vector>
+
+namespace steward {
+namespace {
+
+using testing::ReadBytes;
+using testing::TempFolder;
+
+// Records what the popup menu asks of the program; the save dialog answers with savePath.
+class RecordingServices : public TextWindowServices {
+  public:
+    void ForwardCommand(int command) override { forwarded.push_back(command); }
+    bool AskSaveFileName(const SaveFileRequest& request, char* path, std::size_t capacity) override
+    {
+        askedTitle = request.Title;
+        std::snprintf(path, capacity, "%s", savePath.c_str());
+        return !savePath.empty();
+    }
+    void ShowMessage(const char* text, const char*) override { messages.push_back(text); }
+    void RunNotepad(const std::string& path) override { edited = path; }
+    std::string ProgramFolder() const override { return folder.Path(); }
+
+    TempFolder folder;
+    std::string savePath;
+    std::string askedTitle;
+    std::vector<int> forwarded;
+    std::vector<std::string> messages;
+    std::string edited;
+};
+
+constexpr char PARAGRAPH_WORD[] = "abcd ";
+
+// A shown text window whose last four rows are "plain words here", "red alert now" with
+// "alert" in red, and one paragraph broken over the last two rows.
+class MouseTest : public ::testing::Test {
+  protected:
+    void SetUp() override
+    {
+        widget = AnsiWindowWidget::Create("Thought Window", {settings, nullptr, nullptr, nullptr,
+                                                             &services});
+        widget->resize(400, 200);
+        widget->show();
+        ASSERT_TRUE(QTest::qWaitForWindowExposed(widget.get()));
+        AnsiWindow& window = widget->Window();
+        const std::int32_t columns =
+            (window.GetClientRect().right - window.GetTextLeft()) / window.GetCharWidth()['a'];
+        std::string paragraph;
+        while (paragraph.size() < static_cast<std::size_t>(columns) * 3 / 2)
+            paragraph += PARAGRAPH_WORD;
+        window.AppendText(("plain words here\nred \x81"
+                           "alert\xA0 now\n" +
+                           paragraph + "end")
+                              .c_str());
+    }
+    // The point left of column col on the row that many rows above the last.
+    QPoint At(int rowFromBottom, int col)
+    {
+        AnsiWindow& window = widget->Window();
+        const int row = window.GetRows() - 1 - rowFromBottom;
+        return {window.GetTextLeft() + col * window.GetCharWidth()['a'],
+                window.GetTextTop() + row * window.GetLineHeight() + window.GetLineHeight() / 2};
+    }
+    // The shown text of that row, as plain text.
+    std::string RowText(int rowFromBottom)
+    {
+        TextBuffer& buffer = widget->Window().GetLiveBuffer();
+        buffer.SeekFromEnd(rowFromBottom + 1);
+        char line[READ_LINE_BUFFER_SIZE];
+        std::int32_t limit = READ_LINE_LIMIT;
+        std::string text;
+        for (const char* c = buffer.ReadLine(line, limit, false, nullptr); *c; ++c)
+            if (!IsColorCode(static_cast<unsigned char>(*c)))
+                text += *c;
+        return text;
+    }
+    void Drag(QPoint from, QPoint to)
+    {
+        QTest::mousePress(widget.get(), Qt::LeftButton, {}, from);
+        QTest::mouseMove(widget.get(), to);
+        QTest::mouseRelease(widget.get(), Qt::LeftButton, {}, to);
+    }
+    std::string Copied()
+    {
+        QApplication::clipboard()->clear();
+        widget->Window().Copy();
+        return QApplication::clipboard()->text().toStdString();
+    }
+
+    Settings settings;
+    RecordingServices services;
+    std::unique_ptr<AnsiWindowWidget> widget;
+};
+
+struct DragCase {
+    const char* name;
+    int fromRow;
+    int fromCol;
+    int toRow;
+    int toCol;
+    std::string copied;
+};
+
+class DragTest : public MouseTest, public ::testing::WithParamInterface<DragCase> {};
+
+TEST_P(DragTest, SelectsTheBytesBetweenPressAndRelease)
+{
+    const DragCase& c = GetParam();
+    Drag(At(c.fromRow, c.fromCol), At(c.toRow, c.toCol));
+    EXPECT_EQ(Copied(), c.copied);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Drags, DragTest,
+    ::testing::Values(DragCase{"WithinALine", 3, 0, 3, 5, "plain"},
+                      DragCase{"OverAColourChange", 2, 2, 2, 8, "d aler"},
+                      DragCase{"BackwardsOverALineEnd", 2, 3, 3, 6, "words here\r\nred"}),
+    [](const auto& info) { return info.param.name; });
+
+TEST_F(MouseTest, ASoftLineEndCopiesAsASpace)
+{
+    Drag(At(1, 0), At(0, 4));
+    EXPECT_EQ(Copied(), RowText(1) + " " + RowText(0).substr(0, 4));
+}
+
+TEST_F(MouseTest, DoubleClickTakesAWordAndShiftClickMovesTheEdge)
+{
+    QTest::mouseDClick(widget.get(), Qt::LeftButton, {}, At(2, 6));
+    EXPECT_EQ(Copied(), "alert");
+    QTest::mouseClick(widget.get(), Qt::LeftButton, Qt::ShiftModifier, At(2, 13));
+    EXPECT_EQ(Copied(), "alert now");
+    QTest::mouseClick(widget.get(), Qt::LeftButton, Qt::ShiftModifier, At(3, 6));
+    EXPECT_EQ(Copied(), "words here\r\nred alert now");
+    QTest::mouseClick(widget.get(), Qt::LeftButton, {}, At(3, 6));
+    EXPECT_FALSE(widget->Window().HasSelection());
+    QTest::mouseClick(widget.get(), Qt::LeftButton, Qt::ShiftModifier, At(3, 6));
+    EXPECT_EQ(Copied(), "plain words here");
+}
+
+TEST_F(MouseTest, TheSelectionSurvivesAFreezeAndAThaw)
+{
+    AnsiWindow& window = widget->Window();
+    Drag(At(3, 0), At(3, 5));
+    window.AppendText(std::string(40, '\n').c_str());
+    window.VScroll(SB_PAGEUP, 0);
+    ASSERT_TRUE(window.IsFrozen());
+    EXPECT_EQ(Copied(), "plain");
+    window.AppendText("more\n");
+    window.VScroll(SB_BOTTOM, 0);
+    ASSERT_FALSE(window.IsFrozen());
+    EXPECT_TRUE(window.HasSelection());
+}
+
+TEST_F(MouseTest, ThePopupMenuOffersCopyOnlyWithASelection)
+{
+    QMenu plain;
+    widget->FillPopupMenu(plain);
+    EXPECT_EQ(plain.actions().first()->text(), "Maximize");
+    Drag(At(3, 0), At(3, 5));
+    QMenu selected;
+    widget->FillPopupMenu(selected);
+    EXPECT_EQ(selected.actions().first()->text(), "Copy");
+    EXPECT_EQ(selected.actions().size(), plain.actions().size() + 3);
+    widget->MenuCommand(CMD_COPY_TO_COMMAND_LINE);
+    EXPECT_EQ(services.forwarded, std::vector<int>{CMD_COPY_TO_COMMAND_LINE});
+}
+
+TEST_F(MouseTest, CopyAllGoesToTheClipboardAFileAndTheEditor)
+{
+    const std::string all = widget->Window().GetLiveBuffer().ExportPlainText();
+    widget->MenuCommand(IDM_COPY_ALL_TO_CLIPBOARD);
+    EXPECT_EQ(QApplication::clipboard()->text().toStdString(), all);
+
+    services.savePath = services.folder.File("capture.txt");
+    widget->MenuCommand(IDM_COPY_ALL_TO_FILE);
+    EXPECT_EQ(services.askedTitle, "Save Scrollback Buffer As");
+    EXPECT_EQ(ReadBytes(services.savePath), all);
+
+    services.savePath = services.folder.File("missing/capture.txt");
+    widget->MenuCommand(IDM_COPY_ALL_TO_FILE);
+    EXPECT_EQ(services.messages, std::vector<std::string>{"Unable to create file!"});
+
+    widget->MenuCommand(IDM_EDIT);
+    ASSERT_FALSE(services.edited.empty());
+    EXPECT_EQ(ReadBytes(services.edited), all);
+    std::filesystem::remove(services.edited);
+}
+
+} // namespace
+} // namespace steward
