@@ -25,6 +25,13 @@ constexpr int FunctionSlot(int group, int set, int key)
     return group + set * FUNCTION_KEY_COUNT + key;
 }
 
+// The keypad keys in index order.
+constexpr int KEYPAD_KEYS[KEYPAD_KEY_COUNT] = {
+    VK_NUMPAD0,     VK_NUMPAD0 + 1, VK_NUMPAD0 + 2, VK_NUMPAD0 + 3, VK_NUMPAD0 + 4,
+    VK_NUMPAD0 + 5, VK_NUMPAD0 + 6, VK_NUMPAD0 + 7, VK_NUMPAD0 + 8, VK_NUMPAD9,
+    VK_DECIMAL,     VK_DIVIDE,      VK_MULTIPLY,    VK_SUBTRACT,    VK_ADD,
+};
+
 // The character that stands for each keypad index in the file.
 constexpr char KEYPAD_FILE_CHARACTERS[KEYPAD_KEY_COUNT + 1] = "0123456789./*-+";
 

@@ -8,13 +8,6 @@ namespace steward {
 
 namespace {
 
-// The keypad keys in index order.
-constexpr int KEYPAD_KEYS[KEYPAD_KEY_COUNT] = {
-    VK_NUMPAD0,     VK_NUMPAD0 + 1, VK_NUMPAD0 + 2, VK_NUMPAD0 + 3, VK_NUMPAD0 + 4,
-    VK_NUMPAD0 + 5, VK_NUMPAD0 + 6, VK_NUMPAD0 + 7, VK_NUMPAD0 + 8, VK_NUMPAD9,
-    VK_DECIMAL,     VK_DIVIDE,      VK_MULTIPLY,    VK_SUBTRACT,    VK_ADD,
-};
-
 int SlotIndex(KeyModifiers modifiers, int virtualKey, int set)
 {
     if (IsLetterKey(virtualKey)) {

@@ -3,6 +3,7 @@
 #include "commands/KeyboardDoubles.h"
 #include "commands/qt/CommandLine.h"
 #include "commands/qt/KeyFilterQt.h"
+#include "commands/qt/MacroSheet.h"
 #include "connection/Connection.h"
 #include "connection/GameLineSink.h"
 #include "connection/GameSocket.h"
@@ -11,7 +12,9 @@
 
 #include <QApplication>
 #include <QFile>
+#include <QLineEdit>
 #include <QMainWindow>
+#include <QTabWidget>
 #include <QTemporaryDir>
 #include <QTest>
 #include <gtest/gtest.h>
@@ -134,6 +137,22 @@ TEST_F(KeyboardWorldTest, AMacroWithItsOwnEnterSends)
     keyboard.Macros.SetMacro(KEY_ALT, 'K', "kick @rat\\r");
     Click(Qt::Key_K, Qt::AltModifier);
     EXPECT_TRUE(WorldReceived(QByteArray("kick rat\n\r")));
+}
+
+TEST_F(KeyboardWorldTest, AMacroWrittenInTheSheetSendsAndSurvivesARestart)
+{
+    {
+        MacroSheet sheet(keyboard.Macros, &window);
+        sheet.Tabs()->setCurrentIndex(1);
+        static_cast<LetterPage*>(sheet.Page(1))->Edit('J' - 'A')->setText("say sheet macro\\r");
+        sheet.accept();
+    }
+    const QByteArray path = folder.filePath("Default.Macros").toLocal8Bit();
+    keyboard.Macros.SaveMacros(path.constData());
+    keyboard.Macros.LoadMacros("");
+    keyboard.Macros.LoadMacros(path.constData());
+    Click(Qt::Key_J, Qt::ControlModifier);
+    EXPECT_TRUE(WorldReceived(QByteArray("say sheet macro\n\r")));
 }
 
 TEST_F(KeyboardWorldTest, NameColonMessageGoesOutAsAContact)

@@ -97,6 +97,8 @@ class Client : public QObject, private FrameQueue, private RestSender {
     // string or the name highlights.
     void CopyToHighlights(int command);
     void CopyToCommandLine();
+    // The macro sheet, then the title, which shows the current set.
+    void EditMacros();
     // DRAG_DIALOG: OK takes the field as DragTarget, "Stop Dragging" empties it.
     void AskDragTarget();
 

@@ -6,6 +6,7 @@
 #include "base/FrameCommand.h"
 #include "commands/Keyboard.h"
 #include "commands/qt/CommandLine.h"
+#include "commands/qt/MacroSheet.h"
 #include "highlights/qt/QtClipboardReader.h"
 #include "scripts/qt/ScriptControl.h"
 #include "session/CommandTable.h"
@@ -14,6 +15,7 @@
 #include "session/qt/FrameWindow.h"
 #include "session/qt/MdiClient.h"
 #include "session/qt/QtKeyboardHost.h"
+#include "session/qt/QtProfileHost.h"
 #include "terminal/AnsiWindow.h"
 #include "terminal/Wheel.h"
 
@@ -63,6 +65,7 @@ const Client::CommandEntry Client::COMMANDS[] = {
     {CMD_EQUIP_SHIELD, [](Client& c) { c.SendCommand(c.session_.Profile.EquipShield); }},
     {CMD_UNEQUIP_SHIELD, [](Client& c) { c.SendCommand(c.session_.Profile.UnequipShield); }},
     {CMD_CONNECT, [](Client& c) { c.Reconnect(); }},
+    {CMD_MACRO_KEYS, [](Client& c) { c.EditMacros(); }},
     {CMD_DRAG_SOMEONE, [](Client& c) { c.AskDragTarget(); }},
     {CMD_STOP_DRAGGING, [](Client& c) { c.keyboard_->State.DragTarget[0] = '\0'; }},
     {CMD_GRAPHICS_AT_TOP, [](Client& c) { c.SetDisplayMode(DISPLAY_GRAPHICS_TOP); }},
@@ -163,6 +166,13 @@ void Client::CopyToCommandLine()
     child->Copy();
     commandLine_->Paste();
     child->Clear();
+}
+
+void Client::EditMacros()
+{
+    ShowMacroSheet(frame_.get(), keyboard_->Macros);
+    profile_->RefreshTitle();
+    frame_->FocusCommandLine();
 }
 
 void Client::AskDragTarget()

@@ -33,6 +33,8 @@ class QtProfileHost : private ProfileParts {
     void Load();
     // SaveProfile of the current character.
     void Save();
+    // The frame's title again, after the current macro set may have changed.
+    void RefreshTitle() { UpdateTitle(); }
 
   private:
     void Trace(const std::string& line) override;

@@ -381,6 +381,35 @@ TEST_F(ClientCommandsTest, CopySpecialAddsTheClipboardLinesToItsListAndTheProfil
     EXPECT_STREQ(strings.Text(1), "");
 }
 
+TEST_F(ClientCommandsTest, CopyCommandsTakeTheActiveWindowsSelection)
+{
+    client->Frame().show();
+    MdiClient& mdi = client->Frame().Mdi();
+    mdi.setActiveSubWindow(mdi.Child(GAME_ROW));
+    AnsiWindow& game = *client->State().Windows.GameWindow;
+    game.AppendText("a silver coin\n");
+    TextBuffer& buffer = game.GetLiveBuffer();
+    const auto selectLine = [&] { buffer.SelectLine(buffer.Prev(buffer.Prev(buffer.GetWritePos()))); };
+    auto* line = qobject_cast<QLineEdit*>(client->Frame().CommandLine());
+
+    selectLine();
+    client->OnCommand(CMD_COPY);
+    EXPECT_EQ(QGuiApplication::clipboard()->text(), QStringLiteral("a silver coin"));
+    EXPECT_TRUE(game.HasSelection());
+    client->OnCommand(CMD_COPY_TO_COMMAND_LINE);
+    EXPECT_EQ(line->text(), QStringLiteral("a silver coin"));
+    EXPECT_FALSE(game.HasSelection());
+
+    selectLine();
+    QGuiApplication::clipboard()->clear();
+    client->OnCommand(CMD_COPY_TO_STRING_HIGHLIGHTS);
+    EXPECT_FALSE(game.HasSelection());
+    client->Frame().close();
+    HighlightList strings;
+    strings.Load(File("Default.Highlights").c_str());
+    EXPECT_STREQ(strings.Text(0), "a silver coin");
+}
+
 TEST_F(ClientCommandsTest, MenuFollowsTheOfflineState)
 {
     FrameMenu& menu = client->Frame().Menu();

@@ -1,0 +1,148 @@
+#include "commands/MacroKeyTypes.h"
+#include "commands/qt/MacroSheet.h"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QComboBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QTabWidget>
+#include <QTest>
+
+#include <gtest/gtest.h>
+
+#include <memory>
+#include <string>
+
+namespace steward {
+namespace {
+
+enum Tab { ALT_TAB, CTRL_TAB, FKEY_TAB, KEYPAD_TAB };
+
+class MacroSheetTest : public ::testing::Test {
+  protected:
+    template <typename Page> Page& Open(Tab tab)
+    {
+        Sheet().Tabs()->setCurrentIndex(tab);
+        auto* page = dynamic_cast<Page*>(Sheet().Page(tab));
+        EXPECT_NE(page, nullptr);
+        return *page;
+    }
+    std::string Macro(KeyModifiers modifiers, int key)
+    {
+        const char* text = store.LookupMacro(modifiers, key);
+        return text ? text : "";
+    }
+
+    // Made at first use, so that a test fills the store first.
+    MacroSheet& Sheet()
+    {
+        if (!sheet_)
+            sheet_ = std::make_unique<MacroSheet>(store, nullptr);
+        return *sheet_;
+    }
+
+    MacroStore store;
+
+  private:
+    std::unique_ptr<MacroSheet> sheet_;
+};
+
+struct EditCase {
+    const char* name;
+    Tab tab;
+    int row;
+    KeyModifiers modifiers;
+    int key;
+};
+
+class MacroSheetEdit : public MacroSheetTest, public ::testing::WithParamInterface<EditCase> {
+  protected:
+    QLineEdit* EditOf(const EditCase& c)
+    {
+        if (c.tab == ALT_TAB || c.tab == CTRL_TAB)
+            return Open<LetterPage>(c.tab).Edit(c.row);
+        return Open<KeyTypePage>(c.tab).Edit(c.row);
+    }
+};
+
+TEST_P(MacroSheetEdit, ReachesTheStoreOnOkOnly)
+{
+    const EditCase& c = GetParam();
+    store.SetMacro(c.modifiers, c.key, "before");
+    QLineEdit* edit = EditOf(c);
+    EXPECT_EQ(edit->text(), "before");
+    edit->setText("after");
+    EXPECT_EQ(Macro(c.modifiers, c.key), "before");
+    Sheet().accept();
+    EXPECT_EQ(Macro(c.modifiers, c.key), "after");
+}
+
+TEST_P(MacroSheetEdit, CancelDropsTheEdit)
+{
+    const EditCase& c = GetParam();
+    EditOf(c)->setText("dropped");
+    Sheet().reject();
+    EXPECT_EQ(Macro(c.modifiers, c.key), "");
+}
+
+INSTANTIATE_TEST_SUITE_P(Pages, MacroSheetEdit,
+                         ::testing::Values(EditCase{"AltQ", ALT_TAB, 16, KEY_ALT, 'Q'},
+                                           EditCase{"CtrlZ", CTRL_TAB, 25, KEY_CTRL, 'Z'},
+                                           EditCase{"F12", FKEY_TAB, 11, 0, VK_F1 + 11},
+                                           EditCase{"KeypadPlus", KEYPAD_TAB, 14, 0, VK_ADD}),
+                         [](const auto& info) { return info.param.name; });
+
+TEST_F(MacroSheetTest, AKeyTypeChangeStoresTheRowsAtOnce)
+{
+    auto& page = Open<FunctionKeyPage>(FKEY_TAB);
+    page.Edit(0)->setText("kept");
+    page.ChooseKeyType(KEY_TYPE_ALT);
+    EXPECT_EQ(page.Label(0)->text(), "Alt-F1");
+    EXPECT_TRUE(page.Edit(ALT_HIDDEN_FUNCTION_KEY)->isHidden());
+    page.Edit(0)->setText("alt text");
+    page.ChooseKeyType(KEY_TYPE_SHIFT);
+    EXPECT_FALSE(page.Edit(ALT_HIDDEN_FUNCTION_KEY)->isHidden());
+    page.ChooseKeyType(KEY_TYPE_STANDARD);
+    EXPECT_EQ(page.Edit(0)->text(), "kept");
+    Sheet().reject();
+    EXPECT_EQ(Macro(0, VK_F1), "kept");
+    EXPECT_EQ(Macro(KEY_ALT, VK_F1), "alt text");
+}
+
+TEST_F(MacroSheetTest, TheSetStepsWrapAndCarryTheirNames)
+{
+    auto& page = Open<FunctionKeyPage>(FKEY_TAB);
+    page.NameEdit()->setText("first set");
+    page.StepSet(false);
+    EXPECT_EQ(store.CurrentMacroSet(), MACRO_SET_COUNT - 1);
+    EXPECT_EQ(page.SetList()->currentText(), "Macro Set 10");
+    EXPECT_EQ(page.NameEdit()->text(), "");
+    page.StepSet(true);
+    EXPECT_EQ(store.CurrentMacroSet(), 0);
+    EXPECT_EQ(page.NameEdit()->text(), "first set");
+}
+
+TEST_F(MacroSheetTest, LongTextsAreCutAtTheEditsLimits)
+{
+    auto& page = Open<LetterPage>(ALT_TAB);
+    QApplication::clipboard()->setText(QString(10000, 'x'));
+    page.Edit(0)->paste();
+    EXPECT_EQ(page.Edit(0)->text().size(), MACRO_EDIT_LIMIT);
+    auto& keys = Open<FunctionKeyPage>(FKEY_TAB);
+    keys.NameEdit()->paste();
+    Sheet().accept();
+    EXPECT_EQ(Macro(KEY_ALT, 'A'), std::string(MACRO_EDIT_KEPT, 'x'));
+    EXPECT_EQ(std::string(store.MacroSetName(0)), std::string(MACRO_SET_NAME_KEPT, 'x'));
+}
+
+TEST_F(MacroSheetTest, APageNeverOpenedIsNotWritten)
+{
+    store.SetMacro(KEY_CTRL, 'A', std::string(MACRO_EDIT_LIMIT, 'y').c_str());
+    Sheet().accept();
+    EXPECT_EQ(Sheet().Page(CTRL_TAB), nullptr);
+    EXPECT_EQ(Macro(KEY_CTRL, 'A').size(), std::size_t{MACRO_EDIT_LIMIT});
+}
+
+} // namespace
+} // namespace steward
