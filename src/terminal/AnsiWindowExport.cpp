@@ -11,9 +11,8 @@ namespace steward {
 namespace {
 
 constexpr std::size_t SCROLLBACK_PATH_SIZE = 4096;
-constexpr SaveFileRequest SCROLLBACK_REQUEST{nullptr,     "Thornmere Capture", "txt",
-                                             "Text file", "*.txt",
-                                             "Save Scrollback Buffer As"};
+constexpr SaveFileRequest SCROLLBACK_REQUEST{
+    nullptr, "Thornmere Capture", "txt", "Text file", "*.txt", "Save Scrollback Buffer As"};
 constexpr char DISK_ERROR_TITLE[] = "Disk Error";
 constexpr char CREATE_FAILED_TEXT[] = "Unable to create file!";
 constexpr char TEMP_FAILED_TEXT[] = "Unable to create temporary file!";

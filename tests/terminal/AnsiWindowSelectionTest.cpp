@@ -28,23 +28,20 @@ TEST_P(PosFromPointTest, FindsTheNearestBoundary)
                        "cd\xA0\nlast");
     const PointCase& c = GetParam();
     TextBuffer& buffer = window->GetLiveBuffer();
-    const auto expected =
-        buffer.AdvancePos(buffer.GetWritePos(), static_cast<std::int32_t>(WINDOW_BUFFER_CAPACITY) - c.back);
+    const auto expected = buffer.AdvancePos(
+        buffer.GetWritePos(), static_cast<std::int32_t>(WINDOW_BUFFER_CAPACITY) - c.back);
     EXPECT_EQ(window->PosFromPoint(c.x, c.y), expected);
 }
 
 INSTANTIATE_TEST_SUITE_P(
     Points, PosFromPointTest,
-    ::testing::Values(PointCase{"AboveGivesTopRowStart", 200, -30, 24},
-                      PointCase{"BlankRow", 200, RowY(0), 24},
-                      PointCase{"LeftOfText", 2, RowY(8), 11},
-                      PointCase{"OnTextLeft", 4, RowY(8), 11},
-                      PointCase{"RightHalfOfFirstCharacter", 16, RowY(8), 10},
-                      PointCase{"BehindAColourCode", 17, RowY(8), 8},
-                      PointCase{"RightOfText", 300, RowY(8), 5},
-                      PointCase{"BetweenRowsIsTheLower", 200, 2 + CELL_HEIGHT * 8, 5},
-                      PointCase{"OnTheCursor", 300, RowY(9), 0},
-                      PointCase{"BelowGivesLastRow", 12, 500, 3}),
+    ::testing::Values(
+        PointCase{"AboveGivesTopRowStart", 200, -30, 24}, PointCase{"BlankRow", 200, RowY(0), 24},
+        PointCase{"LeftOfText", 2, RowY(8), 11}, PointCase{"OnTextLeft", 4, RowY(8), 11},
+        PointCase{"RightHalfOfFirstCharacter", 16, RowY(8), 10},
+        PointCase{"BehindAColourCode", 17, RowY(8), 8}, PointCase{"RightOfText", 300, RowY(8), 5},
+        PointCase{"BetweenRowsIsTheLower", 200, 2 + CELL_HEIGHT * 8, 5},
+        PointCase{"OnTheCursor", 300, RowY(9), 0}, PointCase{"BelowGivesLastRow", 12, 500, 3}),
     [](const auto& info) { return info.param.name; });
 
 TEST_F(WindowTest, PosFromPointOnACutLineStopsBehindItsShownBytes)

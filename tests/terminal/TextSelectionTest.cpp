@@ -57,20 +57,18 @@ TEST_P(TextBufferSelect, SelectsTheWordOrDisplayLine)
 // index 0), 12 its "a" (index 199), 16 the comma, 19 the "w" of the coloured "two".
 INSTANTIATE_TEST_SUITE_P(
     RingEndsAndSeam, TextBufferSelect,
-    testing::Values(SelectCase{"WordAtHead", Select::Word, true, 0, "alpha", 5},
-                    SelectCase{"LineAtHead", Select::Line, true, 0, "alpha beta", 10},
-                    SelectCase{"LineOnTerminatorIsTheTerminator", Select::Line, true, 10, "\r\n", 1},
-                    SelectCase{"WordBeforeWritePos", Select::Word, false, 3, "gamma", 5},
-                    SelectCase{"WordAtWritePosIsEmpty", Select::Word, false, 0, "", 0},
-                    SelectCase{"LineAtWritePos", Select::Line, false, 0, "one two, seamword gamma",
-                               25},
-                    SelectCase{"WordAfterSeam", Select::Word, false, 11, "seamword", 8},
-                    SelectCase{"WordBeforeSeam", Select::Word, false, 12, "seamword", 8},
-                    SelectCase{"LineOverSeam", Select::Line, false, 11, "one two, seamword gamma",
-                               25},
-                    SelectCase{"CommaSelectsNothing", Select::Word, false, 16, "", 0},
-                    SelectCase{"ColourInsideWordIsKeptInFrontIsNot", Select::Word, false, 19,
-                               "two", 4}),
+    testing::Values(
+        SelectCase{"WordAtHead", Select::Word, true, 0, "alpha", 5},
+        SelectCase{"LineAtHead", Select::Line, true, 0, "alpha beta", 10},
+        SelectCase{"LineOnTerminatorIsTheTerminator", Select::Line, true, 10, "\r\n", 1},
+        SelectCase{"WordBeforeWritePos", Select::Word, false, 3, "gamma", 5},
+        SelectCase{"WordAtWritePosIsEmpty", Select::Word, false, 0, "", 0},
+        SelectCase{"LineAtWritePos", Select::Line, false, 0, "one two, seamword gamma", 25},
+        SelectCase{"WordAfterSeam", Select::Word, false, 11, "seamword", 8},
+        SelectCase{"WordBeforeSeam", Select::Word, false, 12, "seamword", 8},
+        SelectCase{"LineOverSeam", Select::Line, false, 11, "one two, seamword gamma", 25},
+        SelectCase{"CommaSelectsNothing", Select::Word, false, 16, "", 0},
+        SelectCase{"ColourInsideWordIsKeptInFrontIsNot", Select::Word, false, 19, "two", 4}),
     [](const auto& info) { return info.param.name; });
 
 struct EdgeCase {

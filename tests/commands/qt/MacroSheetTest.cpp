@@ -1,5 +1,5 @@
-#include "commands/MacroKeyTypes.h"
 #include "commands/qt/MacroSheet.h"
+#include "commands/MacroKeyTypes.h"
 
 #include <QApplication>
 #include <QClipboard>

@@ -389,7 +389,9 @@ TEST_F(ClientCommandsTest, CopyCommandsTakeTheActiveWindowsSelection)
     AnsiWindow& game = *client->State().Windows.GameWindow;
     game.AppendText("a silver coin\n");
     TextBuffer& buffer = game.GetLiveBuffer();
-    const auto selectLine = [&] { buffer.SelectLine(buffer.Prev(buffer.Prev(buffer.GetWritePos()))); };
+    const auto selectLine = [&] {
+        buffer.SelectLine(buffer.Prev(buffer.Prev(buffer.GetWritePos())));
+    };
     auto* line = qobject_cast<QLineEdit*>(client->Frame().CommandLine());
 
     selectLine();

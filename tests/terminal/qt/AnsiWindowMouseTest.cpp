@@ -50,8 +50,8 @@ class MouseTest : public ::testing::Test {
   protected:
     void SetUp() override
     {
-        widget = AnsiWindowWidget::Create("Thought Window", {settings, nullptr, nullptr, nullptr,
-                                                             &services});
+        widget = AnsiWindowWidget::Create("Thought Window",
+                                          {settings, nullptr, nullptr, nullptr, &services});
         widget->resize(400, 200);
         widget->show();
         ASSERT_TRUE(QTest::qWaitForWindowExposed(widget.get()));
@@ -123,12 +123,12 @@ TEST_P(DragTest, SelectsTheBytesBetweenPressAndRelease)
     EXPECT_EQ(Copied(), c.copied);
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Drags, DragTest,
-    ::testing::Values(DragCase{"WithinALine", 3, 0, 3, 5, "plain"},
-                      DragCase{"OverAColourChange", 2, 2, 2, 8, "d aler"},
-                      DragCase{"BackwardsOverALineEnd", 2, 3, 3, 6, "words here\r\nred"}),
-    [](const auto& info) { return info.param.name; });
+INSTANTIATE_TEST_SUITE_P(Drags, DragTest,
+                         ::testing::Values(DragCase{"WithinALine", 3, 0, 3, 5, "plain"},
+                                           DragCase{"OverAColourChange", 2, 2, 2, 8, "d aler"},
+                                           DragCase{"BackwardsOverALineEnd", 2, 3, 3, 6,
+                                                    "words here\r\nred"}),
+                         [](const auto& info) { return info.param.name; });
 
 TEST_F(MouseTest, ASoftLineEndCopiesAsASpace)
 {
