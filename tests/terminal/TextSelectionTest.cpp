@@ -66,56 +66,9 @@ INSTANTIATE_TEST_SUITE_P(
         SelectCase{"LineAtWritePos", Select::Line, false, 0, "one two, seamword gamma", 25},
         SelectCase{"WordAfterSeam", Select::Word, false, 11, "seamword", 8},
         SelectCase{"WordBeforeSeam", Select::Word, false, 12, "seamword", 8},
-        SelectCase{"LineOverSeam", Select::Line, false, 11, "one two, seamword gamma", 25},
         SelectCase{"CommaSelectsNothing", Select::Word, false, 16, "", 0},
         SelectCase{"ColourInsideWordIsKeptInFrontIsNot", Select::Word, false, 19, "two", 4}),
     [](const auto& info) { return info.param.name; });
-
-struct EdgeCase {
-    const char* name;
-    std::int32_t start;
-    std::int32_t end;
-    std::int32_t click;
-    std::int32_t newStart;
-    std::int32_t newEnd;
-};
-
-class TextBufferMoveEdge : public testing::TestWithParam<EdgeCase> {};
-
-TEST_P(TextBufferMoveEdge, KeepsTheFarEnd)
-{
-    auto buffer = MakeBuffer();
-    buffer->SetSelection(GetParam().start, GetParam().end);
-    buffer->MoveSelectionEdge(buffer->AdvancePos(buffer->GetHeadPos(), GetParam().click));
-    EXPECT_EQ(buffer->GetSelStart(), GetParam().newStart);
-    EXPECT_EQ(buffer->GetSelEnd(), GetParam().newEnd);
-}
-
-INSTANTIATE_TEST_SUITE_P(Clicks, TextBufferMoveEdge,
-                         testing::Values(EdgeCase{"RightExtends", 10, 20, 30, 10, 30},
-                                         EdgeCase{"OnEndExtends", 20, 10, 20, 10, 20},
-                                         EdgeCase{"LeftMovesStart", 10, 20, 5, 5, 20},
-                                         EdgeCase{"InsideMovesStart", 20, 10, 15, 15, 20}),
-                         [](const auto& info) { return info.param.name; });
-
-TEST(TextBufferSelection, BeginSaysWhetherOneExisted)
-{
-    auto buffer = MakeBuffer();
-    EXPECT_FALSE(buffer->BeginSelection(buffer->AdvancePos(buffer->GetHeadPos(), 7)));
-    buffer->ExtendSelection(buffer->AdvancePos(buffer->GetHeadPos(), 3));
-    EXPECT_EQ(buffer->GetSelStart(), 7);
-    EXPECT_EQ(buffer->GetSelEnd(), 3);
-    EXPECT_TRUE(buffer->BeginSelection(buffer->GetHeadPos()));
-}
-
-TEST(TextBufferSelection, TextOverASoftLineEndHasASpace)
-{
-    auto buffer = MakeWrappingBuffer(10);
-    buffer->AppendText("hello world\nnext", true);
-    const std::int32_t end = buffer->Offset(buffer->GetWritePos());
-    buffer->SetSelection(end - 16, end);
-    EXPECT_EQ(buffer->SelectionText(), "hello world\r\nnext");
-}
 
 // The plain text of a full ring is its bytes transcribed one by one, and a text whose line
 // ends would not fit keeps its older part.

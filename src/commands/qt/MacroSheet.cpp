@@ -15,13 +15,14 @@
 #include <QTabWidget>
 #include <QVBoxLayout>
 
+#include <iterator>
+
 namespace steward {
 
 namespace {
 
 constexpr const char* TAB_TITLES[] = {"  Alt Keys  ", "  Ctrl Keys  ", "  FKeys  ",
                                       "  Numeric Keypad  "};
-constexpr int TAB_COUNT = 4;
 constexpr const char* KEY_TYPE_TITLES[MACRO_KEY_TYPE_COUNT] = {"S&tandard", "&ALT", "&Shift",
                                                                "&Ctrl"};
 constexpr int LETTER_ROWS = 13;
@@ -187,6 +188,7 @@ void KeypadPage::SaveKeys()
 MacroSheet::MacroSheet(MacroStore& store, QWidget* owner)
     : QDialog(owner), store_(store), tabs_(new QTabWidget(this))
 {
+    static_assert(std::size(TAB_TITLES) == TAB_COUNT);
     setWindowTitle(QStringLiteral("Macro Key Definitions"));
     auto* layout = new QVBoxLayout(this);
     for (const char* title : TAB_TITLES)
@@ -198,12 +200,6 @@ MacroSheet::MacroSheet(MacroStore& store, QWidget* owner)
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
     connect(tabs_, &QTabWidget::currentChanged, this, &MacroSheet::MakePage);
     MakePage(0);
-}
-
-MacroPage* MacroSheet::Page(int tab) const
-{
-    auto* holder = tabs_->widget(tab);
-    return holder ? holder->findChild<MacroPage*>(QString(), Qt::FindDirectChildrenOnly) : nullptr;
 }
 
 void MacroSheet::MakePage(int tab)
@@ -224,12 +220,13 @@ void MacroSheet::MakePage(int tab)
     layout->setContentsMargins(0, 0, 0, 0);
     page->setParent(holder);
     layout->addWidget(page);
+    pages_[tab] = page;
 }
 
 void MacroSheet::accept()
 {
-    for (int tab = 0; tab < TAB_COUNT; ++tab)
-        if (MacroPage* page = Page(tab))
+    for (MacroPage* page : pages_)
+        if (page)
             page->Save();
     QDialog::accept();
 }

@@ -94,14 +94,16 @@ class MacroSheet : public QDialog {
     MacroSheet(MacroStore& store, QWidget* owner);
     QTabWidget* Tabs() const { return tabs_; }
     // The page of that tab, or null while it was never shown.
-    MacroPage* Page(int tab) const;
+    MacroPage* Page(int tab) const { return tab >= 0 && tab < TAB_COUNT ? pages_[tab] : nullptr; }
     void accept() override;
 
   private:
     void MakePage(int tab);
 
+    static constexpr int TAB_COUNT = 4;
     MacroStore& store_;
     QTabWidget* tabs_;
+    std::array<MacroPage*, TAB_COUNT> pages_{};
 };
 
 // Runs the sheet modally.
