@@ -1,6 +1,6 @@
 #include "terminal/AnsiWindow.h"
 
-#include "connection/ColorCode.h"
+#include "base/ColorCode.h"
 
 #include <algorithm>
 

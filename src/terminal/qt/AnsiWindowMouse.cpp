@@ -1,4 +1,4 @@
-#include "session/FrameCommand.h"
+#include "base/FrameCommand.h"
 #include "terminal/qt/AnsiWindowWidget.h"
 
 #include <QClipboard>

@@ -385,7 +385,7 @@ TEST_F(ClientCommandsTest, CopyCommandsTakeTheActiveWindowsSelection)
 {
     client->Frame().show();
     MdiClient& mdi = client->Frame().Mdi();
-    mdi.setActiveSubWindow(mdi.Child(GAME_ROW));
+    mdi.setActiveSubWindow(client->Windows().Child(GAME_ROW));
     AnsiWindow& game = *client->State().Windows.GameWindow;
     game.AppendText("a silver coin\n");
     TextBuffer& buffer = game.GetLiveBuffer();

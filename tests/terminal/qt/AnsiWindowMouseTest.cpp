@@ -1,4 +1,4 @@
-#include "session/FrameCommand.h"
+#include "base/FrameCommand.h"
 #include "support/TempFolder.h"
 #include "terminal/qt/AnsiWindowWidget.h"
 
