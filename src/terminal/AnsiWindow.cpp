@@ -39,8 +39,8 @@ std::unique_ptr<AnsiWindow> AnsiWindow::Create(const char* name, const AnsiWindo
 
 AnsiWindow::AnsiWindow(const AnsiWindowParts& parts, std::unique_ptr<TextBuffer> live,
                        std::unique_ptr<TextBuffer> view)
-    : host_(parts.Host), options_(parts.Options), prompt_(parts.Prompt),
-      services_(parts.Services), LiveBuffer(std::move(live)), ViewBuffer(std::move(view))
+    : host_(parts.Host), options_(parts.Options), prompt_(parts.Prompt), services_(parts.Services),
+      LiveBuffer(std::move(live)), ViewBuffer(std::move(view))
 {
     ClientRect = host_.GetClientRect();
     LiveBuffer->SetBellListener(&host_);

@@ -5,8 +5,8 @@
 #include "commands/Keyboard.h"
 #include "commands/qt/CommandLine.h"
 #include "commands/qt/KeyFilterQt.h"
-#include "scripts/qt/ScriptControl.h"
 #include "panels/qt/StatusPanelView.h"
+#include "scripts/qt/ScriptControl.h"
 #include "session/qt/ChildWindowSet.h"
 #include "session/qt/ConnectionChoice.h"
 #include "session/qt/Desktop.h"
@@ -62,7 +62,7 @@ Client::Client(ClientOptions options, Desktop& desktop)
         frame_->Mdi(), session_.Windows, session_.Profile, link_.Pipeline(), commandLine_, &logs_});
     frame_->SetCommandLine(commandLine_);
     keyboardHost_ = std::make_unique<QtKeyboardHost>(
-        QtKeyboardHost::Links{session_, link_, *windows_, *frame_, desktop_});
+        QtKeyboardHost::Links{session_, link_, *windows_, *frame_, desktop_, *commandLine_});
     FrameQueue& queue = *this;
     keyboard_ = std::make_unique<Keyboard>(*commandLine_, link_, queue, *keyboardHost_,
                                            session_.Profile.Settings);

@@ -91,12 +91,9 @@ class Client : public QObject, private FrameQueue, private RestSender {
     void EnterRestMode(bool silent);
     void SetDisplayMode(std::uint8_t mode);
     void ToggleAutoArrange();
-    // Copy: the command line's selection, or else the active window's.
-    void CopyCommand();
     // Copy Special: the active window's selection, or else the clipboard's lines, go to the
     // string or the name highlights.
     void CopyToHighlights(int command);
-    void CopyToCommandLine();
     // The macro sheet, then the title, which shows the current set.
     void EditMacros();
     // DRAG_DIALOG: OK takes the field as DragTarget, "Stop Dragging" empties it.

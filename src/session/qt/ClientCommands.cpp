@@ -51,12 +51,12 @@ const Client::CommandEntry Client::COMMANDS[] = {
     {CMD_OPEN_LOG, [](Client& c) { c.logs_.OpenLogWithDialog(); }},
     {CMD_CLOSE_LOG, [](Client& c) { c.session_.SessionLog.Close(); }},
     {CMD_CUT, [](Client& c) { c.commandLine_->Cut(); }},
-    {CMD_COPY, [](Client& c) { c.CopyCommand(); }},
+    {CMD_COPY, [](Client& c) { c.keyboardHost_->Copy(); }},
     {CMD_COPY_TO_STRING_HIGHLIGHTS,
      [](Client& c) { c.CopyToHighlights(CMD_COPY_TO_STRING_HIGHLIGHTS); }},
     {CMD_COPY_TO_NAME_HIGHLIGHTS,
      [](Client& c) { c.CopyToHighlights(CMD_COPY_TO_NAME_HIGHLIGHTS); }},
-    {CMD_COPY_TO_COMMAND_LINE, [](Client& c) { c.CopyToCommandLine(); }},
+    {CMD_COPY_TO_COMMAND_LINE, [](Client& c) { c.keyboardHost_->CopyToCommandLine(); }},
     {CMD_CLEAR, [](Client& c) { c.commandLine_->Clear(); }},
     {CMD_PASTE, [](Client& c) { c.commandLine_->Paste(); }},
     {CMD_VERSION_NOTES, [](Client& c) { c.logs_.RunVersionNotes(); }},
@@ -138,34 +138,12 @@ void Client::ToggleAutoArrange()
     windows_->Arrange(false);
 }
 
-void Client::CopyCommand()
-{
-    if (commandLine_->hasSelectedText())
-        commandLine_->Copy();
-    else if (AnsiWindow* child = windows_->ActiveWindow())
-        child->Copy();
-}
-
-// Without an active window the clipboard's text is taken as it is.
 void Client::CopyToHighlights(int command)
 {
-    AnsiWindow* child = windows_->ActiveWindow();
-    if (child)
-        child->Copy();
-    QtClipboardReader clipboard;
-    highlights_.CopyToHighlights(command, clipboard);
-    if (child)
-        child->Clear();
-}
-
-void Client::CopyToCommandLine()
-{
-    AnsiWindow* child = windows_->ActiveWindow();
-    if (!child)
-        return;
-    child->Copy();
-    commandLine_->Paste();
-    child->Clear();
+    keyboardHost_->WithSelectionCopied([this, command] {
+        QtClipboardReader clipboard;
+        highlights_.CopyToHighlights(command, clipboard);
+    });
 }
 
 void Client::EditMacros()

@@ -1,5 +1,6 @@
 #include "session/qt/QtKeyboardHost.h"
 
+#include "commands/qt/CommandLine.h"
 #include "scripts/qt/ScriptControl.h"
 #include "session/GameLink.h"
 #include "session/Session.h"
@@ -74,6 +75,30 @@ void QtKeyboardHost::CopyFromActiveChild()
 {
     if (AnsiWindow* child = links_.Windows.ActiveWindow())
         child->Copy();
+}
+
+void QtKeyboardHost::Copy()
+{
+    if (links_.Line.hasSelectedText())
+        links_.Line.Copy();
+    else
+        CopyFromActiveChild();
+}
+
+void QtKeyboardHost::CopyToCommandLine()
+{
+    if (links_.Windows.ActiveWindow())
+        WithSelectionCopied([this] { links_.Line.Paste(); });
+}
+
+void QtKeyboardHost::WithSelectionCopied(const std::function<void()>& take)
+{
+    AnsiWindow* child = links_.Windows.ActiveWindow();
+    if (child)
+        child->Copy();
+    take();
+    if (child)
+        child->Clear();
 }
 
 void QtKeyboardHost::SetFrameTitle(const char* title)

@@ -2,9 +2,12 @@
 
 #include "commands/KeyboardHost.h"
 
+#include <functional>
+
 namespace steward {
 
 class ChildWindowSet;
+class CommandLine;
 class Desktop;
 class FrameWindow;
 class GameLink;
@@ -20,6 +23,7 @@ class QtKeyboardHost : public KeyboardHost {
         ChildWindowSet& Windows;
         FrameWindow& Frame;
         Desktop& Dialogs;
+        CommandLine& Line;
     };
 
     explicit QtKeyboardHost(const Links& links) : links_(links) {}
@@ -41,6 +45,14 @@ class QtKeyboardHost : public KeyboardHost {
     bool AskString(const char* title, char* answer, std::size_t capacity) override;
     void PumpFor(int seconds) override;
     void Trace(const char* line) override;
+
+    // CMD_COPY: the command line's selection, or else the active window's.
+    void Copy();
+    // CMD_COPY_TO_COMMAND_LINE: the active window's selection is pasted into the command line.
+    void CopyToCommandLine();
+    // Copy Special: take runs with the active window's selection on the clipboard, which is
+    // dropped afterwards; without an active window the clipboard stays as it is.
+    void WithSelectionCopied(const std::function<void()>& take);
 
     // The scripts come after the keyboard, whose state they share.
     void SetScripts(ScriptControl& scripts) { scripts_ = &scripts; }

@@ -58,7 +58,6 @@ class QtLogHost : public LogHost, public FileProbe, public TextWindowServices {
     std::string ProgramFolder() const override;
 
   private:
-
     Session& session_;
     GameLink& link_;
     Desktop& desktop_;
