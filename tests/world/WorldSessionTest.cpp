@@ -6,6 +6,8 @@
 
 #include <gtest/gtest.h>
 
+#include <functional>
+
 namespace {
 
 TEST(WorldLogin, AsksForANameAndShowsTheFirstRoomWithItsExits)
@@ -217,6 +219,31 @@ TEST_F(StatusMode, HealthLinesAndRestUseTheVitalsPhrases)
     const QByteArray rest = mara.ReadUntil("\x1b\x1b");
     EXPECT_TRUE(rest.contains(" ** You are fully healed.\r\n"));
     EXPECT_TRUE(rest.contains(" ** You are fully rested.\r\n"));
+}
+
+// The record carries the prompt: whatever ends an answer or a notice, no line of a bare ">"
+// comes before it.
+TEST_F(StatusMode, NoBarePromptLineComesBeforeARecord)
+{
+    NextRecord();
+    TestClient corwin{world.port};
+    const std::pair<const char*, std::function<void()>> cases[] = {
+        {"a command", [&] { mara.Send("look"); }},
+        {"an empty line", [&] { mara.Send(""); }},
+        {"an unknown command", [&] { mara.Send("xyzzy"); }},
+        {"another player's arrival", [&] { corwin.Login("Corwin"); }},
+        {"another player's speech", [&] { corwin.Send("say Hello there"); }},
+        {"a move", [&] { mara.Send("n"); }},
+    };
+    for (const auto& [what, act] : cases) {
+        act();
+        const QByteArray answer = mara.ReadUntil("\x1b\x1b");
+        ASSERT_FALSE(answer.isEmpty()) << what;
+        mara.ReadUntil("\x1b\r\n");
+        EXPECT_FALSE(answer.startsWith(">\r\n") || answer.contains("\n>\r\n") ||
+                     answer.endsWith(">\x1b\x1b"))
+            << what << ": " << answer.constData();
+    }
 }
 
 TEST(WorldInput, SurvivesGarbageAndStillAnswers)

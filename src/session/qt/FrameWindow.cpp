@@ -4,6 +4,7 @@
 #include "session/qt/FrameMenu.h"
 #include "session/qt/MdiClient.h"
 
+#include <QApplication>
 #include <QCloseEvent>
 #include <QMenuBar>
 #include <QPainter>
@@ -48,6 +49,8 @@ FrameWindow::FrameWindow(Handlers handlers, QWidget* parent)
     setMinimumSize(MIN_TRACK_SIZE, MIN_TRACK_SIZE);
     setCentralWidget(surface_);
     menu_ = new FrameMenu(*menuBar(), *mdi_, handlers_.Command, handlers_.ReadMenuInputs);
+    // Every window that closes, ours or Qt's, is seen here, so a new dialog needs nothing.
+    qApp->installEventFilter(this);
 }
 
 FrameWindow::~FrameWindow() = default;
@@ -128,6 +131,25 @@ void FrameWindow::changeEvent(QEvent* event)
 {
     QMainWindow::changeEvent(event);
     if (event->type() == QEvent::ActivationChange && isActiveWindow())
+        FocusCommandLine();
+}
+
+bool FrameWindow::eventFilter(QObject* watched, QEvent* event)
+{
+    if (event->type() == QEvent::Hide && watched != this && watched->isWidgetType() &&
+        static_cast<QWidget*>(watched)->isWindow())
+        // Queued, because Qt moves the focus after the hide: Escape on a menu hands it to
+        // the menu bar, a closed dialog to the widget that had it before.
+        QMetaObject::invokeMethod(this, &FrameWindow::ReturnFocus, Qt::QueuedConnection);
+    return false;
+}
+
+void FrameWindow::ReturnFocus()
+{
+    if (QApplication::activeModalWidget() || QApplication::activePopupWidget())
+        return;
+    QWidget* active = QApplication::activeWindow();
+    if (!active || active == this)
         FocusCommandLine();
 }
 

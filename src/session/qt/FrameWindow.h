@@ -69,9 +69,13 @@ class FrameWindow : public QMainWindow {
     void resizeEvent(QResizeEvent* event) override;
     void wheelEvent(QWheelEvent* event) override;
     void changeEvent(QEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
   private:
     int CommandLineHeight() const;
+    // After a menu, dialog or popup closed: the command line again, unless another of them is
+    // still open or another window of ours is active.
+    void ReturnFocus();
 
     Handlers handlers_;
     FrameSurface* surface_;
