@@ -32,14 +32,46 @@ std::string ScriptLine(const char* text, Tokenizer& words)
     return line + text + "\r\r\n";
 }
 
+void ReportDiskError(ScriptHost& host)
+{
+    host.Beep();
+    host.Beep();
+    host.PrintToGameWindow(LOG_DISK_ERROR_TEXT);
+    host.Beep();
+    host.Beep();
+}
+
 } // namespace
+
+ScriptRecorder::~ScriptRecorder()
+{
+    if (file_)
+        file_->Commit();
+}
 
 bool ScriptRecorder::StartRecording(const char* path)
 {
-    file_.reset(std::fopen(path, "wb"));
     if (file_)
-        std::setvbuf(file_.get(), nullptr, _IONBF, 0);
-    return file_ != nullptr;
+        file_->Commit();
+    file_.emplace(path);
+    if (!file_->Get()) {
+        file_.reset();
+        return false;
+    }
+    // Unbuffered, so that a full disk is told at the command that met it.
+    std::setvbuf(file_->Get(), nullptr, _IONBF, 0);
+    return true;
+}
+
+bool ScriptRecorder::StopRecording(ScriptHost& host)
+{
+    if (!file_)
+        return true;
+    const bool kept = file_->Commit();
+    file_.reset();
+    if (!kept)
+        ReportDiskError(host);
+    return kept;
 }
 
 void ScriptRecorder::RecordCommand(const char* text, Tokenizer& words, ScriptHost& host)
@@ -47,14 +79,10 @@ void ScriptRecorder::RecordCommand(const char* text, Tokenizer& words, ScriptHos
     if (!file_)
         return;
     const std::string line = ScriptLine(text, words);
-    if (std::fwrite(line.data(), 1, line.size(), file_.get()) == line.size())
+    if (std::fwrite(line.data(), 1, line.size(), file_->Get()) == line.size())
         return;
     file_.reset();
-    host.Beep();
-    host.Beep();
-    host.PrintToGameWindow(LOG_DISK_ERROR_TEXT);
-    host.Beep();
-    host.Beep();
+    ReportDiskError(host);
 }
 
 } // namespace steward

@@ -1,7 +1,11 @@
 #include "commands/MacroStore.h"
 #include "config/CharacterProfile.h"
 #include "highlights/HighlightList.h"
+#include "scripts/ScriptHost.h"
+#include "scripts/ScriptRecorder.h"
+#include "scripts/Tokenizer.h"
 
+#include "support/FileSizeLimit.h"
 #include "support/TempFolder.h"
 
 #include <gtest/gtest.h>
@@ -13,7 +17,6 @@
 #include <filesystem>
 #include <random>
 #include <string>
-#include <sys/resource.h>
 #include <sys/wait.h>
 #include <thread>
 #include <unistd.h>
@@ -21,11 +24,12 @@
 namespace steward {
 namespace {
 
+using testing::FileSizeLimit;
 using testing::ReadBytes;
 using testing::TempFolder;
 
-constexpr std::array<const char*, 4> PROFILE_FILES = {"Rook.Dat", "Rook.Macros", "Rook.Highlights",
-                                                      "Rook.Names"};
+constexpr std::array<const char*, 5> PROFILE_FILES = {"Rook.Dat", "Rook.Macros", "Rook.Highlights",
+                                                      "Rook.Names", "Rook.Stw"};
 using ProfileBytes = std::array<std::string, PROFILE_FILES.size()>;
 
 // The parts of the program that own profile files, saving for real.
@@ -53,6 +57,17 @@ class SavingParts : public ProfileParts {
     HighlightList nameHighlights;
 };
 
+// A script recorded beside the profile: the host only listens.
+class QuietScriptHost : public ScriptHost {
+  public:
+    void ShowBusyCursor(bool) override {}
+    void Beep() override {}
+    void PostWakeUp() override {}
+    void PrintToGameWindow(const char*) override {}
+    void SendScripted(const char*) override {}
+    void PumpFor(int) override {}
+};
+
 // Two different states of one character; a save of either must leave files of one of them.
 struct ProfileState {
     CharacterProfile profile;
@@ -71,7 +86,18 @@ struct ProfileState {
             parts.nameHighlights.Add(("Name" + text).c_str(), static_cast<unsigned char>(i + 1));
         }
     }
-    void Save(const ConfigFiles& files) { SaveProfile(files, profile, parts, nullptr); }
+    // The profile, then a recording of the character's walk.
+    void Save(const ConfigFiles& files)
+    {
+        SaveProfile(files, profile, parts, nullptr);
+        QuietScriptHost host;
+        Tokenizer words;
+        ScriptRecorder recorder;
+        recorder.StartRecording(ProfileFilePath(files, "Rook", ".Stw").c_str());
+        for (int i = 0; i < 20 + profile.Settings.HonorNumLock * 25; ++i)
+            recorder.RecordCommand(i % 3 ? "n" : "say the bell rings", words, host);
+        recorder.StopRecording(host);
+    }
 };
 
 class ProfileFaultTest : public ::testing::Test {
@@ -110,22 +136,6 @@ class ProfileFaultTest : public ::testing::Test {
     ProfileState newState{1};
     ProfileBytes oldBytes = SavedBytesOf(oldState);
     ProfileBytes newBytes = SavedBytesOf(newState);
-};
-
-// The kernel refuses every byte past the limit, as a full disk would.
-class FileSizeLimit {
-  public:
-    explicit FileSizeLimit(rlim_t bytes)
-    {
-        std::signal(SIGXFSZ, SIG_IGN);
-        getrlimit(RLIMIT_FSIZE, &saved_);
-        const rlimit limit{bytes, saved_.rlim_max};
-        setrlimit(RLIMIT_FSIZE, &limit);
-    }
-    ~FileSizeLimit() { setrlimit(RLIMIT_FSIZE, &saved_); }
-
-  private:
-    rlimit saved_{};
 };
 
 TEST_F(ProfileFaultTest, AWriteThatFailsAfterAnyByteLeavesEachFileOldOrNew)

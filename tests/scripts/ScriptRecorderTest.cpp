@@ -1,5 +1,6 @@
 #include "scripts/ScriptRecorder.h"
 #include "ScriptDoubles.h"
+#include "support/FileSizeLimit.h"
 
 #include <gtest/gtest.h>
 
@@ -18,7 +19,7 @@ TEST(ScriptRecorderTest, WritesMovesPutsAndCommentsInTheFilesForm)
     for (const char* sent : {"n", "NE now", "north", "go gate", "Enter door", "# left the bank",
                              "drag bob n", "look", "  up"})
         recorder.RecordCommand(sent, words, host);
-    recorder.StopRecording();
+    EXPECT_TRUE(recorder.StopRecording(host));
     recorder.RecordCommand("after", words, host);
 
     EXPECT_EQ(ReadBytes(path), "move n\r\r\nmove NE now\r\r\nput north\r\r\nmove go gate\r\r\n"
@@ -27,18 +28,25 @@ TEST(ScriptRecorderTest, WritesMovesPutsAndCommentsInTheFilesForm)
     EXPECT_TRUE(host.events.empty());
 }
 
-TEST(ScriptRecorderTest, AFailedWriteEndsTheRecordingWithAMessage)
+TEST(ScriptRecorderTest, AFailedWriteEndsTheRecordingWithAMessageAndKeepsTheOldScript)
 {
+    TempFolder folder;
+    const std::string path = folder.File("Walk.stw");
+    WriteBytes(path, "move n\r\r\n");
     ScriptRecorder recorder;
     RecordingScriptHost host;
     Tokenizer words;
-    ASSERT_TRUE(recorder.StartRecording("/dev/full"));
-    recorder.RecordCommand("look", words, host);
+    ASSERT_TRUE(recorder.StartRecording(path.c_str()));
+    {
+        FileSizeLimit full(4);
+        recorder.RecordCommand("look", words, host);
+    }
     EXPECT_FALSE(recorder.Recording());
     const std::vector<std::string> expected = {
         "beep", "beep", "print:\\r\\n\\r\\n*** Error writing to disk..disk full?\\r\\n\\r\\n",
         "beep", "beep"};
     EXPECT_EQ(host.events, expected);
+    EXPECT_EQ(ReadBytes(path), "move n\r\r\n");
     EXPECT_FALSE(recorder.StartRecording("/nonexistent-folder/x.stw"));
 }
 

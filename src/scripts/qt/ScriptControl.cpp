@@ -63,8 +63,8 @@ void ScriptControl::RecordScript()
 
 void ScriptControl::StopRecording()
 {
-    recorder_.StopRecording();
-    parts_.Print(SCRIPT_SAVED_TEXT);
+    if (recorder_.StopRecording(*this))
+        parts_.Print(SCRIPT_SAVED_TEXT);
 }
 
 std::string ScriptControl::ChooseScriptToEdit()
