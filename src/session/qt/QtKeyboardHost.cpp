@@ -123,6 +123,11 @@ bool QtKeyboardHost::AskString(const char* title, char* answer, std::size_t capa
 
 void QtKeyboardHost::PumpFor(int seconds)
 {
+    steward::PumpFor(seconds);
+}
+
+void PumpFor(int seconds)
+{
     QEventLoop loop;
     QTimer::singleShot(std::clamp(seconds, SHORTEST_PUMP_SECONDS, LONGEST_PUMP_SECONDS) * 1000,
                        &loop, &QEventLoop::quit);

@@ -14,6 +14,9 @@ class GameLink;
 class ScriptControl;
 struct Session;
 
+// Serves messages for the seconds, clipped to 1..29, in a nested loop that a quit also ends.
+void PumpFor(int seconds);
+
 // The keyboard's host: rest mode, the text windows and the frame as keys and macros reach them.
 class QtKeyboardHost : public KeyboardHost {
   public:

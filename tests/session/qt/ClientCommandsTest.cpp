@@ -311,6 +311,26 @@ TEST_F(ClientCommandsTest, WindowsAndPlacementComeBackAfterARestart)
     EXPECT_NE(client->State().Windows.ThoughtWindow, nullptr);
 }
 
+// A switch of character saves the windows into the new profile, never the one they opened with.
+TEST_F(ClientCommandsTest, WindowStateGoesToTheProfileNamedAtSaveTime)
+{
+    client->Windows().Save(File("Default.Dat"));
+    QFile opened(QString::fromStdString(File("Default.Dat")));
+    ASSERT_TRUE(opened.open(QIODevice::ReadOnly));
+    const QByteArray before = opened.readAll();
+    opened.close();
+
+    client->Windows().Save(File("Rook.Dat"));
+    QFile other(QString::fromStdString(File("Rook.Dat")));
+    ASSERT_TRUE(other.open(QIODevice::ReadOnly));
+    const QByteArray saved = other.readAll();
+    EXPECT_TRUE(saved.contains("StateInfo=") && saved.contains("Position=") &&
+                saved.contains("Open Windows="))
+        << saved.constData();
+    ASSERT_TRUE(opened.open(QIODevice::ReadOnly));
+    EXPECT_EQ(opened.readAll(), before);
+}
+
 TEST_F(ClientCommandsTest, RestTicksSendNothingWhileOffline)
 {
     client->OnCommand(CMD_REST_MODE_SILENT);
