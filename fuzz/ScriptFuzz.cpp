@@ -55,7 +55,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const Gauge roundTime{"RT:", 0, false, {}};
     ScriptRunner runner{{wait, names, words, roundTime, host}};
     std::snprintf(names.ScriptName, sizeof names.ScriptName, "Fuzz.Cmd");
-    std::snprintf(names.ScriptParameters, sizeof names.ScriptParameters, "rat saber \"old well\" 3");
+    std::snprintf(names.ScriptParameters, sizeof names.ScriptParameters,
+                  "rat saber \"old well\" 3");
     runner.RunScript(fuzz::ScratchFolder().c_str());
     for (int step = 0; step < MAX_STEPS && runner.Running(); ++step) {
         wait.ScriptWait = WAIT_NONE;

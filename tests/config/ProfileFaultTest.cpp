@@ -1,9 +1,8 @@
 #include "commands/MacroStore.h"
 #include "config/CharacterProfile.h"
 #include "highlights/HighlightList.h"
-#include "scripts/ScriptHost.h"
+#include "scripts/ScriptDoubles.h"
 #include "scripts/ScriptRecorder.h"
-#include "scripts/Tokenizer.h"
 
 #include "support/FileSizeLimit.h"
 #include "support/TempFolder.h"
@@ -57,17 +56,6 @@ class SavingParts : public ProfileParts {
     HighlightList nameHighlights;
 };
 
-// A script recorded beside the profile: the host only listens.
-class QuietScriptHost : public ScriptHost {
-  public:
-    void ShowBusyCursor(bool) override {}
-    void Beep() override {}
-    void PostWakeUp() override {}
-    void PrintToGameWindow(const char*) override {}
-    void SendScripted(const char*) override {}
-    void PumpFor(int) override {}
-};
-
 // Two different states of one character; a save of either must leave files of one of them.
 struct ProfileState {
     CharacterProfile profile;
@@ -90,7 +78,7 @@ struct ProfileState {
     void Save(const ConfigFiles& files)
     {
         SaveProfile(files, profile, parts, nullptr);
-        QuietScriptHost host;
+        testing::RecordingScriptHost host;
         Tokenizer words;
         ScriptRecorder recorder;
         recorder.StartRecording(ProfileFilePath(files, "Rook", ".Stw").c_str());

@@ -7,13 +7,13 @@
 #include <QApplication>
 #include <QDialog>
 #include <QDialogButtonBox>
-#include <QVBoxLayout>
 #include <QLineEdit>
 #include <QMenu>
 #include <QMenuBar>
 #include <QProcess>
 #include <QTest>
 #include <QTimer>
+#include <QVBoxLayout>
 
 #include <gtest/gtest.h>
 
@@ -103,7 +103,6 @@ TEST_F(FrameWindowTest, LayoutFollowsTheDisplayMode)
     line.setParent(nullptr);
 }
 
-
 // A modal dialog with a field of its own, OK and Cancel, closed by the given hand.
 void RunDialog(FrameWindow& frame, const std::function<void(QDialog&)>& close)
 {
@@ -153,9 +152,10 @@ void RunOnOwnDisplay()
     environment.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("xcb"));
     child.setProcessEnvironment(environment);
     child.setProcessChannelMode(QProcess::MergedChannels);
-    child.start(QStringLiteral("xvfb-run"),
-                {QStringLiteral("-a"), QCoreApplication::applicationFilePath(),
-                 QStringLiteral("--gtest_filter=%1.%2").arg(test->test_suite_name(), test->name())});
+    child.start(
+        QStringLiteral("xvfb-run"),
+        {QStringLiteral("-a"), QCoreApplication::applicationFilePath(),
+         QStringLiteral("--gtest_filter=%1.%2").arg(test->test_suite_name(), test->name())});
     ASSERT_TRUE(child.waitForFinished(60000));
     EXPECT_EQ(child.exitCode(), 0) << child.readAll().constData();
 }
@@ -185,33 +185,33 @@ TEST_P(FocusReturnTest, TheCommandLineHasTheFocusAgain)
 
 INSTANTIATE_TEST_SUITE_P(
     AfterEachKindOfWindow, FocusReturnTest,
-    ::testing::Values(
-        FocusCase{"EscapeOnAMenuOpenedWithTheMouse",
-                  [](FrameWindow& frame) {
-                      QMenu* menu = OpenMenuWithMouse(*frame.menuBar(), 0);
-                      ASSERT_NE(menu, nullptr);
-                      QTest::keyClick(menu, Qt::Key_Escape);
-                  }},
-        FocusCase{"EscapeTwiceOnAMenu",
-                  [](FrameWindow& frame) {
-                      QMenu* menu = OpenMenuWithMouse(*frame.menuBar(), 1);
-                      ASSERT_NE(menu, nullptr);
-                      QTest::keyClick(menu, Qt::Key_Escape);
-                      if (QWidget* focus = QApplication::focusWidget())
-                          QTest::keyClick(focus, Qt::Key_Escape);
-                  }},
-        FocusCase{"OkOfADialog",
-                  [](FrameWindow& frame) {
-                      RunDialog(frame, [](QDialog& dialog) { dialog.accept(); });
-                  }},
-        FocusCase{"EscapeOnADialog",
-                  [](FrameWindow& frame) {
-                      RunDialog(frame, [](QDialog& dialog) {
-                          QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape);
-                          if (dialog.isVisible())
-                              dialog.reject();
-                      });
-                  }}),
+    ::testing::Values(FocusCase{"EscapeOnAMenuOpenedWithTheMouse",
+                                [](FrameWindow& frame) {
+                                    QMenu* menu = OpenMenuWithMouse(*frame.menuBar(), 0);
+                                    ASSERT_NE(menu, nullptr);
+                                    QTest::keyClick(menu, Qt::Key_Escape);
+                                }},
+                      FocusCase{"EscapeTwiceOnAMenu",
+                                [](FrameWindow& frame) {
+                                    QMenu* menu = OpenMenuWithMouse(*frame.menuBar(), 1);
+                                    ASSERT_NE(menu, nullptr);
+                                    QTest::keyClick(menu, Qt::Key_Escape);
+                                    if (QWidget* focus = QApplication::focusWidget())
+                                        QTest::keyClick(focus, Qt::Key_Escape);
+                                }},
+                      FocusCase{"OkOfADialog",
+                                [](FrameWindow& frame) {
+                                    RunDialog(frame, [](QDialog& dialog) { dialog.accept(); });
+                                }},
+                      FocusCase{"EscapeOnADialog",
+                                [](FrameWindow& frame) {
+                                    RunDialog(frame, [](QDialog& dialog) {
+                                        QTest::keyClick(QApplication::focusWidget(),
+                                                        Qt::Key_Escape);
+                                        if (dialog.isVisible())
+                                            dialog.reject();
+                                    });
+                                }}),
     [](const ::testing::TestParamInfo<FocusCase>& info) { return std::string(info.param.Name); });
 
 } // namespace
