@@ -16,7 +16,6 @@ namespace {
 // The frame's share of a load: the text windows read their state from the profile.
 class WindowParts : public ProfileParts {
   public:
-    void Trace(const std::string&) override {}
     GaugeColors GetGaugeColors(ProfileGauge gauge) override { return colors[gauge]; }
     void SetGaugeColors(ProfileGauge gauge, const GaugeColors& c) override { colors[gauge] = c; }
     void SetNumLockOff() override {}

@@ -3,6 +3,7 @@
 #include "base/ByteText.h"
 #include "base/FrameCommand.h"
 #include "base/FrameQueue.h"
+#include "base/Trace.h"
 #include "commands/CommandHistory.h"
 #include "commands/CommandLineEdit.h"
 #include "commands/CommandSink.h"
@@ -64,7 +65,7 @@ void CommandRoad::EnterKey(bool remember)
     if (remember)
         RememberCommand(text);
     parts_.History.ResetHistoryPosition();
-    parts_.Host.Trace("Exiting MM_ENTER_KEY\n");
+    Trace("Exiting MM_ENTER_KEY\n");
 }
 
 void CommandRoad::RunCommandScript(const char* text)

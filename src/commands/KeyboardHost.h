@@ -33,8 +33,6 @@ class KeyboardHost {
     virtual bool AskString(const char* title, char* answer, std::size_t capacity) = 0;
     // Waits the seconds while serving messages.
     virtual void PumpFor(int seconds) = 0;
-    // A debug trace line, never shown to the user.
-    virtual void Trace(const char* line) = 0;
 };
 
 } // namespace steward

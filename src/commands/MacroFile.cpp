@@ -1,3 +1,4 @@
+#include "base/Trace.h"
 #include "commands/MacroSlots.h"
 #include "commands/MacroStore.h"
 #include "config/AtomicFile.h"
@@ -65,10 +66,9 @@ void WriteText(std::FILE* file, const char* head, const char* text)
 
 } // namespace
 
-void MacroStore::LoadMacros(const char* path, const MacroTrace& trace)
+void MacroStore::LoadMacros(const char* path)
 {
-    if (trace)
-        trace(std::string("MACROS: Loading from \"") + path + "\"\n");
+    Trace("MACROS: Loading from \"%s\"\n", path);
     Clear();
     File file(std::fopen(path, "r"));
     if (!file)
@@ -121,12 +121,11 @@ void MacroStore::ReadLine(const char* line)
     target.Text[length] = 0;
 }
 
-void MacroStore::SaveMacros(const char* path, const MacroTrace& trace) const
+void MacroStore::SaveMacros(const char* path) const
 {
     if (!path || path[0] == 0)
         return;
-    if (trace)
-        trace(std::string("MACROS: Saving to \"") + path + "\"\n");
+    Trace("MACROS: Saving to \"%s\"\n", path);
     AtomicFile file(path);
     std::FILE* out = file.Get();
     if (!out)

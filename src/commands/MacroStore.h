@@ -3,7 +3,6 @@
 #include "commands/KeyModifiers.h"
 
 #include <cstddef>
-#include <functional>
 #include <memory>
 #include <string>
 
@@ -34,7 +33,6 @@ static_assert(sizeof(MacroSlot) == MACRO_SLOT_SIZE);
 int KeypadIndex(int virtualKey);
 
 // Receives the debug trace lines of loading and saving, which the user never sees.
-using MacroTrace = std::function<void(const std::string& line)>;
 
 // Every macro key of the current character: the Alt and Ctrl letters and the keypad, which no
 // set owns, and the function keys of ten named sets.
@@ -56,9 +54,9 @@ class MacroStore {
     const char* MacroSetName(int index) const;
 
     // Empties the store, then reads the file if it opens; bad lines are skipped silently.
-    void LoadMacros(const char* path, const MacroTrace& trace = {});
+    void LoadMacros(const char* path);
     // Writes every slot and name that is not empty; silent when the file cannot be written.
-    void SaveMacros(const char* path, const MacroTrace& trace = {}) const;
+    void SaveMacros(const char* path) const;
 
   private:
     void Clear();

@@ -1,5 +1,6 @@
 #include "config/CharacterProfile.h"
 
+#include "base/Trace.h"
 #include "config/BinaryRecords.h"
 #include "config/IniBatch.h"
 #include "config/IniStore.h"
@@ -110,7 +111,7 @@ bool LoadProfile(const ConfigFiles& files, CharacterProfile& profile, ProfilePar
     SetCurrentCharacter(profile, files, name);
     if (createOnly)
         return false;
-    parts.Trace("Loading configuration from \"" + profile.ProfilePath + "\"\n");
+    Trace("Loading configuration from \"%s\"\n", profile.ProfilePath.c_str());
     const bool isNew = ReadSettings(profile);
     ReadGaugeColors(profile.ProfilePath, parts);
     CheckSettings(profile.Settings);
@@ -133,7 +134,7 @@ void SaveProfile(const ConfigFiles& files, const CharacterProfile& profile, Prof
     if (!name)
         name = profile.CurrentCharacter;
     const std::string path = ProfileFilePath(files, name, PROFILE_EXTENSION);
-    parts.Trace("Saving data to \"" + path + "\"\n");
+    Trace("Saving data to \"%s\"\n", path.c_str());
     IniBatch dat(path);
     WriteSettings(path, profile.Settings);
     WriteEquipment(path, profile);

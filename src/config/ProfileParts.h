@@ -34,8 +34,6 @@ class ProfileParts {
   public:
     virtual ~ProfileParts() = default;
 
-    // A debug trace line, never shown to the user.
-    virtual void Trace(const std::string& line) = 0;
     virtual GaugeColors GetGaugeColors(ProfileGauge gauge) = 0;
     virtual void SetGaugeColors(ProfileGauge gauge, const GaugeColors& colors) = 0;
     // Puts the keypad into macro mode.

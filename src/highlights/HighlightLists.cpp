@@ -1,24 +1,23 @@
 #include "highlights/HighlightLists.h"
 
 #include "base/FrameCommand.h"
+#include "base/Trace.h"
 #include "highlights/HighlightMatch.h"
 
 namespace steward {
 namespace {
 
-void LoadList(HighlightList& list, const std::string& path, const HighlightTrace& trace)
+void LoadList(HighlightList& list, const std::string& path)
 {
-    if (trace)
-        trace("HIGHLIGHTS: Loading from \"" + path + "\"\n");
+    Trace("HIGHLIGHTS: Loading from \"%s\"\n", path.c_str());
     list.Load(path.c_str());
 }
 
-void SaveList(const HighlightList& list, const std::string& path, const HighlightTrace& trace)
+void SaveList(const HighlightList& list, const std::string& path)
 {
     if (path.empty())
         return;
-    if (trace)
-        trace("HIGHLIGHTS: Saving to \"" + path + "\"\n");
+    Trace("HIGHLIGHTS: Saving to \"%s\"\n", path.c_str());
     list.Save(path.c_str());
 }
 
@@ -35,18 +34,16 @@ bool HighlightLists::IsNameListed(const char* name) const
     return steward::IsNameListed(NameHighlights, name);
 }
 
-void HighlightLists::Load(const std::string& highlightsPath, const std::string& namesPath,
-                          const HighlightTrace& trace)
+void HighlightLists::Load(const std::string& highlightsPath, const std::string& namesPath)
 {
-    LoadList(StringHighlights, highlightsPath, trace);
-    LoadList(NameHighlights, namesPath, trace);
+    LoadList(StringHighlights, highlightsPath);
+    LoadList(NameHighlights, namesPath);
 }
 
-void HighlightLists::Save(const std::string& highlightsPath, const std::string& namesPath,
-                          const HighlightTrace& trace) const
+void HighlightLists::Save(const std::string& highlightsPath, const std::string& namesPath) const
 {
-    SaveList(StringHighlights, highlightsPath, trace);
-    SaveList(NameHighlights, namesPath, trace);
+    SaveList(StringHighlights, highlightsPath);
+    SaveList(NameHighlights, namesPath);
 }
 
 bool HighlightLists::CopyToHighlights(int command, ClipboardReader& clipboard)

@@ -7,13 +7,11 @@
 #include "highlights/SoundPlayer.h"
 
 #include <cstddef>
-#include <functional>
 #include <string>
 
 namespace steward {
 
 // Receives the debug trace lines of loading and saving, which the user never sees.
-using HighlightTrace = std::function<void(const std::string& line)>;
 
 // The two lists of the session, with the one index that the matcher keeps over both.
 class HighlightLists {
@@ -31,10 +29,8 @@ class HighlightLists {
 
     // Reads StringHighlights from the first file and NameHighlights from the second, telling
     // trace the debug line of each file.
-    void Load(const std::string& highlightsPath, const std::string& namesPath,
-              const HighlightTrace& trace = {});
-    void Save(const std::string& highlightsPath, const std::string& namesPath,
-              const HighlightTrace& trace = {}) const;
+    void Load(const std::string& highlightsPath, const std::string& namesPath);
+    void Save(const std::string& highlightsPath, const std::string& namesPath) const;
 
     // Copy Special: the clipboard's lines go to the list of the command; false for another one.
     bool CopyToHighlights(int command, ClipboardReader& clipboard);

@@ -1,4 +1,5 @@
 #include "KeyboardDoubles.h"
+#include "support/TraceRecorder.h"
 
 #include <gtest/gtest.h>
 
@@ -24,12 +25,13 @@ class EnterRoadTest : public ::testing::Test {
 TEST_F(EnterRoadTest, SendsEchoesEmptiesAndRecordsInOrder)
 {
     kb.line.start = kb.line.end = 0;
+    TraceRecorder trace;
     Enter("look");
     EXPECT_EQ(kb.sink.calls, (Strings{"echo look", "pending", "send look", "record look"}));
     EXPECT_EQ(kb.line.text, "");
     EXPECT_EQ(kb.line.focused, 1);
     EXPECT_STREQ(kb.history.EntryAt(0), "look");
-    EXPECT_EQ(kb.host.traces, Strings{"Exiting MM_ENTER_KEY\n"});
+    EXPECT_EQ(trace.Lines, Strings{"Exiting MM_ENTER_KEY\n"});
 }
 
 TEST_F(EnterRoadTest, ContactAndEscapeRewrites)

@@ -153,7 +153,6 @@ class RecordingHost : public KeyboardHost {
         std::snprintf(answer, capacity, "%s", given.c_str());
         return given != "<cancel>";
     }
-    void Trace(const char* line) override { traces.push_back(line); }
     void PumpFor(int seconds) override
     {
         calls.push_back("pump " + std::to_string(seconds));
@@ -166,7 +165,6 @@ class RecordingHost : public KeyboardHost {
     std::vector<std::string> printed;
     std::vector<std::string> calls;
     std::vector<std::string> asked;
-    std::vector<std::string> traces;
     std::deque<std::string> answers;
     std::string title;
     std::function<void()> onPump;

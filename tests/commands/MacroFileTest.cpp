@@ -1,5 +1,6 @@
 #include "commands/MacroStore.h"
 #include "support/TempFolder.h"
+#include "support/TraceRecorder.h"
 
 #include <gtest/gtest.h>
 
@@ -68,12 +69,11 @@ TEST_F(MacroFileTest, RoundTripTracesItsPathsAndKeeps199CharactersNot200)
     std::string text200(200, 'b');
     store.SetMacro(KEY_ALT, 'A', text199.c_str());
     store.SetMacro(KEY_ALT, 'B', text200.c_str());
-    std::vector<std::string> trace;
-    const MacroTrace record = [&](const std::string& line) { trace.push_back(line); };
-    store.SaveMacros(path.c_str(), record);
+    TraceRecorder trace;
+    store.SaveMacros(path.c_str());
     MacroStore loaded;
-    loaded.LoadMacros(path.c_str(), record);
-    EXPECT_EQ(trace, (std::vector<std::string>{"MACROS: Saving to \"" + path + "\"\n",
+    loaded.LoadMacros(path.c_str());
+    EXPECT_EQ(trace.Lines, (std::vector<std::string>{"MACROS: Saving to \"" + path + "\"\n",
                                                "MACROS: Loading from \"" + path + "\"\n"}));
     EXPECT_EQ(loaded.LookupMacro(KEY_ALT, 'A'), text199);
     EXPECT_STREQ(loaded.LookupMacro(KEY_ALT, 'B'), "");

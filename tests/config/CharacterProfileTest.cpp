@@ -1,4 +1,5 @@
 #include "config/CharacterProfile.h"
+#include "base/Trace.h"
 #include "config/IniStore.h"
 
 #include "support/TempFolder.h"
@@ -16,10 +17,12 @@ using testing::ReadBytes;
 using testing::TempFolder;
 using testing::WriteBytes;
 
-// Records each call of the profile into the rest of the program, in order.
-class RecordingParts : public ProfileParts {
+// Records each call of the profile into the rest of the program, and its trace lines, in order.
+class RecordingParts : public ProfileParts, public TraceSink {
   public:
-    void Trace(const std::string& line) override { calls.push_back("Trace " + line); }
+    RecordingParts() : previous_(SetTraceSink(this)) {}
+    ~RecordingParts() override { SetTraceSink(previous_); }
+    void TraceLine(const char* line) override { calls.push_back(std::string("Trace ") + line); }
     GaugeColors GetGaugeColors(ProfileGauge gauge) override
     {
         calls.push_back(std::string("GetGaugeColors ") + GAUGE_COLOR_KEYS[gauge]);
@@ -57,6 +60,9 @@ class RecordingParts : public ProfileParts {
 
     std::vector<std::string> calls;
     GaugeColors colors[PROFILE_GAUGE_COUNT] = {};
+
+  private:
+    TraceSink* previous_;
 };
 
 class ProfileTest : public ::testing::Test {

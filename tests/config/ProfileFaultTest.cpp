@@ -34,7 +34,6 @@ using ProfileBytes = std::array<std::string, PROFILE_FILES.size()>;
 // The parts of the program that own profile files, saving for real.
 class SavingParts : public ProfileParts {
   public:
-    void Trace(const std::string&) override {}
     GaugeColors GetGaugeColors(ProfileGauge) override { return {}; }
     void SetGaugeColors(ProfileGauge, const GaugeColors&) override {}
     void SetNumLockOff() override {}

@@ -1,6 +1,7 @@
 #include "highlights/HighlightLists.h"
 #include "HighlightDoubles.h"
 #include "base/FrameCommand.h"
+#include "support/TraceRecorder.h"
 
 #include <gtest/gtest.h>
 
@@ -72,25 +73,24 @@ TEST(HighlightListsSession, LoadAndSaveUseTwoFilesAndTraceEach)
     TempFolder folder;
     const std::string strings = folder.File("Hero.Highlights");
     const std::string names = folder.File("Hero.Names");
-    std::vector<std::string> trace;
-    auto record = [&trace](const std::string& line) { trace.push_back(line); };
+    TraceRecorder trace;
     {
         HighlightLists lists;
         lists.StringHighlights.Add("{gong}*Attention", 14);
         lists.NameHighlights.Add("Mara", 0x1E);
-        lists.Save(strings, names, record);
+        lists.Save(strings, names);
     }
-    EXPECT_EQ(trace, (std::vector<std::string>{"HIGHLIGHTS: Saving to \"" + strings + "\"\n",
+    EXPECT_EQ(trace.Lines, (std::vector<std::string>{"HIGHLIGHTS: Saving to \"" + strings + "\"\n",
                                                "HIGHLIGHTS: Saving to \"" + names + "\"\n"}));
     std::ifstream file(names);
     std::string line;
     std::getline(file, line);
     EXPECT_EQ(line, "030 \"Mara\"");
-    trace.clear();
+    trace.Lines.clear();
     HighlightLists lists;
     lists.NameHighlights.Add("stale", 1);
-    lists.Load(strings, names, record);
-    EXPECT_EQ(trace.front(), "HIGHLIGHTS: Loading from \"" + strings + "\"\n");
+    lists.Load(strings, names);
+    EXPECT_EQ(trace.Lines.front(), "HIGHLIGHTS: Loading from \"" + strings + "\"\n");
     EXPECT_STREQ(lists.StringHighlights.Text(0), "{gong}*Attention");
     EXPECT_STREQ(lists.NameHighlights.Text(0), "Mara");
     lists.Load(folder.File("Nobody.Highlights"), folder.File("Nobody.Names"));

@@ -4,7 +4,6 @@
 #include "scripts/qt/ScriptControl.h"
 #include "session/GameLink.h"
 #include "session/Session.h"
-#include "session/Trace.h"
 #include "session/qt/ChildWindowSet.h"
 #include "session/qt/Desktop.h"
 #include "session/qt/FrameWindow.h"
@@ -132,11 +131,6 @@ void PumpFor(int seconds)
     QTimer::singleShot(std::clamp(seconds, SHORTEST_PUMP_SECONDS, LONGEST_PUMP_SECONDS) * 1000,
                        &loop, &QEventLoop::quit);
     loop.exec();
-}
-
-void QtKeyboardHost::Trace(const char* line)
-{
-    steward::Trace("%s", line);
 }
 
 bool QtKeyboardHost::ScriptRunning() const

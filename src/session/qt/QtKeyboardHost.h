@@ -47,7 +47,6 @@ class QtKeyboardHost : public KeyboardHost {
     void PostClose() override;
     bool AskString(const char* title, char* answer, std::size_t capacity) override;
     void PumpFor(int seconds) override;
-    void Trace(const char* line) override;
 
     // CMD_COPY: the command line's selection, or else the active window's.
     void Copy();

@@ -6,7 +6,6 @@
 #include "config/CharacterProfile.h"
 #include "config/IniStore.h"
 #include "highlights/HighlightLists.h"
-#include "session/Trace.h"
 #include "session/qt/ChildWindowSet.h"
 #include "session/qt/FramePlacement.h"
 #include "session/qt/FrameWindow.h"
@@ -21,11 +20,6 @@ void QtProfileHost::Load()
 void QtProfileHost::Save()
 {
     SaveProfile(links_.Files, links_.Profile, *this, links_.Profile.CurrentCharacter);
-}
-
-void QtProfileHost::Trace(const std::string& line)
-{
-    steward::Trace("%s", line.c_str());
 }
 
 GaugeColors QtProfileHost::GetGaugeColors(ProfileGauge gauge)
@@ -57,12 +51,12 @@ void QtProfileHost::SaveChildWindows(const std::string& profilePath)
 
 void QtProfileHost::LoadMacros(const std::string& macrosPath)
 {
-    links_.Macros.LoadMacros(macrosPath.c_str(), [this](const std::string& line) { Trace(line); });
+    links_.Macros.LoadMacros(macrosPath.c_str());
 }
 
 void QtProfileHost::SaveMacros(const std::string& macrosPath)
 {
-    links_.Macros.SaveMacros(macrosPath.c_str(), [this](const std::string& line) { Trace(line); });
+    links_.Macros.SaveMacros(macrosPath.c_str());
 }
 
 void QtProfileHost::SetDefaultMacros(bool newProfile)
@@ -72,14 +66,12 @@ void QtProfileHost::SetDefaultMacros(bool newProfile)
 
 void QtProfileHost::LoadHighlights(const std::string& highlightsPath, const std::string& namesPath)
 {
-    links_.Highlights.Load(highlightsPath, namesPath,
-                           [this](const std::string& line) { Trace(line); });
+    links_.Highlights.Load(highlightsPath, namesPath);
 }
 
 void QtProfileHost::SaveHighlights(const std::string& highlightsPath, const std::string& namesPath)
 {
-    links_.Highlights.Save(highlightsPath, namesPath,
-                           [this](const std::string& line) { Trace(line); });
+    links_.Highlights.Save(highlightsPath, namesPath);
 }
 
 void QtProfileHost::UpdateTitle()

@@ -37,7 +37,6 @@ class QtProfileHost : private ProfileParts {
     void RefreshTitle() { UpdateTitle(); }
 
   private:
-    void Trace(const std::string& line) override;
     GaugeColors GetGaugeColors(ProfileGauge gauge) override;
     void SetGaugeColors(ProfileGauge gauge, const GaugeColors& colors) override;
     void SetNumLockOff() override;

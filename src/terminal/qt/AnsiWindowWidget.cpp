@@ -1,6 +1,6 @@
 #include "terminal/qt/AnsiWindowWidget.h"
 
-#include "session/Trace.h"
+#include "base/Trace.h"
 #include "terminal/Wheel.h"
 #include "terminal/qt/FontRecord.h"
 
