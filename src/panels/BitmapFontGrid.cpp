@@ -37,13 +37,13 @@ int BitmapFontGrid::TextWidth(const char* text) const
     return width;
 }
 
-FontPoint BitmapFontGrid::CenteredOrigin(const GaugeRect& r, const char* text) const
+FontPoint BitmapFontGrid::CenteredOrigin(const Rect& r, const char* text) const
 {
     return {(r.right - r.left - TextWidth(text)) / 2 + r.left,
             (r.bottom - r.top - cellHeight_) / 2 + r.top};
 }
 
-FontPoint BitmapFontGrid::StackedOrigin(const GaugeRect& r, const char* text) const
+FontPoint BitmapFontGrid::StackedOrigin(const Rect& r, const char* text) const
 {
     const int n = static_cast<int>(std::strlen(text));
     return {(r.right - cellWidth_ - r.left) / 2 + r.left,

@@ -43,9 +43,9 @@ class BitmapFontGrid {
     int CellHeight() const { return cellHeight_; }
 
     // DrawTextCentered: where the text starts so that it is centred in r.
-    FontPoint CenteredOrigin(const GaugeRect& r, const char* text) const;
+    FontPoint CenteredOrigin(const Rect& r, const char* text) const;
     // DrawTextStacked: the first character's cell; each next one lies CellHeight lower.
-    FontPoint StackedOrigin(const GaugeRect& r, const char* text) const;
+    FontPoint StackedOrigin(const Rect& r, const char* text) const;
 
   private:
     int cellWidth_;

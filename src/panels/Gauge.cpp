@@ -153,9 +153,9 @@ const char* Gauge::BuildText(char* out, std::size_t size) const
     return out;
 }
 
-GaugeRect Gauge::BarRect(const GaugeRect& client) const
+Rect Gauge::BarRect(const Rect& client) const
 {
-    GaugeRect bar = client;
+    Rect bar = client;
     if (Value <= Minimum) {
         bar.right = bar.left;
         return bar;
@@ -179,7 +179,7 @@ bool Gauge::HasTicks() const
     return !(GaugeFlags & GF_NOTICKS) && Value > Minimum;
 }
 
-void Gauge::TickPositions(const GaugeRect& client, int positions[3]) const
+void Gauge::TickPositions(const Rect& client, int positions[3]) const
 {
     const int width = client.right - client.left;
     const int height = client.bottom - client.top;

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "base/Geometry.h"
+
 #include <cstddef>
 #include <cstdint>
 #include <functional>
@@ -55,13 +57,6 @@ class GaugeView {
     virtual void Repaint(bool erase) = 0;
 };
 
-struct GaugeRect {
-    int left = 0;
-    int top = 0;
-    int right = 0;
-    int bottom = 0;
-};
-
 // Three colours in the order of the profile's Colors record.
 struct GaugeColors {
     std::uint32_t GaugeTextColor = 0;
@@ -114,10 +109,10 @@ class Gauge {
     // The text PaintGauge shows, empty when none; returns out.
     const char* BuildText(char* out, std::size_t size) const;
     // The filled part of the client rectangle; empty (left == right or top == bottom) for no bar.
-    GaugeRect BarRect(const GaugeRect& client) const;
+    Rect BarRect(const Rect& client) const;
     // Whether tick marks are drawn, and where: the three quarter positions along the long side.
     bool HasTicks() const;
-    void TickPositions(const GaugeRect& client, int positions[3]) const;
+    void TickPositions(const Rect& client, int positions[3]) const;
 
   private:
     void Repaint(bool erase);

@@ -41,7 +41,7 @@ const OverlayPlaces* PlacesOf(FigureBitmap bitmap)
 }
 
 // A value far outside the range would reach past the client area; the bar never does.
-GaugeRect ClipTo(GaugeRect bar, const GaugeRect& r)
+Rect ClipTo(Rect bar, const Rect& r)
 {
     bar.left = std::max(bar.left, r.left);
     bar.top = std::max(bar.top, r.top);
@@ -104,7 +104,7 @@ void GaugeHandler::Paint(PanelCanvas& canvas, int width, int height)
     painted_ = Current();
     paintedOnce_ = true;
     DrawBevel(canvas, {0, 0, width, height}, GAUGE_FRAME_COLOR, GAUGE_FRAME_COLOR);
-    const GaugeRect r{1, 1, width - 1, height - 1};
+    const Rect r{1, 1, width - 1, height - 1};
     const GaugeColors& colors = gauge_.Colors();
     canvas.FillColor(r, colors.GaugeBackColor);
     if (gauge_.GetValue() > gauge_.GetMin())

@@ -12,14 +12,14 @@ void DrawText(PanelCanvas& canvas, const BitmapFontGrid& font, int x, int y, con
     }
 }
 
-void DrawTextCentered(PanelCanvas& canvas, const BitmapFontGrid& font, const GaugeRect& r,
+void DrawTextCentered(PanelCanvas& canvas, const BitmapFontGrid& font, const Rect& r,
                       const char* text, std::uint32_t color)
 {
     const FontPoint at = font.CenteredOrigin(r, text);
     DrawText(canvas, font, at.X, at.Y, text, color);
 }
 
-void DrawTextStacked(PanelCanvas& canvas, const BitmapFontGrid& font, const GaugeRect& r,
+void DrawTextStacked(PanelCanvas& canvas, const BitmapFontGrid& font, const Rect& r,
                      const char* text, std::uint32_t color)
 {
     FontPoint at = font.StackedOrigin(r, text);
@@ -28,7 +28,7 @@ void DrawTextStacked(PanelCanvas& canvas, const BitmapFontGrid& font, const Gaug
             canvas.DrawCell(font.CellOf(*text), at.X, at.Y, color);
 }
 
-void DrawBevel(PanelCanvas& canvas, const GaugeRect& r, std::uint32_t first, std::uint32_t second)
+void DrawBevel(PanelCanvas& canvas, const Rect& r, std::uint32_t first, std::uint32_t second)
 {
     canvas.DrawLine(r.left, r.bottom - 1, r.left, r.top, first);
     canvas.DrawLine(r.left, r.top, r.right - 1, r.top, first);

@@ -14,7 +14,7 @@ class PanelCanvas {
   public:
     virtual ~PanelCanvas() = default;
 
-    virtual void FillColor(const GaugeRect& rect, std::uint32_t color) = 0;
+    virtual void FillColor(const Rect& rect, std::uint32_t color) = 0;
     // A one-pixel line from the first point up to, not including, the second.
     virtual void DrawLine(int x0, int y0, int x1, int y1, std::uint32_t color) = 0;
     // One character of the bitmap font with its mask, in color, with a transparent background.
@@ -28,11 +28,11 @@ class PanelCanvas {
 // Bitmap-font text: each character's cell at the running advance; the space draws nothing.
 void DrawText(PanelCanvas& canvas, const BitmapFontGrid& font, int x, int y, const char* text,
               std::uint32_t color);
-void DrawTextCentered(PanelCanvas& canvas, const BitmapFontGrid& font, const GaugeRect& r,
+void DrawTextCentered(PanelCanvas& canvas, const BitmapFontGrid& font, const Rect& r,
                       const char* text, std::uint32_t color);
-void DrawTextStacked(PanelCanvas& canvas, const BitmapFontGrid& font, const GaugeRect& r,
+void DrawTextStacked(PanelCanvas& canvas, const BitmapFontGrid& font, const Rect& r,
                      const char* text, std::uint32_t color);
 // First pen up the left side and along the top, second pen down the right and along the bottom.
-void DrawBevel(PanelCanvas& canvas, const GaugeRect& r, std::uint32_t first, std::uint32_t second);
+void DrawBevel(PanelCanvas& canvas, const Rect& r, std::uint32_t first, std::uint32_t second);
 
 } // namespace steward

@@ -1,29 +1,24 @@
 #pragma once
 
-#include "session/Geometry.h"
+#include "base/Geometry.h"
+#include "panels/ToolButtonPlaces.h"
 
-#include <array>
 #include <cstdint>
 
 namespace steward {
 
 // The panel lies this far out of sight in full-screen mode, still alive and still updated.
 constexpr int HIDDEN_PANEL_TOP = -5000;
-constexpr int TOOL_BUTTON_COUNT = 4;
-constexpr int TOOL_BUTTON_STEP = 26;
 
 // Where everything of the frame lies for one display mode.
 struct FrameLayout {
-    Area CommandLine;
-    Area MdiClient;
+    Rect CommandLine;
+    Rect MdiClient;
     // The panel's vertical origin; with graphics at the bottom it depends on the inner height of
     // the MdiClient, see PanelTopBelow.
     int PanelTop = 0;
-    std::array<Corner, TOOL_BUTTON_COUNT> ToolButtons{};
+    ToolButtonPlaces ToolButtons{};
 };
-
-// The tool buttons at 26 pixel steps from x.
-std::array<Corner, TOOL_BUTTON_COUNT> PlaceToolButtons(int x, int y);
 
 // The frame's client width and height and the height of the CommandLine decide the layout.
 // With graphics at the bottom PanelTop is left 0: the caller adds the MdiClient's inner height with

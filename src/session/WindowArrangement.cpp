@@ -41,13 +41,13 @@ void ArrangeWindows(ChildWindowHost& host, bool force, bool autoArrange)
     if (count == 0)
         return;
 
-    Area client = host.ClientArea();
-    int band = client.Height / 4;
+    const Rect client = host.ClientArea();
+    int band = client.Height() / 4;
     if (count > 1) {
-        int column = client.Width / (count - 1);
+        int column = client.Width() / (count - 1);
         for (int i = 1; i < count; ++i)
-            host.Move(listed[i], {(i - 1) * column, 0, column, band});
-        host.Move(listed[0], {0, band, client.Width, client.Height - band});
+            host.Move(listed[i], RectAt((i - 1) * column, 0, column, band));
+        host.Move(listed[0], RectAt(0, band, client.Width(), client.Height() - band));
     } else {
         host.Maximise(listed[0]);
     }
@@ -57,11 +57,11 @@ void ArrangeWindows(ChildWindowHost& host, bool force, bool autoArrange)
     host.FocusCommandLine();
 }
 
-Area ChildCreationRect(bool autoArrange, int openCount)
+Rect ChildCreationRect(bool autoArrange, int openCount)
 {
     if (autoArrange)
-        return {1, 1, 100, 100};
-    return {25 * openCount, 25 * openCount, 400, 200};
+        return RectAt(1, 1, 100, 100);
+    return RectAt(25 * openCount, 25 * openCount, 400, 200);
 }
 
 std::string OpenWindowsLetters(const std::array<bool, WINDOW_ROWS>& open, int activeRow)

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "session/Geometry.h"
+#include "base/Geometry.h"
 #include "session/WindowTable.h"
 
 #include <array>
@@ -18,10 +18,10 @@ class ChildWindowHost {
     virtual bool IsMaximised(WindowRow row) const = 0;
     virtual void Restore(WindowRow row) = 0;
     virtual void Maximise(WindowRow row) = 0;
-    virtual void Move(WindowRow row, const Area& place) = 0;
+    virtual void Move(WindowRow row, const Rect& place) = 0;
     virtual void Activate(WindowRow row) = 0;
     // The inner area of the MdiClient; its corner is 0, 0.
-    virtual Area ClientArea() const = 0;
+    virtual Rect ClientArea() const = 0;
     virtual void FocusCommandLine() = 0;
 };
 
@@ -31,7 +31,7 @@ class ChildWindowHost {
 void ArrangeWindows(ChildWindowHost& host, bool force, bool autoArrange);
 
 // Where a new child window appears before a stored position is applied.
-Area ChildCreationRect(bool autoArrange, int openCount);
+Rect ChildCreationRect(bool autoArrange, int openCount);
 
 // The letters of "Open Windows" that a profile stores: one per open window, in table order,
 // upper case for the active one.

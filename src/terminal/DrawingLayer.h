@@ -1,18 +1,11 @@
 #pragma once
 
+#include "base/Geometry.h"
 #include "terminal/Palette.h"
 
 #include <cstdint>
 
 namespace steward {
-
-// A rectangle in client pixels; right and bottom lie just outside it.
-struct Rect {
-    std::int32_t left = 0;
-    std::int32_t top = 0;
-    std::int32_t right = 0;
-    std::int32_t bottom = 0;
-};
 
 // The drawing surface that PaintText writes to. The current colours live here, not in the
 // window, so the colour stacks read them back from the surface.

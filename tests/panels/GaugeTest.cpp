@@ -72,7 +72,7 @@ TEST(GaugeTextTest, LongCustomTextIsCut)
 TEST(GaugeGeometryTest, BarLengthFollowsTheValue)
 {
     Gauge wide("Hp:", BoxFlags, true, {});
-    const GaugeRect client{0, 0, 60, 10};
+    const Rect client{0, 0, 60, 10};
     wide.SetMax(100);
     const struct {
         std::int32_t value;
@@ -89,7 +89,7 @@ TEST(GaugeGeometryTest, UprightBarGrowsUpwards)
     Gauge upright("RT:", TimeFlags, false, {});
     upright.SetMax(4000);
     upright.SetValue(1000);
-    const GaugeRect bar = upright.BarRect({0, 0, 10, 40});
+    const Rect bar = upright.BarRect({0, 0, 10, 40});
     EXPECT_EQ(bar.top, 30);
     EXPECT_EQ(bar.bottom, 40);
 }

@@ -14,7 +14,7 @@ namespace {
 // Writes each drawing call as one line of text.
 class RecordingCanvas : public PanelCanvas {
   public:
-    void FillColor(const GaugeRect& r, std::uint32_t color) override
+    void FillColor(const Rect& r, std::uint32_t color) override
     {
         Add("fill %d,%d,%d,%d %06x", r.left, r.top, r.right, r.bottom, color);
     }

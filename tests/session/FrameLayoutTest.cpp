@@ -7,7 +7,7 @@ namespace {
 
 struct LayoutCase {
     std::uint8_t mode;
-    Area mdi;
+    Rect mdi;
     int panelTop;
 };
 
@@ -15,10 +15,10 @@ TEST(LayoutFrame, PlacesTheMdiClientForEachDisplayMode)
 {
     // A client area of 800 by 600 with a command line 20 high.
     const LayoutCase cases[] = {
-        {0, {7, 62, 786, 509}, 0},
-        {1, {7, 4, 786, 509}, 0},
-        {2, {7, 4, 786, 567}, HIDDEN_PANEL_TOP},
-        {9, {7, 62, 786, 509}, 0},
+        {0, RectAt(7, 62, 786, 509), 0},
+        {1, RectAt(7, 4, 786, 509), 0},
+        {2, RectAt(7, 4, 786, 567), HIDDEN_PANEL_TOP},
+        {9, RectAt(7, 62, 786, 509), 0},
     };
     for (const LayoutCase& c : cases) {
         FrameLayout layout = LayoutFrame(800, 600, 20, c.mode);
@@ -31,7 +31,7 @@ TEST(LayoutFrame, CommandLineAndToolButtonsKeepToTheBottomInEveryMode)
 {
     for (std::uint8_t mode = 0; mode < 3; ++mode) {
         FrameLayout layout = LayoutFrame(800, 600, 20, mode);
-        EXPECT_EQ(layout.CommandLine, (Area{6, 576, 680, 20}));
+        EXPECT_EQ(layout.CommandLine, RectAt(6, 576, 680, 20));
         EXPECT_EQ(layout.ToolButtons[0], (Corner{692, 574}));
         EXPECT_EQ(layout.ToolButtons[3], (Corner{692 + 3 * 26, 574}));
     }

@@ -23,14 +23,14 @@ class RecordingChildren : public ChildWindowHost {
         maximised[row] = true;
         calls.push_back("maximise " + std::to_string(row));
     }
-    void Move(WindowRow row, const Area& place) override { moves.push_back({row, place}); }
+    void Move(WindowRow row, const Rect& place) override { moves.push_back({row, place}); }
     void Activate(WindowRow row) override { calls.push_back("activate " + std::to_string(row)); }
-    Area ClientArea() const override { return {0, 0, 800, 402}; }
+    Rect ClientArea() const override { return RectAt(0, 0, 800, 402); }
     void FocusCommandLine() override { calls.push_back("focus"); }
 
     struct MoveCall {
         WindowRow row;
-        Area place;
+        Rect place;
         bool operator==(const MoveCall&) const = default;
     };
     bool open[WINDOW_ROWS] = {};
@@ -56,7 +56,7 @@ TEST(ArrangeWindows, TwoWindowsShareTopBandAndLowerThreeQuarters)
     ArrangeWindows(host, false, true);
     using M = RecordingChildren::MoveCall;
     EXPECT_EQ(host.moves,
-              (std::vector<M>{{THOUGHT_ROW, {0, 0, 800, 100}}, {GAME_ROW, {0, 100, 800, 302}}}));
+              (std::vector<M>{{THOUGHT_ROW, RectAt(0, 0, 800, 100)}, {GAME_ROW, RectAt(0, 100, 800, 302)}}));
 }
 
 TEST(ArrangeWindows, ThreeWindowsSplitTheTopBandInHalves)
@@ -65,9 +65,9 @@ TEST(ArrangeWindows, ThreeWindowsSplitTheTopBandInHalves)
     host.open[GAME_ROW] = host.open[THOUGHT_ROW] = host.open[ARRIVAL_ROW] = true;
     ArrangeWindows(host, false, true);
     using M = RecordingChildren::MoveCall;
-    EXPECT_EQ(host.moves, (std::vector<M>{{THOUGHT_ROW, {0, 0, 400, 100}},
-                                          {ARRIVAL_ROW, {400, 0, 400, 100}},
-                                          {GAME_ROW, {0, 100, 800, 302}}}));
+    EXPECT_EQ(host.moves, (std::vector<M>{{THOUGHT_ROW, RectAt(0, 0, 400, 100)},
+                                          {ARRIVAL_ROW, RectAt(400, 0, 400, 100)},
+                                          {GAME_ROW, RectAt(0, 100, 800, 302)}}));
 }
 
 TEST(ArrangeWindows, WithoutGameTheFirstOpenRowTakesTheLowerPart)
@@ -77,7 +77,7 @@ TEST(ArrangeWindows, WithoutGameTheFirstOpenRowTakesTheLowerPart)
     ArrangeWindows(host, false, true);
     using M = RecordingChildren::MoveCall;
     EXPECT_EQ(host.moves,
-              (std::vector<M>{{ARRIVAL_ROW, {0, 0, 800, 100}}, {THOUGHT_ROW, {0, 100, 800, 302}}}));
+              (std::vector<M>{{ARRIVAL_ROW, RectAt(0, 0, 800, 100)}, {THOUGHT_ROW, RectAt(0, 100, 800, 302)}}));
     EXPECT_EQ(host.calls, (std::vector<std::string>{"focus"}));
 }
 
@@ -111,9 +111,9 @@ TEST(ArrangeWindows, NoWindowNoWork)
 
 TEST(ChildCreationRect, StepsDownWhenNotArranged)
 {
-    EXPECT_EQ(ChildCreationRect(true, 2), (Area{1, 1, 100, 100}));
-    EXPECT_EQ(ChildCreationRect(false, 0), (Area{0, 0, 400, 200}));
-    EXPECT_EQ(ChildCreationRect(false, 2), (Area{50, 50, 400, 200}));
+    EXPECT_EQ(ChildCreationRect(true, 2), RectAt(1, 1, 100, 100));
+    EXPECT_EQ(ChildCreationRect(false, 0), RectAt(0, 0, 400, 200));
+    EXPECT_EQ(ChildCreationRect(false, 2), RectAt(50, 50, 400, 200));
 }
 
 std::vector<WindowRow> Plan(const char* letters)

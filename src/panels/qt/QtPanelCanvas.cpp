@@ -15,7 +15,7 @@ int StepTowards(int from, int to)
 
 } // namespace
 
-void QtPanelCanvas::FillColor(const GaugeRect& rect, std::uint32_t color)
+void QtPanelCanvas::FillColor(const Rect& rect, std::uint32_t color)
 {
     if (rect.right > rect.left && rect.bottom > rect.top)
         painter_.fillRect(rect.left, rect.top, rect.right - rect.left, rect.bottom - rect.top,

@@ -21,7 +21,7 @@ class QtPanelCanvas : public PanelCanvas {
     {
     }
 
-    void FillColor(const GaugeRect& rect, std::uint32_t color) override;
+    void FillColor(const Rect& rect, std::uint32_t color) override;
     void DrawLine(int x0, int y0, int x1, int y1, std::uint32_t color) override;
     void DrawCell(const FontCell& cell, int x, int y, std::uint32_t color) override;
     void DrawBoxText(int x, int y, const char* text, std::uint32_t color) override;

@@ -104,11 +104,11 @@ void StatusPanelView::AddLabel(const char* text, int x, int y, int width, std::u
         resources_.Font().Grid().CellHeight());
 }
 
-void StatusPanelView::Place(const FrameLayout& layout)
+void StatusPanelView::Place(int panelTop, const ToolButtonPlaces& buttons)
 {
     for (const Placed& p : placed_)
-        p.Control->move(p.X, layout.PanelTop + p.Y);
-    buttons_.Place(layout.ToolButtons);
+        p.Control->move(p.X, panelTop + p.Y);
+    buttons_.Place(buttons);
 }
 
 } // namespace steward

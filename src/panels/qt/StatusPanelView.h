@@ -4,7 +4,7 @@
 #include "panels/StatusPanel.h"
 #include "panels/qt/PanelResources.h"
 #include "panels/qt/ToolButtons.h"
-#include "session/FrameLayout.h"
+#include "panels/ToolButtonPlaces.h"
 
 #include <QWidget>
 
@@ -24,8 +24,8 @@ class StatusPanelView {
     // The panel's states outlive their windows: they stop asking for repaints here.
     ~StatusPanelView();
 
-    // LayoutFrame's part: the panel at PanelTop, the tool buttons at their places.
-    void Place(const FrameLayout& layout);
+    // The panel with its top at panelTop, the tool buttons at their places.
+    void Place(int panelTop, const ToolButtonPlaces& buttons);
     ToolButtons& Buttons() { return buttons_; }
 
   private:

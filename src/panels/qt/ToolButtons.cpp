@@ -60,7 +60,7 @@ ToolButtons::ToolButtons(QWidget& parent, PanelResources& resources,
     }
 }
 
-void ToolButtons::Place(const std::array<Corner, TOOL_BUTTON_COUNT>& places)
+void ToolButtons::Place(const ToolButtonPlaces& places)
 {
     for (int i = 0; i < TOOL_BUTTON_COUNT; ++i)
         buttons_[i]->move(places[i].X, places[i].Y);

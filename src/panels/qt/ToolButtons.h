@@ -1,7 +1,7 @@
 #pragma once
 
 #include "panels/qt/BitmapImage.h"
-#include "session/FrameLayout.h"
+#include "panels/ToolButtonPlaces.h"
 
 #include <QAbstractButton>
 #include <QString>
@@ -33,7 +33,7 @@ class ToolButtons {
   public:
     ToolButtons(QWidget& parent, PanelResources& resources, std::function<void(int)> command);
     // PlaceToolButtons: each button at its place, in creation order.
-    void Place(const std::array<Corner, TOOL_BUTTON_COUNT>& places);
+    void Place(const ToolButtonPlaces& places);
     ToolButton& Button(int i) { return *buttons_[i]; }
 
   private:

@@ -50,7 +50,7 @@ void ChildWindowSet::OpenCommand(WindowRow row)
     FocusCommandLine();
 }
 
-QMdiSubWindow* ChildWindowSet::AddChild(WindowRow row, AnsiWindowWidget* view, const Area& place)
+QMdiSubWindow* ChildWindowSet::AddChild(WindowRow row, AnsiWindowWidget* view, const Rect& place)
 {
     auto* sub = new QMdiSubWindow(nullptr);
     sub->setWidget(view);
@@ -58,7 +58,7 @@ QMdiSubWindow* ChildWindowSet::AddChild(WindowRow row, AnsiWindowWidget* view, c
     sub->setWindowTitle(QString::fromLatin1(WindowTable[row].Name));
     sub->setWindowIcon(QIcon(QStringLiteral(":/AppIcon.png")));
     links_.Area.addSubWindow(sub);
-    sub->setGeometry(place.X, place.Y, place.Width, place.Height);
+    sub->setGeometry(place.left, place.top, place.Width(), place.Height());
     sub->show();
     rows_[row] = {sub, view};
     connect(view, &QObject::destroyed, this, [this, row] { Forget(row); });
@@ -143,10 +143,10 @@ void ChildWindowSet::Maximise(WindowRow row)
         Child(row)->showMaximized();
 }
 
-void ChildWindowSet::Move(WindowRow row, const Area& place)
+void ChildWindowSet::Move(WindowRow row, const Rect& place)
 {
     if (Exists(row))
-        Child(row)->setGeometry(place.X, place.Y, place.Width, place.Height);
+        Child(row)->setGeometry(place.left, place.top, place.Width(), place.Height());
 }
 
 void ChildWindowSet::Activate(WindowRow row)
@@ -155,7 +155,7 @@ void ChildWindowSet::Activate(WindowRow row)
         links_.Area.setActiveSubWindow(Child(row));
 }
 
-Area ChildWindowSet::ClientArea() const
+Rect ChildWindowSet::ClientArea() const
 {
     return links_.Area.ClientArea();
 }

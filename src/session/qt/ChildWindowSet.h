@@ -62,9 +62,9 @@ class ChildWindowSet : public QObject, public ChildWindowHost {
     bool IsMaximised(WindowRow row) const override;
     void Restore(WindowRow row) override;
     void Maximise(WindowRow row) override;
-    void Move(WindowRow row, const Area& place) override;
+    void Move(WindowRow row, const Rect& place) override;
     void Activate(WindowRow row) override;
-    Area ClientArea() const override;
+    Rect ClientArea() const override;
     void FocusCommandLine() override;
 
   protected:
@@ -77,7 +77,7 @@ class ChildWindowSet : public QObject, public ChildWindowHost {
         AnsiWindowWidget* View = nullptr;
     };
 
-    QMdiSubWindow* AddChild(WindowRow row, AnsiWindowWidget* view, const Area& place);
+    QMdiSubWindow* AddChild(WindowRow row, AnsiWindowWidget* view, const Rect& place);
     // The row is empty again; the others are arranged unless the area is going.
     void Forget(WindowRow row);
     // Where core reads the row's window.

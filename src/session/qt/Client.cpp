@@ -49,7 +49,7 @@ Client::Client(ClientOptions options, Desktop& desktop)
     handlers.Wheel = [this](bool shift, int amount) { OnWheel(shift, amount); };
     handlers.Resized = [this] {
         if (panelView_)
-            panelView_->Place(frame_->Layout());
+            panelView_->Place(frame_->Layout().PanelTop, frame_->Layout().ToolButtons);
         windows_->Arrange(false);
     };
     frame_ = std::make_unique<FrameWindow>(std::move(handlers));

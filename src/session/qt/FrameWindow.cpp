@@ -81,14 +81,14 @@ void FrameWindow::LayoutFrame()
 {
     const int h = CommandLineHeight();
     layout_ = steward::LayoutFrame(surface_->width(), surface_->height(), h, displayMode_);
-    const Area& mdi = layout_.MdiClient;
-    mdi_->setGeometry(mdi.X, mdi.Y, mdi.Width, mdi.Height);
+    const Rect& mdi = layout_.MdiClient;
+    mdi_->setGeometry(mdi.left, mdi.top, mdi.Width(), mdi.Height());
     if (displayMode_ == DISPLAY_GRAPHICS_BOTTOM)
         layout_.PanelTop = PanelTopBelow(mdi_->contentsRect().height());
     surface_->SetEdge(mdi_->geometry());
     if (commandLine_) {
-        const Area& line = layout_.CommandLine;
-        commandLine_->setGeometry(line.X, line.Y, line.Width, line.Height);
+        const Rect& line = layout_.CommandLine;
+        commandLine_->setGeometry(line.left, line.top, line.Width(), line.Height());
     }
     surface_->update();
     if (handlers_.Resized)

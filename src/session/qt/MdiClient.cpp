@@ -89,11 +89,11 @@ void MdiClient::Tile(bool stacked)
     }
 }
 
-Area MdiClient::ClientArea() const
+Rect MdiClient::ClientArea() const
 {
     // The viewport follows a move of the area only at its next resize event.
     const QRect inner = contentsRect();
-    return {0, 0, inner.width(), inner.height()};
+    return RectAt(0, 0, inner.width(), inner.height());
 }
 
 void MdiClient::FocusCommandLine()

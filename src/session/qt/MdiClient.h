@@ -1,6 +1,6 @@
 #pragma once
 
-#include "session/Geometry.h"
+#include "base/Geometry.h"
 
 #include <QImage>
 #include <QMdiArea>
@@ -30,7 +30,7 @@ class MdiClient : public QMdiArea {
     void Cascade();
 
     // The inner area; its corner is 0, 0.
-    Area ClientArea() const;
+    Rect ClientArea() const;
     void FocusCommandLine();
 
   protected:

@@ -61,9 +61,7 @@ TEST(GaugeMenuTest, PickedColoursRepaintTheGaugeAndLeaveTheBoxesAlone)
     QWidget frame;
     frame.resize(800, 120);
     StatusPanelView view(frame, panel, [](int) {});
-    FrameLayout layout;
-    layout.PanelTop = 10;
-    view.Place(layout);
+    view.Place(10, {});
     panel.Hp.SetMax(100);
     panel.Hp.SetValue(40);
     frame.show();

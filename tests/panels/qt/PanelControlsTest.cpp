@@ -143,9 +143,7 @@ TEST_F(PanelControlsTest, ARecordPaintsOnlyWhatChanged)
     QWidget frame;
     frame.resize(800, 120);
     StatusPanelView view(frame, panel, [](int) {});
-    FrameLayout layout;
-    layout.PanelTop = 10;
-    view.Place(layout);
+    view.Place(10, {});
     frame.show();
     ASSERT_TRUE(QTest::qWaitForWindowExposed(&frame));
     QApplication::processEvents();

@@ -210,13 +210,13 @@ TEST_F(ClientCommandsTest, WindowMenuOpensWindowsAndArrangesThem)
     EXPECT_FALSE(windows.Exists(ARRIVAL_ROW));
     client->OnCommand(CMD_OPEN_ARRIVAL_WINDOW);
     ASSERT_NE(client->State().Windows.ArrivalWindow, nullptr);
-    const Area area = windows.ClientArea();
+    const Rect area = windows.ClientArea();
     EXPECT_EQ(windows.Child(ARRIVAL_ROW)->geometry(),
-              QRect(area.Width / 2, 0, area.Width / 2, area.Height / 4));
+              QRect(area.Width() / 2, 0, area.Width() / 2, area.Height() / 4));
 
     windows.Child(THOUGHT_ROW)->close();
     EXPECT_EQ(client->State().Windows.ThoughtWindow, nullptr);
-    EXPECT_EQ(windows.Child(ARRIVAL_ROW)->geometry(), QRect(0, 0, area.Width, area.Height / 4));
+    EXPECT_EQ(windows.Child(ARRIVAL_ROW)->geometry(), QRect(0, 0, area.Width(), area.Height() / 4));
 }
 
 TEST_F(ClientCommandsTest, TextWindowsCloseAndReopenAgainAndAgainInEveryLayout)
@@ -252,11 +252,11 @@ TEST_F(ClientCommandsTest, CascadeLeavesEachWindowLargeEnoughToRead)
     client->OnCommand(CMD_OPEN_ARRIVAL_WINDOW);
     client->OnCommand(CMD_CASCADE);
     MdiClient& mdi = client->Frame().Mdi();
-    const Area area = mdi.ClientArea();
+    const Rect area = mdi.ClientArea();
     std::set<int> corners;
     for (QMdiSubWindow* sub : mdi.subWindowList()) {
-        EXPECT_GE(sub->width(), area.Width / 2);
-        EXPECT_GE(sub->height(), area.Height / 2);
+        EXPECT_GE(sub->width(), area.Width() / 2);
+        EXPECT_GE(sub->height(), area.Height() / 2);
         corners.insert(sub->y());
     }
     EXPECT_EQ(corners.size(), 3u);

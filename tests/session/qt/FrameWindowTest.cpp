@@ -95,8 +95,8 @@ TEST_F(FrameWindowTest, LayoutFollowsTheDisplayMode)
         frame->SetDisplayMode(mode);
         const FrameLayout expected = LayoutFrame(surface.width(), surface.height(), h, mode);
         const QRect mdi = frame->Mdi().geometry();
-        EXPECT_EQ(mdi, QRect(expected.MdiClient.X, expected.MdiClient.Y, expected.MdiClient.Width,
-                             expected.MdiClient.Height))
+        const Rect& place = expected.MdiClient;
+        EXPECT_EQ(mdi, QRect(place.left, place.top, place.Width(), place.Height()))
             << int(mode);
         EXPECT_EQ(line.geometry().y(), surface.height() - h - 4);
     }
