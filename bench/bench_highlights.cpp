@@ -4,7 +4,6 @@
 #include "connection/GameSocket.h"
 #include "connection/PacketDump.h"
 #include "highlights/HighlightLists.h"
-#include "highlights/HighlightMatch.h"
 #include "panels/StatusPanel.h"
 #include "scripts/ScriptWait.h"
 #include "scripts/Tokenizer.h"
@@ -104,25 +103,6 @@ void BM_ApplyHighlights(benchmark::State& state)
     state.SetBytesProcessed(static_cast<std::int64_t>(state.iterations() * TotalBytes(lines)));
 }
 
-// The same work through the plain form, which reads every entry for every line.
-void BM_ApplyHighlightsPlain(benchmark::State& state)
-{
-    const std::vector<std::string> lines = bench::PlayLines(STREAM_LINES);
-    HighlightLists lists;
-    FillLists(lists, static_cast<std::size_t>(state.range(0)));
-    QuietSounds sounds;
-    static char buffer[LINE_COPY_SIZE];
-    for (auto _ : state) {
-        for (const std::string& line : lines) {
-            std::memcpy(buffer, line.c_str(), line.size() + 1);
-            ApplyHighlights(lists.StringHighlights, buffer, sizeof buffer, false, sounds);
-            ApplyHighlights(lists.NameHighlights, buffer, sizeof buffer, false, sounds);
-            benchmark::DoNotOptimize(buffer);
-        }
-    }
-    state.SetBytesProcessed(static_cast<std::int64_t>(state.iterations() * TotalBytes(lines)));
-}
-
 class NoQueue : public FrameQueue {
   public:
     void PostCommand(int) override {}
@@ -179,7 +159,6 @@ void BM_ReceiveWithHighlights(benchmark::State& state)
 }
 
 BENCHMARK(BM_ApplyHighlights)->Arg(0)->Arg(100)->Arg(1000)->Arg(4096);
-BENCHMARK(BM_ApplyHighlightsPlain)->Arg(0)->Arg(100)->Arg(1000)->Arg(4096);
 BENCHMARK(BM_ReceiveWithHighlights)->Arg(0)->Arg(100)->Arg(1000)->Arg(4096);
 
 } // namespace

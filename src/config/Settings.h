@@ -15,7 +15,7 @@ constexpr std::uint8_t DISPLAY_GRAPHICS_TOP = 0;
 constexpr std::uint8_t DISPLAY_GRAPHICS_BOTTOM = 1;
 constexpr std::uint8_t DISPLAY_FULL_SCREEN = 2;
 
-// Bounds of the largest single read from the socket.
+// Bounds of the largest single read from the socket; the receive buffers hold RECEIVE_CHUNK_MAX.
 constexpr std::int32_t RECEIVE_CHUNK_MIN = 256;
 constexpr std::int32_t RECEIVE_CHUNK_MAX = 2048;
 

@@ -24,7 +24,7 @@ class SocketListener {
   public:
     virtual ~SocketListener() = default;
 
-    // The largest block that the next read may deliver.
+    // The largest block that the next read may deliver: 1 to RECEIVE_CHUNK_MAX bytes.
     virtual std::size_t BlockSize() const = 0;
     // One received block of at most BlockSize bytes (FD_READ and one recv).
     virtual void ReceiveBlock(const char* bytes, std::size_t length) = 0;

@@ -34,7 +34,7 @@ std::size_t StreamDecoder::ReceiveChunkSize() const
 void StreamDecoder::HandleSocketEvent(const char* bytes, std::size_t length)
 {
     do {
-        const std::size_t block = std::min(length, RECEIVE_BUFFER_SIZE);
+        const std::size_t block = std::min<std::size_t>(length, RECEIVE_CHUNK_MAX);
         HandleBlock(bytes, block);
         bytes += block;
         length -= block;

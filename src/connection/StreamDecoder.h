@@ -10,9 +10,6 @@ namespace steward {
 
 class GameLineSink;
 
-// The largest block that one read may deliver.
-constexpr std::size_t RECEIVE_BUFFER_SIZE = 2048;
-static_assert(RECEIVE_CHUNK_MAX <= static_cast<std::int32_t>(RECEIVE_BUFFER_SIZE));
 // A line is cut after this many raw bytes, even while partial lines are held.
 constexpr std::size_t LINE_BUFFER_SIZE = 4097;
 // Decoded output of one line.
@@ -24,7 +21,7 @@ static_assert(DECODED_LINE_SIZE >= LINE_BUFFER_SIZE + 2 + 1);
 
 // Everything that survives from one received block to the next; allocated once.
 struct DecoderState {
-    char ReceiveBuffer[RECEIVE_BUFFER_SIZE + 1];
+    char ReceiveBuffer[RECEIVE_CHUNK_MAX + 1];
     char LineBuffer[LINE_BUFFER_SIZE + 1];
     std::int32_t LineLength = 0;
     char DecodedLine[DECODED_LINE_SIZE];
@@ -38,7 +35,7 @@ class StreamDecoder {
     StreamDecoder(GameLineSink& sink, PacketDump& dump, const Settings& settings);
 
     // The work of one FD_READ on the bytes that one read returned: dump, assemble, decode.
-    // A block longer than RECEIVE_BUFFER_SIZE is taken as several blocks in a row.
+    // A block longer than RECEIVE_CHUNK_MAX is taken as several blocks in a row.
     void HandleSocketEvent(const char* bytes, std::size_t length);
     // True once the server sends status records: a block's tail then waits for its line end.
     void SetHoldPartialLines(bool hold) { state_.HoldPartialLines = hold; }
@@ -50,7 +47,8 @@ class StreamDecoder {
 
     // The number of bytes waiting for the rest of their line.
     std::int32_t LineLength() const { return state_.LineLength; }
-    // The largest read that the socket may make for the next block, kept within the buffer.
+    // The largest read that the socket may make for the next block: the setting, kept within
+    // 1..RECEIVE_CHUNK_MAX however it was changed.
     std::size_t ReceiveChunkSize() const;
 
   private:

@@ -2,7 +2,9 @@
 
 #include "base/FrameCommand.h"
 #include "base/Trace.h"
-#include "highlights/HighlightMatch.h"
+#include "highlights/HighlightRule.h"
+
+#include <cstring>
 
 namespace steward {
 namespace {
@@ -21,6 +23,26 @@ void SaveList(const HighlightList& list, const std::string& path)
     list.Save(path.c_str());
 }
 
+// True when an entry of the list occurs in name, case-sensitively, on word boundaries unless
+// the entry says "*".
+bool IsListed(const HighlightList& list, const char* name)
+{
+    const std::size_t length = std::strlen(name);
+    for (std::size_t slot = 0; slot < HIGHLIGHT_SLOTS; ++slot) {
+        HighlightRule rule;
+        if (!ParseHighlightRule(list.Text(slot), list.Color(slot), rule))
+            return false;
+        for (const char* hit = std::strstr(name, rule.Match); hit;
+             hit = std::strstr(hit + 1, rule.Match)) {
+            const std::size_t start = static_cast<std::size_t>(hit - name);
+            if (!rule.WholeWord ||
+                StandsOnWordBoundaries(name, length, start, start + rule.MatchLength))
+                return true;
+        }
+    }
+    return false;
+}
+
 } // namespace
 
 void HighlightLists::ApplyHighlights(char* line, std::size_t capacity, bool squelch,
@@ -31,7 +53,7 @@ void HighlightLists::ApplyHighlights(char* line, std::size_t capacity, bool sque
 
 bool HighlightLists::IsNameListed(const char* name) const
 {
-    return steward::IsNameListed(NameHighlights, name);
+    return IsListed(NameHighlights, name);
 }
 
 void HighlightLists::Load(const std::string& highlightsPath, const std::string& namesPath)

@@ -98,9 +98,9 @@ TEST_F(LineAssemblyTest, HoldCanBeSwitchedOnBetweenBlocks)
 
 TEST_F(LineAssemblyTest, OverlongReadIsTakenAsSeveralBlocks)
 {
-    const std::string bytes(RECEIVE_BUFFER_SIZE + 10, 'a');
+    const std::string bytes(RECEIVE_CHUNK_MAX + 10, 'a');
     EXPECT_EQ(Receive({bytes}, false),
-              (Lines{std::string(RECEIVE_BUFFER_SIZE, 'a'), std::string(10, 'a')}));
+              (Lines{std::string(RECEIVE_CHUNK_MAX, 'a'), std::string(10, 'a')}));
 }
 
 TEST_F(LineAssemblyTest, ReadSizeStaysWithinTheReceiveBuffer)

@@ -1,5 +1,6 @@
-#include "highlights/HighlightMatch.h"
 #include "HighlightDoubles.h"
+#include "PlainHighlights.h"
+#include "highlights/HighlightLists.h"
 #include "highlights/HighlightMatcher.h"
 
 #include <gtest/gtest.h>
@@ -259,9 +260,9 @@ TEST(NameListed, NamesAreSearchedCaseSensitively)
         {{}, "Mara", false},
     };
     for (const auto& c : cases) {
-        HighlightList list;
-        Fill(list, c.entries);
-        EXPECT_EQ(IsNameListed(list, c.name), c.listed) << c.name;
+        HighlightLists lists;
+        Fill(lists.NameHighlights, c.entries);
+        EXPECT_EQ(lists.IsNameListed(c.name), c.listed) << c.name;
     }
 }
 

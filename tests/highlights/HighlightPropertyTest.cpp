@@ -1,6 +1,6 @@
 #include "HighlightDoubles.h"
 #include "highlights/HighlightLists.h"
-#include "highlights/HighlightMatch.h"
+#include "PlainHighlights.h"
 
 #include <gtest/gtest.h>
 

@@ -1,7 +1,5 @@
 #include "connection/qt/QtGameSocket.h"
 
-#include <algorithm>
-
 namespace steward {
 
 namespace {
@@ -10,7 +8,7 @@ namespace {
 constexpr int CLOSE_FLUSH_MS = 2000;
 // Qt reads ahead of us only this far; beyond it the bytes wait in the kernel and TCP slows the
 // server down, so a flood faster than the client can show never piles up in memory.
-constexpr qint64 READ_AHEAD_LIMIT = 16 * QtGameSocket::MAX_BLOCK_SIZE;
+constexpr qint64 READ_AHEAD_LIMIT = 16 * RECEIVE_CHUNK_MAX;
 
 } // namespace
 
@@ -70,8 +68,7 @@ void QtGameSocket::ReadOneBlock()
     readScheduled_ = false;
     if (!open_)
         return;
-    std::size_t size = std::clamp<std::size_t>(listener_.BlockSize(), 1, MAX_BLOCK_SIZE);
-    qint64 n = socket_.read(block_, static_cast<qint64>(size));
+    qint64 n = socket_.read(block_, static_cast<qint64>(listener_.BlockSize()));
     if (n > 0)
         listener_.ReceiveBlock(block_, static_cast<std::size_t>(n));
     if (!open_)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "config/Settings.h"
 #include "connection/GameSocket.h"
 
 #include <QObject>
@@ -12,9 +13,6 @@ namespace steward {
 class QtGameSocket : public QObject, public GameSocket {
     Q_OBJECT
   public:
-    // A read never asks for more than this, whatever the listener allows.
-    static constexpr std::size_t MAX_BLOCK_SIZE = 2048;
-
     explicit QtGameSocket(SocketListener& listener, QObject* parent = nullptr);
 
     bool Open(const char* host, std::uint16_t port, int timeoutMilliseconds) override;
@@ -31,7 +29,7 @@ class QtGameSocket : public QObject, public GameSocket {
     bool open_ = false;
     bool readScheduled_ = false;
     bool remoteClosed_ = false;
-    char block_[MAX_BLOCK_SIZE];
+    char block_[RECEIVE_CHUNK_MAX];
 };
 
 } // namespace steward
