@@ -7,7 +7,7 @@ namespace steward {
 namespace {
 
 class StandardErrorSink : public TraceSink {
-public:
+  public:
     void TraceLine(const char* line) override { std::fputs(line, stderr); }
 };
 

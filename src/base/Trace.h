@@ -5,7 +5,7 @@ namespace steward {
 // Trace lines are for developers. Every part of the program writes them through Trace, and one
 // sink takes them: standard error while tracing is switched on, or a test's recorder.
 class TraceSink {
-public:
+  public:
     virtual ~TraceSink() = default;
     virtual void TraceLine(const char* line) = 0;
 };

@@ -13,11 +13,11 @@
 namespace steward {
 
 // ApplyHighlights from an index of one list, or of two lists run one after the other, with the
-// same bytes and sounds as running the entries one by one in slot order. The entries are parsed and indexed again only when
-// a list has changed; a line is scanned once for the match texts of all lists, and only the
-// entries that occur in it run the exact algorithm. Inserting ColorCodes never creates an
-// occurrence of a text free of them, so the scan of the line as it arrives serves every list,
-// and the entries whose text holds a ColorCode byte are the only ones run on every line.
+// same bytes and sounds as running the entries one by one in slot order. The entries are parsed and
+// indexed again only when a list has changed; a line is scanned once for the match texts of all
+// lists, and only the entries that occur in it run the exact algorithm. Inserting ColorCodes never
+// creates an occurrence of a text free of them, so the scan of the line as it arrives serves every
+// list, and the entries whose text holds a ColorCode byte are the only ones run on every line.
 class HighlightMatcher {
   public:
     explicit HighlightMatcher(const HighlightList& list);

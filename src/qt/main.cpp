@@ -1,5 +1,5 @@
-#include "config/ConfigFiles.h"
 #include "base/Trace.h"
+#include "config/ConfigFiles.h"
 #include "session/qt/Client.h"
 #include "session/qt/Desktop.h"
 #include "session/qt/ProgramFiles.h"

@@ -74,7 +74,7 @@ TEST_F(MacroFileTest, RoundTripTracesItsPathsAndKeeps199CharactersNot200)
     MacroStore loaded;
     loaded.LoadMacros(path.c_str());
     EXPECT_EQ(trace.Lines, (std::vector<std::string>{"MACROS: Saving to \"" + path + "\"\n",
-                                               "MACROS: Loading from \"" + path + "\"\n"}));
+                                                     "MACROS: Loading from \"" + path + "\"\n"}));
     EXPECT_EQ(loaded.LookupMacro(KEY_ALT, 'A'), text199);
     EXPECT_STREQ(loaded.LookupMacro(KEY_ALT, 'B'), "");
 }

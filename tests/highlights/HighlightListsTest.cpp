@@ -81,7 +81,7 @@ TEST(HighlightListsSession, LoadAndSaveUseTwoFilesAndTraceEach)
         lists.Save(strings, names);
     }
     EXPECT_EQ(trace.Lines, (std::vector<std::string>{"HIGHLIGHTS: Saving to \"" + strings + "\"\n",
-                                               "HIGHLIGHTS: Saving to \"" + names + "\"\n"}));
+                                                     "HIGHLIGHTS: Saving to \"" + names + "\"\n"}));
     std::ifstream file(names);
     std::string line;
     std::getline(file, line);

@@ -1,6 +1,6 @@
 #include "HighlightDoubles.h"
-#include "highlights/HighlightLists.h"
 #include "PlainHighlights.h"
+#include "highlights/HighlightLists.h"
 
 #include <gtest/gtest.h>
 

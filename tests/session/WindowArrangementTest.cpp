@@ -55,8 +55,8 @@ TEST(ArrangeWindows, TwoWindowsShareTopBandAndLowerThreeQuarters)
     host.open[GAME_ROW] = host.open[THOUGHT_ROW] = true;
     ArrangeWindows(host, false, true);
     using M = RecordingChildren::MoveCall;
-    EXPECT_EQ(host.moves,
-              (std::vector<M>{{THOUGHT_ROW, RectAt(0, 0, 800, 100)}, {GAME_ROW, RectAt(0, 100, 800, 302)}}));
+    EXPECT_EQ(host.moves, (std::vector<M>{{THOUGHT_ROW, RectAt(0, 0, 800, 100)},
+                                          {GAME_ROW, RectAt(0, 100, 800, 302)}}));
 }
 
 TEST(ArrangeWindows, ThreeWindowsSplitTheTopBandInHalves)
@@ -76,8 +76,8 @@ TEST(ArrangeWindows, WithoutGameTheFirstOpenRowTakesTheLowerPart)
     host.open[THOUGHT_ROW] = host.open[ARRIVAL_ROW] = true;
     ArrangeWindows(host, false, true);
     using M = RecordingChildren::MoveCall;
-    EXPECT_EQ(host.moves,
-              (std::vector<M>{{ARRIVAL_ROW, RectAt(0, 0, 800, 100)}, {THOUGHT_ROW, RectAt(0, 100, 800, 302)}}));
+    EXPECT_EQ(host.moves, (std::vector<M>{{ARRIVAL_ROW, RectAt(0, 0, 800, 100)},
+                                          {THOUGHT_ROW, RectAt(0, 100, 800, 302)}}));
     EXPECT_EQ(host.calls, (std::vector<std::string>{"focus"}));
 }
 

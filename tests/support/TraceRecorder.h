@@ -9,7 +9,7 @@ namespace steward {
 
 // Takes the program's trace lines while it lives, then gives the previous sink back.
 class TraceRecorder : public TraceSink {
-public:
+  public:
     TraceRecorder() : previous_(SetTraceSink(this)) {}
     ~TraceRecorder() override { SetTraceSink(previous_); }
     TraceRecorder(const TraceRecorder&) = delete;
@@ -19,7 +19,7 @@ public:
 
     std::vector<std::string> Lines;
 
-private:
+  private:
     TraceSink* previous_;
 };
 

@@ -2,9 +2,9 @@
 
 #include "panels/MultiControl.h"
 #include "panels/StatusPanel.h"
+#include "panels/ToolButtonPlaces.h"
 #include "panels/qt/PanelResources.h"
 #include "panels/qt/ToolButtons.h"
-#include "panels/ToolButtonPlaces.h"
 
 #include <QWidget>
 

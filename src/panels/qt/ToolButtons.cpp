@@ -1,8 +1,8 @@
 #include "panels/qt/ToolButtons.h"
 
+#include "base/FrameCommand.h"
 #include "panels/MultiControl.h"
 #include "panels/qt/QtPanelCanvas.h"
-#include "base/FrameCommand.h"
 
 #include <QPainter>
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "panels/qt/BitmapImage.h"
 #include "panels/ToolButtonPlaces.h"
+#include "panels/qt/BitmapImage.h"
 
 #include <QAbstractButton>
 #include <QString>

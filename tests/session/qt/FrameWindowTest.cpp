@@ -96,8 +96,7 @@ TEST_F(FrameWindowTest, LayoutFollowsTheDisplayMode)
         const FrameLayout expected = LayoutFrame(surface.width(), surface.height(), h, mode);
         const QRect mdi = frame->Mdi().geometry();
         const Rect& place = expected.MdiClient;
-        EXPECT_EQ(mdi, QRect(place.left, place.top, place.Width(), place.Height()))
-            << int(mode);
+        EXPECT_EQ(mdi, QRect(place.left, place.top, place.Width(), place.Height())) << int(mode);
         EXPECT_EQ(line.geometry().y(), surface.height() - h - 4);
     }
     line.setParent(nullptr);
