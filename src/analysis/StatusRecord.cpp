@@ -1,5 +1,6 @@
 #include "analysis/LinePipeline.h"
 
+#include "base/HexDigits.h"
 #include "config/BufferedLog.h"
 #include "config/Settings.h"
 #include "connection/EscapeByte.h"
@@ -65,15 +66,7 @@ std::uint32_t ReadHexField(const char* place, int n)
 {
     std::uint32_t value = 0;
     for (int i = 0; i < n; ++i) {
-        char c = place[i];
-        std::uint32_t digit = 0;
-        if (c >= '0' && c <= '9')
-            digit = static_cast<std::uint32_t>(c - '0');
-        else if (c >= 'a' && c <= 'f')
-            digit = static_cast<std::uint32_t>(c - 'a' + 10);
-        else if (c >= 'A' && c <= 'F')
-            digit = static_cast<std::uint32_t>(c - 'A' + 10);
-        value |= digit << (4 * (n - 1 - i));
+        value |= std::uint32_t{HexDigitValue(place[i])} << (4 * (n - 1 - i));
     }
     const std::uint32_t sign = 1u << (4 * n - 1);
     return (value & sign) ? 0 : value;

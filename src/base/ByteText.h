@@ -48,4 +48,10 @@ constexpr unsigned char FoldCase(unsigned char c)
     return (c >= 'A' && c <= 'Z') ? static_cast<unsigned char>(c + ('a' - 'A')) : c;
 }
 
+// The ASCII upper case of a byte; every other byte is itself.
+constexpr unsigned char UpperCase(unsigned char c)
+{
+    return (c >= 'a' && c <= 'z') ? static_cast<unsigned char>(c - ('a' - 'A')) : c;
+}
+
 } // namespace steward

@@ -1,5 +1,6 @@
 #include "config/IniStore.h"
 
+#include "base/HexDigits.h"
 #include "config/IniBatch.h"
 #include "config/IniFile.h"
 #include "config/LittleEndian.h"
@@ -53,17 +54,6 @@ bool RemoveValue(std::string_view file, std::string_view section, std::string_vi
     return !ini.Remove(section, key) || Store(path, std::move(ini));
 }
 
-std::uint8_t HexDigit(char c)
-{
-    if (c >= '0' && c <= '9')
-        return static_cast<std::uint8_t>(c - '0');
-    if (c >= 'A' && c <= 'F')
-        return static_cast<std::uint8_t>(c - 'A' + 10);
-    if (c >= 'a' && c <= 'f')
-        return static_cast<std::uint8_t>(c - 'a' + 10);
-    return 0;
-}
-
 template <typename Bytes>
 bool ReadRecord(std::string_view file, std::string_view section, std::string_view key, Bytes& out)
 {
@@ -80,20 +70,19 @@ bool ReadBinary(std::string_view file, std::string_view section, std::string_vie
         return false;
     auto* bytes = static_cast<std::uint8_t*>(out);
     for (std::size_t i = 0; i < n; ++i)
-        bytes[i] = static_cast<std::uint8_t>((HexDigit((*value)[2 * i]) << 4) |
-                                             HexDigit((*value)[2 * i + 1]));
+        bytes[i] = static_cast<std::uint8_t>((HexDigitValue((*value)[2 * i]) << 4) |
+                                             HexDigitValue((*value)[2 * i + 1]));
     return true;
 }
 
 bool WriteBinary(std::string_view file, std::string_view section, std::string_view key,
                  const void* data, std::size_t n)
 {
-    static constexpr char DIGITS[] = "0123456789ABCDEF";
     const auto* bytes = static_cast<const std::uint8_t*>(data);
     std::string hex(2 * n, '0');
     for (std::size_t i = 0; i < n; ++i) {
-        hex[2 * i] = DIGITS[bytes[i] >> 4];
-        hex[2 * i + 1] = DIGITS[bytes[i] & 0x0F];
+        hex[2 * i] = HEX_DIGITS[bytes[i] >> 4];
+        hex[2 * i + 1] = HEX_DIGITS[bytes[i] & 0x0F];
     }
     return WriteValue(file, section, key, hex);
 }

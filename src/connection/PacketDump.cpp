@@ -1,5 +1,6 @@
 #include "connection/PacketDump.h"
 
+#include "base/HexDigits.h"
 #include "config/LogHost.h"
 
 #include <cstdio>
@@ -8,8 +9,6 @@
 namespace steward {
 
 namespace {
-
-constexpr char HEX_DIGITS[] = "0123456789ABCDEF";
 
 char DumpCharacter(unsigned char byte)
 {

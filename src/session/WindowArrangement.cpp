@@ -1,6 +1,6 @@
 #include "session/WindowArrangement.h"
 
-#include <cctype>
+#include "base/ByteText.h"
 
 namespace steward {
 
@@ -8,7 +8,7 @@ namespace {
 
 const WindowTableRow* FindLetter(char letter)
 {
-    char lower = static_cast<char>(std::tolower(static_cast<unsigned char>(letter)));
+    const char lower = static_cast<char>(FoldCase(static_cast<unsigned char>(letter)));
     for (const WindowTableRow& row : WindowTable)
         if (row.Letter == lower)
             return &row;
@@ -71,7 +71,7 @@ std::string OpenWindowsLetters(const std::array<bool, WINDOW_ROWS>& open, int ac
         if (!open[row.Row])
             continue;
         bool active = row.Row == activeRow;
-        letters += active ? static_cast<char>(std::toupper(row.Letter)) : row.Letter;
+        letters += active ? static_cast<char>(UpperCase(static_cast<unsigned char>(row.Letter))) : row.Letter;
     }
     return letters;
 }
