@@ -1,8 +1,6 @@
 #pragma once
 
-#include "scripts/Rewrites.h"
-
-#include <cstddef>
+#include "scripts/CommandState.h"
 
 namespace steward {
 
@@ -13,17 +11,6 @@ class FrameQueue;
 class KeyboardHost;
 class MacroStore;
 struct Settings;
-
-constexpr std::size_t SCRIPT_NAME_SIZE = 256;
-constexpr std::size_t SCRIPT_PARAMETERS_SIZE = 256;
-
-// The session's fields that the command road shares with the frame and the script runner.
-struct CommandState {
-    char DragTarget[DRAG_TARGET_SIZE] = {};
-    // The script that MM_RUN_SCRIPT opens, and the parameters of the last .Cmd run.
-    char ScriptName[SCRIPT_NAME_SIZE] = {};
-    char ScriptParameters[SCRIPT_PARAMETERS_SIZE] = {};
-};
 
 // Everything the key filter, the macro player and the command road work on.
 struct CommandParts {

@@ -1,8 +1,8 @@
 #include "base/Trace.h"
+#include "base/qt/ProgramFiles.h"
 #include "config/ConfigFiles.h"
 #include "session/qt/Client.h"
 #include "session/qt/Desktop.h"
-#include "session/qt/ProgramFiles.h"
 #include "session/qt/SignalPipe.h"
 
 #include <QApplication>

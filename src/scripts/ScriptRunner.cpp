@@ -1,8 +1,8 @@
 #include "scripts/ScriptRunner.h"
 
 #include "base/ByteText.h"
-#include "commands/CommandParts.h"
 #include "panels/Gauge.h"
+#include "scripts/CommandState.h"
 #include "scripts/ScriptHost.h"
 #include "scripts/ScriptWait.h"
 #include "scripts/Tokenizer.h"

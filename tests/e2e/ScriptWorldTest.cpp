@@ -1,6 +1,6 @@
 #include "ClientHarness.h"
 #include "base/FrameCommand.h"
-#include "session/qt/ProgramFiles.h"
+#include "base/qt/ProgramFiles.h"
 #include "support/TempFolder.h"
 
 #include <QEventLoop>

@@ -1,7 +1,7 @@
 #include "highlights/qt/QtSoundPlayer.h"
 
-#include "session/qt/ProgramFiles.h"
-#include "session/qt/ProgramResources.h"
+#include "base/qt/ProgramFiles.h"
+#include "base/qt/ProgramResources.h"
 
 #include <QAudioDevice>
 #include <QDir>

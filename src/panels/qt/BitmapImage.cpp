@@ -1,6 +1,6 @@
 #include "panels/qt/BitmapImage.h"
 
-#include "session/qt/ProgramResources.h"
+#include "base/qt/ProgramResources.h"
 
 #include <QPainter>
 

@@ -1,7 +1,7 @@
 #include "panels/qt/MultiControlWidget.h"
 
+#include "base/qt/QtColor.h"
 #include "panels/qt/QtPanelCanvas.h"
-#include "terminal/qt/PainterLayer.h"
 
 #include <QMenu>
 #include <QMouseEvent>

@@ -1,8 +1,8 @@
 #pragma once
 
+#include "base/qt/AppearanceDialogs.h"
 #include "panels/MultiControl.h"
 #include "panels/qt/BitmapImage.h"
-#include "terminal/qt/AppearanceDialogs.h"
 
 #include <QString>
 #include <QWidget>

@@ -1,7 +1,7 @@
 #include "scripts/qt/ScriptControl.h"
 
+#include "base/qt/MessageBoxes.h"
 #include "scripts/qt/ScriptDialogs.h"
-#include "session/qt/Desktop.h"
 
 #include <QApplication>
 #include <QCursor>
@@ -39,7 +39,7 @@ void ScriptControl::RunScript()
 void ScriptControl::ExecuteScript()
 {
     const std::string path =
-        parts_.Dialogs.ChooseScriptFile(parts_.Parent, parts_.ScriptFolder(), false);
+        parts_.Files.ChooseScriptFile(parts_.Parent, parts_.ScriptFolder(), false);
     if (!path.empty())
         runner_.ExecuteFile(path.c_str());
 }
@@ -54,11 +54,11 @@ void ScriptControl::StopScript()
 
 void ScriptControl::RecordScript()
 {
-    const std::string path = parts_.Dialogs.AskRecordFile(parts_.Parent, parts_.ScriptFolder());
+    const std::string path = parts_.Files.AskRecordFile(parts_.Parent, parts_.ScriptFolder());
     if (path.empty())
         return;
     if (!recorder_.StartRecording(path.c_str()))
-        parts_.Dialogs.ShowMessage(parts_.Parent, RECORD_FAILED_TEXT, RECORD_FAILED_TITLE);
+        parts_.Messages.ShowMessage(parts_.Parent, RECORD_FAILED_TEXT, RECORD_FAILED_TITLE);
 }
 
 void ScriptControl::StopRecording()
@@ -69,12 +69,12 @@ void ScriptControl::StopRecording()
 
 std::string ScriptControl::ChooseScriptToEdit()
 {
-    return parts_.Dialogs.ChooseScriptFile(parts_.Parent, parts_.ScriptFolder(), true);
+    return parts_.Files.ChooseScriptFile(parts_.Parent, parts_.ScriptFolder(), true);
 }
 
 std::string ScriptControl::CreateScript()
 {
-    return parts_.Dialogs.CreateScript(parts_.Parent, parts_.ScriptFolder());
+    return parts_.Files.CreateScript(parts_.Parent, parts_.ScriptFolder());
 }
 
 void ScriptControl::ShowBusyCursor(bool busy)
@@ -90,7 +90,7 @@ void ScriptControl::ShowBusyCursor(bool busy)
 
 void ScriptControl::Beep()
 {
-    parts_.Dialogs.Beep();
+    parts_.Messages.Beep();
 }
 
 void ScriptControl::PostWakeUp()

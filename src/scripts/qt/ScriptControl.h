@@ -11,7 +11,8 @@ class QWidget;
 
 namespace steward {
 
-class Desktop;
+class MessageBoxes;
+class ScriptFileDialogs;
 
 // What the frame lends the scripts: the session's parts that a script works on, its dialogs,
 // its window, the script folder, and the roads of a text to the Game window and to the game.
@@ -20,7 +21,8 @@ struct ScriptControlParts {
     CommandState& Names;
     Tokenizer& Words;
     const Gauge& RoundTime;
-    Desktop& Dialogs;
+    MessageBoxes& Messages;
+    ScriptFileDialogs& Files;
     QWidget* Parent;
     std::function<std::string()> ScriptFolder;
     std::function<void(const char*)> Print;

@@ -6,6 +6,17 @@ class QWidget;
 
 namespace steward {
 
+// The script dialogs, starting in the script folder: a file to run or to edit, the file of a
+// recording, a new empty script. Each gives a path, or empty on Cancel.
+class ScriptFileDialogs {
+  public:
+    virtual ~ScriptFileDialogs() = default;
+    virtual std::string ChooseScriptFile(QWidget* parent, const std::string& folder,
+                                         bool forEditing) = 0;
+    virtual std::string AskRecordFile(QWidget* parent, const std::string& folder) = 0;
+    virtual std::string CreateScript(QWidget* parent, const std::string& folder) = 0;
+};
+
 // The open dialog of the script folder, for running (.Stw) or for editing (.Stw and .Cmd);
 // the chosen path, or empty on Cancel.
 std::string ChooseScriptFileDialog(QWidget* parent, const std::string& folder, bool forEditing);

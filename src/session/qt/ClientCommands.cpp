@@ -164,12 +164,12 @@ void Client::AskDragTarget()
 
 void Client::MakeScriptControl()
 {
-    scripts_ = std::make_unique<ScriptControl>(
-        ScriptControlParts{session_.Script, keyboard_->State, session_.Words, session_.Panel.RT,
-                           desktop_, frame_.get(), [this] { return ScriptPath(session_.Files); },
-                           [this](const char* text) { link_.PrintToGameWindow(text); },
-                           [this](const char* text) { keyboard_->Road.SendScripted(text); },
-                           [this](int seconds) { keyboardHost_->PumpFor(seconds); }});
+    scripts_ = std::make_unique<ScriptControl>(ScriptControlParts{
+        session_.Script, keyboard_->State, session_.Words, session_.Panel.RT, desktop_, desktop_,
+        frame_.get(), [this] { return ScriptPath(session_.Files); },
+        [this](const char* text) { link_.PrintToGameWindow(text); },
+        [this](const char* text) { keyboard_->Road.SendScripted(text); },
+        [this](int seconds) { keyboardHost_->PumpFor(seconds); }});
     keyboardHost_->SetScripts(*scripts_);
     link_.SetRecording(scripts_.get());
 }

@@ -1,8 +1,10 @@
 #pragma once
 
+#include "base/qt/MessageBoxes.h"
 #include "config/LogHost.h"
 #include "highlights/SoundPlayer.h"
 #include "highlights/qt/QtSoundPlayer.h"
+#include "scripts/qt/ScriptDialogs.h"
 #include "session/qt/ConnectDialog.h"
 
 #include <cstddef>
@@ -15,7 +17,7 @@ namespace steward {
 // Everything the program asks of the person and of the desktop: dialogs, message boxes and
 // the text editor. Tests give a recording double, so that no dialog waits and no program
 // opens on the desktop.
-class Desktop {
+class Desktop : public MessageBoxes, public ScriptFileDialogs {
   public:
     virtual ~Desktop() = default;
 
@@ -23,13 +25,10 @@ class Desktop {
     virtual ConnectChoice AskConnection(QWidget* parent, std::string& host, int& port) = 0;
     // EXIT_DIALOG: true to leave.
     virtual bool AskExit(QWidget* parent) = 0;
-    // A message box; a null title shows none.
-    virtual void ShowMessage(QWidget* parent, const char* text, const char* title) = 0;
     // Opens the file in the desktop's text editor without waiting; false when none started.
     virtual bool RunEditor(const std::string& path) = 0;
     virtual bool AskSaveFileName(QWidget* parent, const SaveFileRequest& request, char* path,
                                  std::size_t capacity) = 0;
-    virtual void Beep() = 0;
     // GETSTR_DIALOG: false on Cancel; the answer holds at most capacity - 1 characters.
     virtual bool AskString(QWidget* parent, const char* title, char* answer,
                            std::size_t capacity) = 0;
@@ -38,12 +37,6 @@ class Desktop {
     virtual bool AskDragTarget(QWidget* parent, std::string& target) = 0;
     // The player of the highlight and start-up sounds.
     virtual SoundPlayer& Sounds() = 0;
-    // The script dialogs, starting in the script folder: a file to run or to edit, the file
-    // of a recording, a new empty script. Each gives a path, or empty on Cancel.
-    virtual std::string ChooseScriptFile(QWidget* parent, const std::string& folder,
-                                         bool forEditing) = 0;
-    virtual std::string AskRecordFile(QWidget* parent, const std::string& folder) = 0;
-    virtual std::string CreateScript(QWidget* parent, const std::string& folder) = 0;
 };
 
 // The real dialogs and the desktop's own editor.

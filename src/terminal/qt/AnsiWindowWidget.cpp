@@ -1,6 +1,7 @@
 #include "terminal/qt/AnsiWindowWidget.h"
 
 #include "base/Trace.h"
+#include "base/qt/QtColor.h"
 #include "terminal/Wheel.h"
 #include "terminal/qt/FontRecord.h"
 

@@ -1,7 +1,7 @@
 #pragma once
 
+#include "base/qt/AppearanceDialogs.h"
 #include "terminal/AnsiWindow.h"
-#include "terminal/qt/AppearanceDialogs.h"
 #include "terminal/qt/PainterLayer.h"
 
 #include <QFont>

@@ -1,22 +1,13 @@
 #include "terminal/qt/PainterLayer.h"
 
+#include "base/qt/QtColor.h"
+
 #include <QFontMetrics>
 #include <QPainter>
 
 #include <algorithm>
 
 namespace steward {
-
-QColor ToQColor(COLORREF color)
-{
-    return QColor(RedOf(color), GreenOf(color), BlueOf(color));
-}
-
-COLORREF FromQColor(const QColor& color)
-{
-    return MakeRgb(static_cast<std::uint8_t>(color.red()), static_cast<std::uint8_t>(color.green()),
-                   static_cast<std::uint8_t>(color.blue()));
-}
 
 void PainterLayer::SetFont(const QFont& font)
 {

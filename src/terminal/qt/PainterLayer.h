@@ -66,8 +66,4 @@ class PainterLayer : public DrawingLayer {
     std::size_t nextPen_ = 0;
 };
 
-// A COLORREF as Qt's colour.
-QColor ToQColor(COLORREF color);
-COLORREF FromQColor(const QColor& color);
-
 } // namespace steward

@@ -1,4 +1,4 @@
-#include "terminal/qt/AppearanceDialogs.h"
+#include "base/qt/AppearanceDialogs.h"
 
 #include <QColorDialog>
 #include <QFontDialog>

@@ -1,7 +1,7 @@
-#include "session/qt/ProgramFiles.h"
+#include "base/qt/ProgramFiles.h"
 
+#include "base/qt/ProgramResources.h"
 #include "highlights/qt/QtSoundPlayer.h"
-#include "session/qt/ProgramResources.h"
 
 #include <QDir>
 #include <QFile>

@@ -1,4 +1,4 @@
-#include "session/qt/ProgramResources.h"
+#include "base/qt/ProgramResources.h"
 
 #include <QtGlobal>
 
