@@ -13,6 +13,7 @@
 #include "session/qt/FramePlacement.h"
 #include "session/qt/FrameWindow.h"
 #include "session/qt/MdiClient.h"
+#include "session/qt/MenuInputsReader.h"
 #include "session/qt/QtKeyboardHost.h"
 #include "session/qt/QtProfileHost.h"
 #include "terminal/AnsiWindow.h"
@@ -20,16 +21,9 @@
 #include <QAbstractEventDispatcher>
 #include <QApplication>
 #include <QCoreApplication>
-#include <QShortcut>
 #include <QThread>
 
 namespace steward {
-
-namespace {
-
-constexpr char OFFLINE_TEXT[] = "\r\n\r\n*** Operating in an Offline mode.\r\n\r\n";
-
-} // namespace
 
 Client::Client(ClientOptions options, Desktop& desktop)
     : options_(std::move(options)), desktop_(desktop), sounds_(desktop.Sounds()),
@@ -44,7 +38,9 @@ Client::Client(ClientOptions options, Desktop& desktop)
         GaugeFor(session_.Panel, static_cast<ProfileGauge>(i)).SetTimer(&gaugeTimer_);
     FrameWindow::Handlers handlers;
     handlers.Command = [this](int command) { OnCommand(command); };
-    handlers.ReadMenuInputs = [this] { return ReadMenuInputs(); };
+    handlers.ReadMenuInputs = [this] {
+        return ReadMenuInputs({session_, link_, *commandLine_, *windows_, *scripts_});
+    };
     handlers.Close = [this] { return OnClose(); };
     handlers.Wheel = [this](bool shift, int amount) { OnWheel(shift, amount); };
     handlers.Resized = [this] {
@@ -72,7 +68,6 @@ Client::Client(ClientOptions options, Desktop& desktop)
     profile_ = std::make_unique<QtProfileHost>(
         QtProfileHost::Links{session_.Files, session_.Profile, session_.Panel, highlights_,
                              keyboard_->Macros, *keyFilter_, *windows_, *frame_});
-    AddRestKeys();
     connect(&timer_, &QTimer::timeout, this, [this] { session_.Rest.OnTimer(*this); });
     connect(QAbstractEventDispatcher::instance(), &QAbstractEventDispatcher::awake, this,
             &Client::OnLoopTurn);
@@ -85,23 +80,13 @@ Client::~Client()
     Finish();
 }
 
-void Client::AddRestKeys()
-{
-    auto* rest = new QShortcut(QKeySequence(Qt::Key_Pause), frame_.get());
-    auto* silent = new QShortcut(QKeySequence(Qt::SHIFT | Qt::Key_Pause), frame_.get());
-    rest->setContext(Qt::ApplicationShortcut);
-    silent->setContext(Qt::ApplicationShortcut);
-    connect(rest, &QShortcut::activated, this, [this] { OnCommand(CMD_REST_MODE); });
-    connect(silent, &QShortcut::activated, this, [this] { OnCommand(CMD_REST_MODE_SILENT); });
-}
-
 bool Client::Start()
 {
     profile_->Load();
     frame_->SetDisplayMode(session_.Profile.Settings.DisplayMode);
     PlaceFrame(*frame_, session_.Profile.ProfilePath);
     logs_.ShowVersionNotesOnce(*this);
-    if (!ChooseAndConnect())
+    if (!ConnectAtStart(options_.ConnectionString, session_, link_, desktop_, frame_.get()))
         return false;
     timer_.start(FRAME_TIMER_MS);
     if (AnsiWindow* game = session_.Windows.GameWindow) {
@@ -115,28 +100,6 @@ bool Client::Start()
     frame_->activateWindow();
     frame_->FocusCommandLine();
     started_ = true;
-    return true;
-}
-
-bool Client::ChooseAndConnect()
-{
-    char connection[CONNECTION_STRING_SIZE] = {};
-    std::string host = DEFAULT_HOST;
-    int port = DEFAULT_PORT;
-    if (!ChooseConnection(options_.ConnectionString, session_.Files.MainIni, desktop_, frame_.get(),
-                          connection, host, port))
-        return false;
-    SetConnectionString(session_, connection);
-    const int result = link_.ConnectToGame(session_.ConnectionString);
-    if (result == CONNECT_OFFLINE) {
-        FormatConnectionString(session_.ConnectionString, host.c_str(), port);
-        link_.PrintToGameWindow(OFFLINE_TEXT);
-        return true;
-    }
-    if (const char* failure = ConnectFailureText(result)) {
-        desktop_.ShowMessage(frame_.get(), failure, CONNECT_FAILURE_TITLE);
-        return false;
-    }
     return true;
 }
 

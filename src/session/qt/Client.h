@@ -7,7 +7,6 @@
 #include "highlights/HighlightSound.h"
 #include "panels/qt/QtGaugeTimer.h"
 #include "session/GameLink.h"
-#include "session/MenuState.h"
 #include "session/RestMode.h"
 #include "session/Session.h"
 #include "session/qt/QtLogHost.h"
@@ -71,22 +70,15 @@ class Client : public QObject, private FrameQueue, private RestSender {
     void PrintToGameWindow(const char* text) { link_.PrintToGameWindow(text); }
 
   private:
-    // Pause enters rest mode, Shift+Pause rests without snoring.
-    void AddRestKeys();
-    // Start-up steps.
-    bool ChooseAndConnect();
-
     // The frame's messages.
     bool OnClose();
     void OnDropped();
     void OnWheel(bool shift, int amount);
     void MakeScriptControl();
     void OnLoopTurn();
-    MenuInputs ReadMenuInputs() const;
 
     // Commands.
     bool ServeFixedCommand(int command);
-    void Reconnect();
     void ResetStewardMode();
     void EnterRestMode(bool silent);
     void SetDisplayMode(std::uint8_t mode);

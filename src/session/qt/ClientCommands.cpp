@@ -11,6 +11,7 @@
 #include "scripts/qt/ScriptControl.h"
 #include "session/CommandTable.h"
 #include "session/qt/ChildWindowSet.h"
+#include "session/qt/ConnectionChoice.h"
 #include "session/qt/Desktop.h"
 #include "session/qt/FrameWindow.h"
 #include "session/qt/MdiClient.h"
@@ -18,9 +19,6 @@
 #include "session/qt/QtProfileHost.h"
 #include "terminal/AnsiWindow.h"
 #include "terminal/Wheel.h"
-
-#include <QClipboard>
-#include <QGuiApplication>
 
 namespace steward {
 
@@ -64,7 +62,7 @@ const Client::CommandEntry Client::COMMANDS[] = {
     {CMD_UNEQUIP_WEAPON, [](Client& c) { c.SendCommand(c.session_.Profile.UnequipWeapon); }},
     {CMD_EQUIP_SHIELD, [](Client& c) { c.SendCommand(c.session_.Profile.EquipShield); }},
     {CMD_UNEQUIP_SHIELD, [](Client& c) { c.SendCommand(c.session_.Profile.UnequipShield); }},
-    {CMD_CONNECT, [](Client& c) { c.Reconnect(); }},
+    {CMD_CONNECT, [](Client& c) { Reconnect(c.session_, c.link_, c.desktop_, c.frame_.get()); }},
     {CMD_MACRO_KEYS, [](Client& c) { c.EditMacros(); }},
     {CMD_DRAG_SOMEONE, [](Client& c) { c.AskDragTarget(); }},
     {CMD_STOP_DRAGGING, [](Client& c) { c.keyboard_->State.DragTarget[0] = '\0'; }},
@@ -105,13 +103,6 @@ bool Client::ServeFixedCommand(int command)
         return false;
     SendCommand(text);
     return true;
-}
-
-void Client::Reconnect()
-{
-    const int result = link_.ConnectToGame(session_.ConnectionString);
-    if (const char* failure = ConnectFailureText(result))
-        desktop_.ShowMessage(frame_.get(), failure, CONNECT_FAILURE_TITLE);
 }
 
 void Client::ResetStewardMode()
@@ -178,27 +169,6 @@ void Client::OnWheel(bool shift, int amount)
 {
     if (AnsiWindow* window = windows_->ActiveWindow())
         window->VScroll(WheelScrollCommand(shift, amount), 0);
-}
-
-MenuInputs Client::ReadMenuInputs() const
-{
-    const Settings& settings = session_.Profile.Settings;
-    MenuInputs in;
-    in.AutoArrange = settings.AutoArrange != 0;
-    in.AutoLog = settings.AutoLog != 0;
-    in.LogOpen = session_.SessionLog.IsOpen();
-    in.DisplayMode = settings.DisplayMode;
-    in.Disconnected = link_.IsDisconnected();
-    in.GameWindowOpen = session_.Windows.GameWindow != nullptr;
-    in.ThoughtWindowOpen = session_.Windows.ThoughtWindow != nullptr;
-    in.ArrivalWindowOpen = session_.Windows.ArrivalWindow != nullptr;
-    in.CommandLineHasSelection = commandLine_->hasSelectedText();
-    AnsiWindow* child = windows_->ActiveWindow();
-    in.ActiveChildHasSelection = child && child->HasSelection();
-    in.ClipboardHasText = !QGuiApplication::clipboard()->text().isEmpty();
-    in.Recording = scripts_->Recording();
-    in.ScriptRunning = scripts_->Running();
-    return in;
 }
 
 } // namespace steward

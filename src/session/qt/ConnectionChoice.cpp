@@ -4,6 +4,7 @@
 
 #include "config/ConfigFiles.h"
 #include "config/IniStore.h"
+#include "session/GameLink.h"
 #include "session/qt/Desktop.h"
 
 namespace steward {
@@ -13,9 +14,11 @@ namespace {
 // The stored host holds up to 255 characters.
 constexpr std::size_t HOST_VALUE_SIZE = 256;
 constexpr char CONNECTION_SECTION[] = "Connection";
+constexpr char OFFLINE_TEXT[] = "\r\n\r\n*** Operating in an Offline mode.\r\n\r\n";
 
-} // namespace
-
+// The connection string of the command line, else the connect dialog's choice, which the main
+// ini remembers; false on Cancel. Offline leaves the connection empty, host and port at their
+// defaults.
 bool ChooseConnection(const std::string& commandLine, const std::string& mainIni, Desktop& desktop,
                       QWidget* parent, char (&connection)[CONNECTION_STRING_SIZE],
                       std::string& host, int& port)
@@ -46,6 +49,38 @@ bool ChooseConnection(const std::string& commandLine, const std::string& mainIni
     WriteString(mainIni, CONNECTION_SECTION, "Host", host.c_str());
     WriteInt(mainIni, CONNECTION_SECTION, "Port", port);
     return true;
+}
+
+} // namespace
+
+bool ConnectAtStart(const std::string& commandLine, Session& session, GameLink& link,
+                    Desktop& desktop, QWidget* parent)
+{
+    char connection[CONNECTION_STRING_SIZE] = {};
+    std::string host = DEFAULT_HOST;
+    int port = DEFAULT_PORT;
+    if (!ChooseConnection(commandLine, session.Files.MainIni, desktop, parent, connection, host,
+                          port))
+        return false;
+    SetConnectionString(session, connection);
+    const int result = link.ConnectToGame(session.ConnectionString);
+    if (result == CONNECT_OFFLINE) {
+        FormatConnectionString(session.ConnectionString, host.c_str(), port);
+        link.PrintToGameWindow(OFFLINE_TEXT);
+        return true;
+    }
+    if (const char* failure = ConnectFailureText(result)) {
+        desktop.ShowMessage(parent, failure, CONNECT_FAILURE_TITLE);
+        return false;
+    }
+    return true;
+}
+
+void Reconnect(const Session& session, GameLink& link, Desktop& desktop, QWidget* parent)
+{
+    const int result = link.ConnectToGame(session.ConnectionString);
+    if (const char* failure = ConnectFailureText(result))
+        desktop.ShowMessage(parent, failure, CONNECT_FAILURE_TITLE);
 }
 
 } // namespace steward

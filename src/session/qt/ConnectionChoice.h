@@ -9,12 +9,14 @@ class QWidget;
 namespace steward {
 
 class Desktop;
+class GameLink;
 
-// The connection string of the command line, else the connect dialog's choice, which the main
-// ini remembers; false on Cancel. Offline leaves the connection empty, host and port at their
-// defaults.
-bool ChooseConnection(const std::string& commandLine, const std::string& mainIni, Desktop& desktop,
-                      QWidget* parent, char (&connection)[CONNECTION_STRING_SIZE],
-                      std::string& host, int& port);
+// The first connection: the connection string of the command line, else the connect dialog's
+// choice (which the main ini remembers), then the connect. Offline says so in the Game window.
+// False when the start ends here: on Cancel, or after the message of a failed connect.
+bool ConnectAtStart(const std::string& commandLine, Session& session, GameLink& link,
+                    Desktop& desktop, QWidget* parent);
+// Connects again with the session's connection string; a failure is shown in a message box.
+void Reconnect(const Session& session, GameLink& link, Desktop& desktop, QWidget* parent);
 
 } // namespace steward

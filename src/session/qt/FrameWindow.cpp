@@ -1,5 +1,6 @@
 #include "session/qt/FrameWindow.h"
 
+#include "base/FrameCommand.h"
 #include "config/Settings.h"
 #include "session/qt/FrameMenu.h"
 #include "session/qt/MdiClient.h"
@@ -8,6 +9,7 @@
 #include <QCloseEvent>
 #include <QMenuBar>
 #include <QPainter>
+#include <QShortcut>
 #include <QWheelEvent>
 
 namespace steward {
@@ -51,6 +53,18 @@ FrameWindow::FrameWindow(Handlers handlers, QWidget* parent)
     menu_ = new FrameMenu(*menuBar(), *mdi_, handlers_.Command, handlers_.ReadMenuInputs);
     // Every window that closes, ours or Qt's, is seen here, so a new dialog needs nothing.
     qApp->installEventFilter(this);
+    AddRestKeys();
+}
+
+void FrameWindow::AddRestKeys()
+{
+    auto* rest = new QShortcut(QKeySequence(Qt::Key_Pause), this);
+    auto* silent = new QShortcut(QKeySequence(Qt::SHIFT | Qt::Key_Pause), this);
+    rest->setContext(Qt::ApplicationShortcut);
+    silent->setContext(Qt::ApplicationShortcut);
+    connect(rest, &QShortcut::activated, this, [this] { handlers_.Command(CMD_REST_MODE); });
+    connect(silent, &QShortcut::activated, this,
+            [this] { handlers_.Command(CMD_REST_MODE_SILENT); });
 }
 
 FrameWindow::~FrameWindow() = default;

@@ -72,6 +72,8 @@ class FrameWindow : public QMainWindow {
     bool eventFilter(QObject* watched, QEvent* event) override;
 
   private:
+    // Pause enters rest mode, Shift+Pause rests without snoring, wherever the focus is.
+    void AddRestKeys();
     int CommandLineHeight() const;
     // After a menu, dialog or popup closed: the command line again, unless another of them is
     // still open or another window of ours is active.
