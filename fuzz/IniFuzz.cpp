@@ -31,11 +31,11 @@ void Exercise(const std::string& path)
     for (const char* section : SECTIONS)
         for (const char* key : KEYS)
             ReadEveryKind(path, section, key);
-    WriteString(path, "Config", "LastChar", "Rook");
-    WriteInt(path, "Windows", "Position", -1);
-    WriteString(path, " config ", "x", nullptr);
-    WriteString(path, "Game Window", "Font", "\"\"");
-    if (!batch.Commit() || IniFile::Load(path).Get("Config", "LastChar") != "Rook")
+    const bool written = WriteString(path, "Config", "LastChar", "Rook") &&
+                         WriteInt(path, "Windows", "Position", -1) &&
+                         WriteString(path, " config ", "x", nullptr) &&
+                         WriteString(path, "Game Window", "Font", "\"\"");
+    if (!written || !batch.Commit() || IniFile::Load(path).Get("Config", "LastChar") != "Rook")
         std::abort();
 }
 

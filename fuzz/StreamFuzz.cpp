@@ -1,11 +1,12 @@
 // The received byte stream, cut into blocks whose sizes the input's first bytes choose, through
-// the decoder, the line pipeline with its status record and highlights, and the three text
-// windows, which are painted at the end.
+// the game link (decoder, line pipeline with its status record and highlights) into the three
+// text windows, which are painted at the end.
 #include "FuzzFiles.h"
 
 #include "analysis/PipelineFixture.h"
 #include "connection/PacketDump.h"
-#include "connection/StreamDecoder.h"
+#include "connection/RecordingSocket.h"
+#include "session/GameLink.h"
 
 #include <algorithm>
 #include <memory>
@@ -42,25 +43,27 @@ void Receive(const std::uint8_t* data, std::size_t size)
     ScriptWaitState script;
     StatusPanel panel;
     Tokenizer words;
-    LinePipeline pipeline{{options, sessionLog, highlights, sounds, windows, queue, script, panel,
-                           words, clock, nullptr}};
+    PacketDump dump;
+    testing::RecordingSocket socket;
+    GameLink link{{options, sessionLog, highlights, sounds, windows, queue, script, panel, words,
+                   clock, nullptr},
+                  dump,
+                  socket};
     std::unique_ptr<AnsiWindow> game =
-        AnsiWindow::Create("Game Window", {host, options, nullptr, &pipeline.Prompt()});
+        AnsiWindow::Create("Game Window", {host, options, nullptr, &link.Pipeline().Prompt()});
     std::unique_ptr<AnsiWindow> thought =
         AnsiWindow::Create("Thought Window", {host, options, nullptr, nullptr});
     std::unique_ptr<AnsiWindow> arrival =
         AnsiWindow::Create("Arrival Window", {host, options, nullptr, nullptr});
     windows = {game.get(), thought.get(), arrival.get()};
-    PacketDump dump;
-    StreamDecoder decoder(pipeline, dump, options);
-    decoder.SetHoldPartialLines((data[0] >> 3) & 1);
+    link.SetHoldPartialLines((data[0] >> 3) & 1);
 
     std::minstd_rand blockSizes(data[1]);
     const char* bytes = reinterpret_cast<const char*>(data + 2);
     std::size_t left = size - 2;
     while (left > 0) {
-        const std::size_t block = std::min(left, 1 + blockSizes() % decoder.ReceiveChunkSize());
-        decoder.HandleSocketEvent(bytes, block);
+        const std::size_t block = std::min(left, 1 + blockSizes() % link.BlockSize());
+        link.ReceiveBlock(bytes, block);
         bytes += block;
         left -= block;
         sessionLog.FlushIfFull();

@@ -121,15 +121,15 @@ void MacroStore::ReadLine(const char* line)
     target.Text[length] = 0;
 }
 
-void MacroStore::SaveMacros(const char* path) const
+bool MacroStore::SaveMacros(const char* path) const
 {
     if (!path || path[0] == 0)
-        return;
+        return true;
     Trace("MACROS: Saving to \"%s\"\n", path);
     AtomicFile file(path);
     std::FILE* out = file.Get();
     if (!out)
-        return;
+        return false;
     char head[16];
     for (int group : {ALT_LETTERS, CTRL_LETTERS}) {
         for (int letter = 0; letter < MACRO_LETTER_COUNT; ++letter) {
@@ -163,7 +163,7 @@ void MacroStore::SaveMacros(const char* path) const
             }
         }
     }
-    file.Commit();
+    return file.Commit();
 }
 
 } // namespace steward

@@ -56,7 +56,7 @@ class MacroStore {
     // Empties the store, then reads the file if it opens; bad lines are skipped silently.
     void LoadMacros(const char* path);
     // Writes every slot and name that is not empty; silent when the file cannot be written.
-    void SaveMacros(const char* path) const;
+    [[nodiscard]] bool SaveMacros(const char* path) const;
 
   private:
     void Clear();

@@ -21,7 +21,7 @@ class AtomicFile {
     // Where the text goes; null when the temporary could not be created.
     std::FILE* Get() const { return file_.get(); }
     // Writes out and renames; false when any write failed, and then the old file stays.
-    bool Commit();
+    [[nodiscard]] bool Commit();
 
   private:
     std::string path_;

@@ -52,10 +52,10 @@ void SetCurrentCharacter(CharacterProfile& profile, const ConfigFiles& files, co
     profile.ProfilePath = ProfileFilePath(files, current, PROFILE_EXTENSION);
 }
 
-void WriteSettings(const std::string& path, const Settings& settings)
+bool WriteSettings(const std::string& path, const Settings& settings)
 {
     const SettingsBytes bytes = settings.ToBytes();
-    WriteBinary(path, CONFIG_SECTION, SETTINGS_KEY, bytes.data(), bytes.size());
+    return WriteBinary(path, CONFIG_SECTION, SETTINGS_KEY, bytes.data(), bytes.size());
 }
 
 // Reads Settings; a missing value or one of the wrong length starts the file afresh.
@@ -66,9 +66,11 @@ bool ReadSettings(CharacterProfile& profile)
         profile.Settings = Settings::FromBytes(bytes);
         return false;
     }
-    DeleteIniFile(profile.ProfilePath);
     profile.Settings = Settings{};
-    WriteSettings(profile.ProfilePath, profile.Settings);
+    // A profile that cannot be rewritten still plays with the defaults; its save will say so.
+    if (!DeleteIniFile(profile.ProfilePath) ||
+        !WriteSettings(profile.ProfilePath, profile.Settings))
+        Trace("Could not start \"%s\" afresh\n", profile.ProfilePath.c_str());
     return true;
 }
 
@@ -81,13 +83,17 @@ void ReadGaugeColors(const std::string& path, ProfileParts& parts)
     }
 }
 
-void WriteGaugeColors(const std::string& path, ProfileParts& parts)
+bool WriteGaugeColors(const std::string& path, ProfileParts& parts)
 {
+    bool written = true;
     for (std::size_t i = 0; i < PROFILE_GAUGE_COUNT; ++i) {
         const GaugeColorBytes bytes =
             GaugeColorsToBytes(parts.GetGaugeColors(static_cast<ProfileGauge>(i)));
-        WriteBinary(path, COLORS_SECTION, GAUGE_COLOR_KEYS[i], bytes.data(), bytes.size());
+        written =
+            WriteBinary(path, COLORS_SECTION, GAUGE_COLOR_KEYS[i], bytes.data(), bytes.size()) &&
+            written;
     }
+    return written;
 }
 
 void ReadEquipment(CharacterProfile& profile)
@@ -97,10 +103,12 @@ void ReadEquipment(CharacterProfile& profile)
                    e.defaultValue);
 }
 
-void WriteEquipment(const std::string& path, const CharacterProfile& profile)
+bool WriteEquipment(const std::string& path, const CharacterProfile& profile)
 {
+    bool written = true;
     for (const EquipKey& e : EQUIP_KEYS)
-        WriteString(path, CONFIG_SECTION, e.key, profile.*e.value);
+        written = WriteString(path, CONFIG_SECTION, e.key, profile.*e.value) && written;
+    return written;
 }
 
 } // namespace
@@ -128,27 +136,29 @@ bool LoadProfile(const ConfigFiles& files, CharacterProfile& profile, ProfilePar
     return isNew;
 }
 
-void SaveProfile(const ConfigFiles& files, const CharacterProfile& profile, ProfileParts& parts,
+bool SaveProfile(const ConfigFiles& files, const CharacterProfile& profile, ProfileParts& parts,
                  const char* name)
 {
     if (!name)
         name = profile.CurrentCharacter;
     const std::string path = ProfileFilePath(files, name, PROFILE_EXTENSION);
     Trace("Saving data to \"%s\"\n", path.c_str());
+    // Inside the batch every write goes to memory; what reaches the disk is decided at Commit.
     IniBatch dat(path);
-    WriteSettings(path, profile.Settings);
-    WriteEquipment(path, profile);
-    WriteGaugeColors(path, parts);
-    parts.SaveChildWindows(path);
-    dat.Commit();
-    parts.SaveMacros(ProfileFilePath(files, name, MACROS_EXTENSION));
-    parts.SaveHighlights(ProfileFilePath(files, name, HIGHLIGHTS_EXTENSION),
-                         ProfileFilePath(files, name, NAMES_EXTENSION));
+    bool saved = WriteSettings(path, profile.Settings);
+    saved = WriteEquipment(path, profile) && saved;
+    saved = WriteGaugeColors(path, parts) && saved;
+    saved = parts.SaveChildWindows(path) && saved;
+    saved = dat.Commit() && saved;
+    saved = parts.SaveMacros(ProfileFilePath(files, name, MACROS_EXTENSION)) && saved;
+    return parts.SaveHighlights(ProfileFilePath(files, name, HIGHLIGHTS_EXTENSION),
+                                ProfileFilePath(files, name, NAMES_EXTENSION)) &&
+           saved;
 }
 
-void WriteLastChar(const ConfigFiles& files, const CharacterProfile& profile)
+bool WriteLastChar(const ConfigFiles& files, const CharacterProfile& profile)
 {
-    WriteString(files.MainIni, HISTORY_SECTION, LAST_CHAR_KEY, profile.CurrentCharacter);
+    return WriteString(files.MainIni, HISTORY_SECTION, LAST_CHAR_KEY, profile.CurrentCharacter);
 }
 
 std::string ReadOpenWindows(const std::string& profilePath)
@@ -158,9 +168,9 @@ std::string ReadOpenWindows(const std::string& profilePath)
     return std::strcmp(letters, NO_WINDOWS) == 0 ? DEFAULT_WINDOWS : letters;
 }
 
-void WriteOpenWindows(const std::string& profilePath, const std::string& letters)
+bool WriteOpenWindows(const std::string& profilePath, const std::string& letters)
 {
-    WriteString(profilePath, WINDOWS_SECTION, "Open Windows", letters.c_str());
+    return WriteString(profilePath, WINDOWS_SECTION, "Open Windows", letters.c_str());
 }
 
 } // namespace steward

@@ -41,16 +41,17 @@ bool LoadProfile(const ConfigFiles& files, CharacterProfile& profile, ProfilePar
                  const char* name, bool createOnly);
 
 // Writes every file of the profile under name (null: CurrentCharacter); empty equipment
-// commands lose their keys. Each file is replaced whole or not at all.
-void SaveProfile(const ConfigFiles& files, const CharacterProfile& profile, ProfileParts& parts,
-                 const char* name);
+// commands lose their keys. Each file is replaced whole or not at all; false when any of them
+// could not be written.
+[[nodiscard]] bool SaveProfile(const ConfigFiles& files, const CharacterProfile& profile,
+                               ProfileParts& parts, const char* name);
 
 // LastChar of the main ini, written at program end.
-void WriteLastChar(const ConfigFiles& files, const CharacterProfile& profile);
+[[nodiscard]] bool WriteLastChar(const ConfigFiles& files, const CharacterProfile& profile);
 
 // The window letters of the profile ("g", "t", "a", the focused one in upper case); a missing
 // value and "{none}" read as "tG".
 std::string ReadOpenWindows(const std::string& profilePath);
-void WriteOpenWindows(const std::string& profilePath, const std::string& letters);
+[[nodiscard]] bool WriteOpenWindows(const std::string& profilePath, const std::string& letters);
 
 } // namespace steward

@@ -19,7 +19,7 @@ class IniBatch {
     IniBatch& operator=(const IniBatch&) = delete;
 
     // False when the file could not be written; it then keeps its old content.
-    bool Commit();
+    [[nodiscard]] bool Commit();
 
     // The copy in memory when a batch of this file is open, otherwise null.
     static IniFile* FileOf(std::string_view path);

@@ -22,7 +22,7 @@ class IniFile {
     static IniFile Parse(std::string_view text);
 
     // Through an AtomicFile: a failed write leaves the old file whole.
-    bool Save(const std::string& path) const;
+    [[nodiscard]] bool Save(const std::string& path) const;
     std::string Text() const;
 
     // The value of the first such key of the first such section, without surrounding blanks or

@@ -104,18 +104,17 @@ bool WriteInt(std::string_view file, std::string_view section, std::string_view 
     return WriteBinary(file, section, key, bytes, sizeof bytes);
 }
 
-bool ReadString(std::string_view file, std::string_view section, std::string_view key, char* out,
+void ReadString(std::string_view file, std::string_view section, std::string_view key, char* out,
                 std::size_t size, const char* defaultValue)
 {
     if (size == 0)
-        return true;
+        return;
     const auto value = ReadValue(file, section, key);
     const std::string_view text =
         value ? std::string_view(*value) : std::string_view(defaultValue ? defaultValue : "");
     const std::size_t length = std::min(text.size(), size - 1);
     std::memcpy(out, text.data(), length);
     out[length] = '\0';
-    return true;
 }
 
 bool WriteString(std::string_view file, std::string_view section, std::string_view key,

@@ -16,22 +16,22 @@ namespace steward {
 // On false, out is left alone.
 bool ReadBinary(std::string_view file, std::string_view section, std::string_view key, void* out,
                 std::size_t n);
-bool WriteBinary(std::string_view file, std::string_view section, std::string_view key,
-                 const void* data, std::size_t n);
+[[nodiscard]] bool WriteBinary(std::string_view file, std::string_view section,
+                               std::string_view key, const void* data, std::size_t n);
 
 // The default unless the value holds exactly 8 digits: "68000000" is 104.
 std::int32_t ReadInt(std::string_view file, std::string_view section, std::string_view key,
                      std::int32_t defaultValue);
-bool WriteInt(std::string_view file, std::string_view section, std::string_view key,
-              std::int32_t value);
+[[nodiscard]] bool WriteInt(std::string_view file, std::string_view section, std::string_view key,
+                            std::int32_t value);
 
 // Copies the value, or the default when the key is missing, cut to size - 1 bytes and ended with
-// a zero byte. Always true.
-bool ReadString(std::string_view file, std::string_view section, std::string_view key, char* out,
+// a zero byte.
+void ReadString(std::string_view file, std::string_view section, std::string_view key, char* out,
                 std::size_t size, const char* defaultValue);
 // A null value, an empty one, and the two characters "" remove the key.
-bool WriteString(std::string_view file, std::string_view section, std::string_view key,
-                 const char* value);
+[[nodiscard]] bool WriteString(std::string_view file, std::string_view section,
+                               std::string_view key, const char* value);
 
 // A window whose font comes from the profile: SetFont with null gives it its default font.
 class FontTarget {
@@ -41,8 +41,8 @@ class FontTarget {
 };
 
 // False for a null font (none in use, or one that cannot be described).
-bool WriteFont(std::string_view file, std::string_view section, std::string_view key,
-               const LogFontRecord* font);
+[[nodiscard]] bool WriteFont(std::string_view file, std::string_view section, std::string_view key,
+                             const LogFontRecord* font);
 // Gives the window the stored font, or its default font; true when a stored one was used.
 bool ReadFont(std::string_view file, std::string_view section, std::string_view key,
               FontTarget& window);
@@ -58,14 +58,14 @@ class PlacementTarget {
 };
 
 // False when the window cannot tell its placement.
-bool WritePlacement(std::string_view file, std::string_view section, std::string_view key,
-                    PlacementTarget& window);
+[[nodiscard]] bool WritePlacement(std::string_view file, std::string_view section,
+                                  std::string_view key, PlacementTarget& window);
 // Applies a stored placement (its length field set to 44) and updates the window; without one,
 // shows the window normally and returns false.
 bool ReadPlacement(std::string_view file, std::string_view section, std::string_view key,
                    PlacementTarget& window);
 
 // Removes every key of the file at once, by deleting it; false when it could not be deleted.
-bool DeleteIniFile(std::string_view file);
+[[nodiscard]] bool DeleteIniFile(std::string_view file);
 
 } // namespace steward

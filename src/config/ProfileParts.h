@@ -29,7 +29,8 @@ constexpr const char* GAUGE_COLOR_KEYS[PROFILE_GAUGE_COUNT] = {
 Gauge& GaugeFor(StatusPanel& panel, ProfileGauge gauge);
 
 // What loading and saving a profile needs of the rest of the program; the frame implements it.
-// Each call comes at its fixed step of LoadProfile or SaveProfile.
+// Each call comes at its fixed step of LoadProfile or SaveProfile; a save gives false when its
+// file could not be written.
 class ProfileParts {
   public:
     virtual ~ProfileParts() = default;
@@ -40,13 +41,13 @@ class ProfileParts {
     virtual void SetNumLockOff() = 0;
     virtual void RestoreChildWindows(const std::string& profilePath) = 0;
     // Also writes Open Windows and MainWindow.
-    virtual void SaveChildWindows(const std::string& profilePath) = 0;
+    virtual bool SaveChildWindows(const std::string& profilePath) = 0;
     virtual void LoadMacros(const std::string& macrosPath) = 0;
-    virtual void SaveMacros(const std::string& macrosPath) = 0;
+    virtual bool SaveMacros(const std::string& macrosPath) = 0;
     // StringHighlights from the first file, NameHighlights from the second.
     virtual void LoadHighlights(const std::string& highlightsPath,
                                 const std::string& namesPath) = 0;
-    virtual void SaveHighlights(const std::string& highlightsPath,
+    virtual bool SaveHighlights(const std::string& highlightsPath,
                                 const std::string& namesPath) = 0;
     // The default macros; a new profile also gets Alt-A.
     virtual void SetDefaultMacros(bool newProfile) = 0;

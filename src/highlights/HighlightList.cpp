@@ -98,18 +98,18 @@ void HighlightList::Load(const char* path)
     }
 }
 
-void HighlightList::Save(const char* path) const
+bool HighlightList::Save(const char* path) const
 {
     if (*path == '\0')
-        return;
+        return true;
     AtomicFile file(path);
     if (!file.Get())
-        return;
+        return false;
     for (const HighlightEntry& slot : slots_) {
         if (slot.Text[0] != '\0')
             std::fprintf(file.Get(), "%03d \"%s\"\n", slot.Color, slot.Text);
     }
-    file.Commit();
+    return file.Commit();
 }
 
 void SortByColor(HighlightList& list)

@@ -41,7 +41,7 @@ class HighlightList {
     // Reads a .Highlights or .Names file; a missing file leaves the list empty.
     void Load(const char* path);
     // Writes every entry in use, in slot order; errors are silent.
-    void Save(const char* path) const;
+    [[nodiscard]] bool Save(const char* path) const;
 
     const HighlightEntry& Entry(std::size_t index) const { return slots_[index]; }
     const char* Text(std::size_t index) const { return slots_[index].Text; }

@@ -15,12 +15,12 @@ void LoadList(HighlightList& list, const std::string& path)
     list.Load(path.c_str());
 }
 
-void SaveList(const HighlightList& list, const std::string& path)
+bool SaveList(const HighlightList& list, const std::string& path)
 {
     if (path.empty())
-        return;
+        return true;
     Trace("HIGHLIGHTS: Saving to \"%s\"\n", path.c_str());
-    list.Save(path.c_str());
+    return list.Save(path.c_str());
 }
 
 // True when an entry of the list occurs in name, case-sensitively, on word boundaries unless
@@ -62,10 +62,10 @@ void HighlightLists::Load(const std::string& highlightsPath, const std::string& 
     LoadList(NameHighlights, namesPath);
 }
 
-void HighlightLists::Save(const std::string& highlightsPath, const std::string& namesPath) const
+bool HighlightLists::Save(const std::string& highlightsPath, const std::string& namesPath) const
 {
-    SaveList(StringHighlights, highlightsPath);
-    SaveList(NameHighlights, namesPath);
+    const bool strings = SaveList(StringHighlights, highlightsPath);
+    return SaveList(NameHighlights, namesPath) && strings;
 }
 
 bool HighlightLists::CopyToHighlights(int command, ClipboardReader& clipboard)

@@ -30,7 +30,7 @@ class HighlightLists {
     // Reads StringHighlights from the first file and NameHighlights from the second, telling
     // trace the debug line of each file.
     void Load(const std::string& highlightsPath, const std::string& namesPath);
-    void Save(const std::string& highlightsPath, const std::string& namesPath) const;
+    [[nodiscard]] bool Save(const std::string& highlightsPath, const std::string& namesPath) const;
 
     // Copy Special: the clipboard's lines go to the list of the command; false for another one.
     bool CopyToHighlights(int command, ClipboardReader& clipboard);

@@ -1,6 +1,7 @@
 #include "scripts/ScriptRecorder.h"
 
 #include "base/ByteText.h"
+#include "base/Trace.h"
 #include "config/SessionLog.h"
 #include "scripts/ScriptHost.h"
 #include "scripts/Tokenizer.h"
@@ -43,16 +44,17 @@ void ReportDiskError(ScriptHost& host)
 
 } // namespace
 
+// At the program's end nobody is left to tell: the old script stays, and the trace says why.
 ScriptRecorder::~ScriptRecorder()
 {
-    if (file_)
-        file_->Commit();
+    if (file_ && !file_->Commit())
+        Trace("Could not save the recorded script\n");
 }
 
 bool ScriptRecorder::StartRecording(const char* path)
 {
-    if (file_)
-        file_->Commit();
+    if (file_ && !file_->Commit())
+        Trace("Could not save the recorded script\n");
     file_.emplace(path);
     if (!file_->Get()) {
         file_.reset();

@@ -63,7 +63,7 @@ class AnsiWindow : public FontTarget {
     std::int32_t GetLineCount() const { return LiveBuffer->CountLines(); }
     std::int32_t GetViewLineCount() const { return ViewBuffer->CountLines(); }
     // Writes the window's font, placement and colours to the profile's .Dat file.
-    void SaveState(const std::string& profilePath);
+    [[nodiscard]] bool SaveState(const std::string& profilePath);
     // Null when no buffer can be made; the caller owns the copy.
     std::unique_ptr<TextBuffer> CloneBuffer() const;
     void RestoreBuffer(std::unique_ptr<TextBuffer> buffer);

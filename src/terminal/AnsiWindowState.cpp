@@ -34,15 +34,16 @@ void AnsiWindow::LoadFont(const char* profilePath)
         SetFont(nullptr, true);
 }
 
-void AnsiWindow::SaveState(const std::string& profilePath)
+bool AnsiWindow::SaveState(const std::string& profilePath)
 {
     const char* path = profilePath.c_str();
-    WriteFont(path, SectionName, "Font", &Font);
-    WritePlacement(path, SectionName, "Position", host_);
+    const bool font = WriteFont(path, SectionName, "Font", &Font);
+    const bool position = WritePlacement(path, SectionName, "Position", host_);
     std::array<std::uint8_t, STATE_INFO_SIZE> state{};
     PutU32(state.data(), TextColor);
     PutU32(state.data() + 4, BackColor);
-    WriteBinary(path, SectionName, "StateInfo", state.data(), state.size());
+    return WriteBinary(path, SectionName, "StateInfo", state.data(), state.size()) && font &&
+           position;
 }
 
 } // namespace steward

@@ -70,7 +70,7 @@ TEST_F(MacroFileTest, RoundTripTracesItsPathsAndKeeps199CharactersNot200)
     store.SetMacro(KEY_ALT, 'A', text199.c_str());
     store.SetMacro(KEY_ALT, 'B', text200.c_str());
     TraceRecorder trace;
-    store.SaveMacros(path.c_str());
+    ASSERT_TRUE(store.SaveMacros(path.c_str()));
     MacroStore loaded;
     loaded.LoadMacros(path.c_str());
     EXPECT_EQ(trace.Lines, (std::vector<std::string>{"MACROS: Saving to \"" + path + "\"\n",
@@ -129,7 +129,7 @@ TEST_F(MacroFileTest, SavesInTheFileOrder)
     store.SetMacro(0, VK_DIVIDE, "pad");
     store.SetMacro(KEY_CTRL, 'B', "ctrl b");
     store.SetMacro(KEY_ALT, 'Y', "alt y");
-    store.SaveMacros(path.c_str());
+    ASSERT_TRUE(store.SaveMacros(path.c_str()));
     EXPECT_EQ(Read(), "A Y \"alt y\"\n"
                       "C B \"ctrl b\"\n"
                       "K N / \"pad\"\n"
@@ -155,7 +155,7 @@ TEST_F(MacroFileTest, AWrittenFileReadsBackByteForByte)
                                 "9 C 11 \"tell @ hi\"\n";
     Load(content);
     store.SelectMacroSet(4);
-    store.SaveMacros(path.c_str());
+    ASSERT_TRUE(store.SaveMacros(path.c_str()));
     EXPECT_EQ(Read(), content);
     store.LoadMacros(path.c_str());
     EXPECT_EQ(store.CurrentMacroSet(), 0);
@@ -164,8 +164,8 @@ TEST_F(MacroFileTest, AWrittenFileReadsBackByteForByte)
 TEST_F(MacroFileTest, SaveWithAnEmptyPathWritesNothing)
 {
     store.SetMacro(KEY_ALT, 'A', "x");
-    store.SaveMacros("");
-    store.SaveMacros(folder.File("missing/x.Macros").c_str());
+    EXPECT_TRUE(store.SaveMacros("")) << "no path, nothing to save";
+    EXPECT_FALSE(store.SaveMacros(folder.File("missing/x.Macros").c_str()));
     EXPECT_FALSE(std::filesystem::exists(folder.File("missing")));
 }
 

@@ -38,19 +38,25 @@ class RecordingParts : public ProfileParts, public TraceSink {
     {
         calls.push_back("RestoreChildWindows " + path);
     }
-    void SaveChildWindows(const std::string& path) override
+    bool SaveChildWindows(const std::string& path) override
     {
         calls.push_back("SaveChildWindows " + path);
+        return true;
     }
     void LoadMacros(const std::string& path) override { calls.push_back("LoadMacros " + path); }
-    void SaveMacros(const std::string& path) override { calls.push_back("SaveMacros " + path); }
+    bool SaveMacros(const std::string& path) override
+    {
+        calls.push_back("SaveMacros " + path);
+        return true;
+    }
     void LoadHighlights(const std::string& strings, const std::string& names) override
     {
         calls.push_back("LoadHighlights " + strings + " " + names);
     }
-    void SaveHighlights(const std::string& strings, const std::string& names) override
+    bool SaveHighlights(const std::string& strings, const std::string& names) override
     {
         calls.push_back("SaveHighlights " + strings + " " + names);
+        return true;
     }
     void SetDefaultMacros(bool newProfile) override
     {
@@ -72,7 +78,7 @@ class ProfileTest : public ::testing::Test {
     void StoreSettings(const char* name, const Settings& settings)
     {
         const SettingsBytes bytes = settings.ToBytes();
-        WriteBinary(Dat(name), "Config", "Settings", bytes.data(), bytes.size());
+        ASSERT_TRUE(WriteBinary(Dat(name), "Config", "Settings", bytes.data(), bytes.size()));
     }
 
     Settings StoredSettings(const char* name)
@@ -83,7 +89,7 @@ class ProfileTest : public ::testing::Test {
     }
 
     bool Load(const char* name) { return LoadProfile(files, profile, parts, name, false); }
-    void Save(const char* name) { SaveProfile(files, profile, parts, name); }
+    void Save(const char* name) { ASSERT_TRUE(SaveProfile(files, profile, parts, name)); }
 
     TempFolder folder;
     ConfigFiles files = MakeConfigFiles(folder.Path());
@@ -114,9 +120,9 @@ TEST_F(ProfileTest, AKnownProfileGivesItsGaugesTheirColoursAndHonoursNumLock)
     stored.HonorNumLock = 1;
     StoreSettings("Rook", stored);
     const GaugeColorBytes rt = GaugeColorsToBytes({1, 2, 3});
-    WriteBinary(Dat("Rook"), "Colors", "RT", rt.data(), rt.size());
-    WriteBinary(Dat("Rook"), "Colors", "Health", rt.data(), rt.size());
-    WriteString(Dat("Rook"), "Colors", "Pause", "00FF");
+    ASSERT_TRUE(WriteBinary(Dat("Rook"), "Colors", "RT", rt.data(), rt.size()));
+    ASSERT_TRUE(WriteBinary(Dat("Rook"), "Colors", "Health", rt.data(), rt.size()));
+    ASSERT_TRUE(WriteString(Dat("Rook"), "Colors", "Pause", "00FF"));
     EXPECT_FALSE(Load("Rook"));
     const std::vector<std::string> head(parts.calls.begin() + 1, parts.calls.begin() + 5);
     EXPECT_EQ(head,
@@ -129,8 +135,8 @@ TEST_F(ProfileTest, AKnownProfileGivesItsGaugesTheirColoursAndHonoursNumLock)
 TEST_F(ProfileTest, ASettingsValueOfTheWrongLengthStartsTheProfileAfresh)
 {
     const std::string path = Dat("Rook");
-    WriteString(path, "Config", "EquipWeapon", "wield axe");
-    WriteString(path, "Config", "Settings", std::string(318, '1').c_str());
+    ASSERT_TRUE(WriteString(path, "Config", "EquipWeapon", "wield axe"));
+    ASSERT_TRUE(WriteString(path, "Config", "Settings", std::string(318, '1').c_str()));
     EXPECT_TRUE(Load("Rook"));
     EXPECT_STREQ(profile.EquipWeapon, "ready saber");
     EXPECT_EQ(profile.Settings.ToBytes(), Settings{}.ToBytes());
@@ -225,7 +231,7 @@ TEST_F(ProfileTest, WithoutANameTheLastCharacterIsLoaded)
     LoadProfile(files, profile, parts, nullptr, true);
     EXPECT_STREQ(profile.CurrentCharacter, "Default");
     LoadProfile(files, profile, parts, "Rook", true);
-    WriteLastChar(files, profile);
+    ASSERT_TRUE(WriteLastChar(files, profile));
     CharacterProfile next;
     LoadProfile(files, next, parts, nullptr, true);
     EXPECT_STREQ(next.CurrentCharacter, "Rook");
@@ -262,7 +268,7 @@ TEST_F(ProfileTest, OpenWindowsDefaultsToThoughtAndAFocusedGameWindow)
         WriteBytes(path, std::string("[Windows]\nOpen Windows=") + c.stored + "\n");
         EXPECT_EQ(ReadOpenWindows(path), c.letters) << c.stored;
     }
-    WriteOpenWindows(path, "Gat");
+    ASSERT_TRUE(WriteOpenWindows(path, "Gat"));
     EXPECT_EQ(ReadOpenWindows(path), "Gat");
 }
 

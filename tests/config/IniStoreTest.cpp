@@ -79,11 +79,11 @@ TEST_F(IniStoreTest, StringsAreCutToTheirBufferAndMissingOnesTakeTheDefault)
 {
     Store("ready saber");
     char out[6];
-    EXPECT_TRUE(ReadString(path, "S", "k", out, sizeof out, "x"));
+    ReadString(path, "S", "k", out, sizeof out, "x");
     EXPECT_STREQ(out, "ready");
-    EXPECT_TRUE(ReadString(path, "S", "gone", out, sizeof out, "defaults"));
+    ReadString(path, "S", "gone", out, sizeof out, "defaults");
     EXPECT_STREQ(out, "defau");
-    EXPECT_TRUE(ReadString(path, "S", "gone", out, sizeof out, nullptr));
+    ReadString(path, "S", "gone", out, sizeof out, nullptr);
     EXPECT_STREQ(out, "");
 }
 
@@ -168,11 +168,11 @@ TEST(ConfigFolders, ScriptAndSoundPathsFallBackToTheProgramFolder)
     const ConfigFiles files = MakeConfigFiles(folder.Path());
     EXPECT_EQ(files.MainIni, folder.Path() + "/Thornmere.Ini");
     EXPECT_EQ(ScriptPath(files), folder.Path());
-    WriteString(files.MainIni, "Config", "Script Path", "/home/p/scripts/");
-    WriteString(files.MainIni, "Config", "Sound Path", "/home/p/sounds");
+    ASSERT_TRUE(WriteString(files.MainIni, "Config", "Script Path", "/home/p/scripts/"));
+    ASSERT_TRUE(WriteString(files.MainIni, "Config", "Sound Path", "/home/p/sounds"));
     EXPECT_EQ(ScriptPath(files), "/home/p/scripts");
     EXPECT_EQ(SoundPath(files), "/home/p/sounds");
-    WriteString(files.MainIni, "Config", "Script Path", "");
+    ASSERT_TRUE(WriteString(files.MainIni, "Config", "Script Path", ""));
     EXPECT_EQ(ScriptPath(files), folder.Path());
 }
 

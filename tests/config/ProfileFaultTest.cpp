@@ -38,14 +38,17 @@ class SavingParts : public ProfileParts {
     void SetGaugeColors(ProfileGauge, const GaugeColors&) override {}
     void SetNumLockOff() override {}
     void RestoreChildWindows(const std::string&) override {}
-    void SaveChildWindows(const std::string& path) override { WriteOpenWindows(path, "gTa"); }
-    void LoadMacros(const std::string&) override {}
-    void SaveMacros(const std::string& path) override { macros.SaveMacros(path.c_str()); }
-    void LoadHighlights(const std::string&, const std::string&) override {}
-    void SaveHighlights(const std::string& strings, const std::string& names) override
+    bool SaveChildWindows(const std::string& path) override
     {
-        stringHighlights.Save(strings.c_str());
-        nameHighlights.Save(names.c_str());
+        return WriteOpenWindows(path, "gTa");
+    }
+    void LoadMacros(const std::string&) override {}
+    bool SaveMacros(const std::string& path) override { return macros.SaveMacros(path.c_str()); }
+    void LoadHighlights(const std::string&, const std::string&) override {}
+    bool SaveHighlights(const std::string& strings, const std::string& names) override
+    {
+        const bool saved = stringHighlights.Save(strings.c_str());
+        return nameHighlights.Save(names.c_str()) && saved;
     }
     void SetDefaultMacros(bool) override {}
     void UpdateTitle() override {}
@@ -73,17 +76,17 @@ struct ProfileState {
             parts.nameHighlights.Add(("Name" + text).c_str(), static_cast<unsigned char>(i + 1));
         }
     }
-    // The profile, then a recording of the character's walk.
-    void Save(const ConfigFiles& files)
+    // The profile, then a recording of the character's walk; false when any file was not saved.
+    bool Save(const ConfigFiles& files)
     {
-        SaveProfile(files, profile, parts, nullptr);
+        const bool saved = SaveProfile(files, profile, parts, nullptr);
         testing::RecordingScriptHost host;
         Tokenizer words;
         ScriptRecorder recorder;
         recorder.StartRecording(ProfileFilePath(files, "Rook", ".Stw").c_str());
         for (int i = 0; i < 20 + profile.Settings.HonorNumLock * 25; ++i)
             recorder.RecordCommand(i % 3 ? "n" : "say the bell rings", words, host);
-        recorder.StopRecording(host);
+        return recorder.StopRecording(host) && saved;
     }
 };
 
@@ -102,7 +105,7 @@ class ProfileFaultTest : public ::testing::Test {
     {
         TempFolder clean;
         const ConfigFiles cleanFiles = MakeConfigFiles(clean.Path());
-        state.Save(cleanFiles);
+        EXPECT_TRUE(state.Save(cleanFiles));
         ProfileBytes bytes;
         for (std::size_t i = 0; i < PROFILE_FILES.size(); ++i)
             bytes[i] = ReadBytes(clean.File(PROFILE_FILES[i]));
@@ -128,12 +131,19 @@ class ProfileFaultTest : public ::testing::Test {
 TEST_F(ProfileFaultTest, AWriteThatFailsAfterAnyByteLeavesEachFileOldOrNew)
 {
     for (rlim_t limit : {0, 1, 100, 400, 1000, 2000, 5000, 100000}) {
-        oldState.Save(files);
+        ASSERT_TRUE(oldState.Save(files));
+        bool saved = false;
         {
             FileSizeLimit full(limit);
-            newState.Save(files);
+            saved = newState.Save(files);
         }
         ExpectEachFileWhole("after a fault at byte " + std::to_string(limit));
+        if (saved) {
+            EXPECT_EQ(Stored(), newBytes) << "a save that says so wrote everything";
+        }
+        if (limit == 0) {
+            EXPECT_FALSE(saved) << "a save that wrote nothing says so";
+        }
         for (std::size_t i = 0; i < PROFILE_FILES.size(); ++i) {
             if (newBytes[i].size() <= limit) {
                 EXPECT_EQ(Stored()[i], newBytes[i]) << PROFILE_FILES[i] << " fits in " << limit;
@@ -145,15 +155,15 @@ TEST_F(ProfileFaultTest, AWriteThatFailsAfterAnyByteLeavesEachFileOldOrNew)
 
 TEST_F(ProfileFaultTest, AKillAtAnyMomentOfSavingLeavesEachFileOldOrNew)
 {
-    oldState.Save(files);
+    ASSERT_TRUE(oldState.Save(files));
     std::mt19937 random(17);
     for (int run = 0; run < 200; ++run) {
         const pid_t saver = fork();
         ASSERT_GE(saver, 0);
         if (saver == 0) {
             for (;;) {
-                newState.Save(files);
-                oldState.Save(files);
+                static_cast<void>(newState.Save(files));
+                static_cast<void>(oldState.Save(files));
             }
         }
         std::this_thread::sleep_for(std::chrono::microseconds(random() % 4000));

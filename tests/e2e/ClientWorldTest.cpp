@@ -335,7 +335,8 @@ TEST_F(ClientWorldTest, CancelEndsTheStartAndLeavesEveryFileAsItWas)
         earlier->Frame().close();
     }
     // A state that a window would write back differently.
-    WriteString(folder.filePath("Default.Dat").toStdString(), "Game Window", "StateInfo", "11");
+    ASSERT_TRUE(WriteString(folder.filePath("Default.Dat").toStdString(), "Game Window",
+                            "StateInfo", "11"));
     const auto before = FolderBytes(folder.path());
     desktop.choice = ConnectChoice::Cancel;
     auto client = MakeClient("");

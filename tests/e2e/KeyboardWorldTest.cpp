@@ -148,7 +148,7 @@ TEST_F(KeyboardWorldTest, AMacroWrittenInTheSheetSendsAndSurvivesARestart)
         sheet.accept();
     }
     const QByteArray path = folder.filePath("Default.Macros").toLocal8Bit();
-    keyboard.Macros.SaveMacros(path.constData());
+    ASSERT_TRUE(keyboard.Macros.SaveMacros(path.constData()));
     keyboard.Macros.LoadMacros("");
     keyboard.Macros.LoadMacros(path.constData());
     Click(Qt::Key_J, Qt::ControlModifier);

@@ -118,7 +118,7 @@ TEST(HighlightListFile, SaveWritesOneQuotedLinePerEntryInSlotOrder)
     list.SetText(2, "say \"hi\"");
     list.SetColor(3, 7);
     list.SetText(3, "$@Mara");
-    list.Save(folder.File("Hero.Highlights").c_str());
+    ASSERT_TRUE(list.Save(folder.File("Hero.Highlights").c_str()));
     EXPECT_EQ(ReadFile(folder.File("Hero.Highlights")),
               "014 \"{gong}*Attention\"\n030 \"say \"hi\"\"\n007 \"$@Mara\"\n");
 }
@@ -130,7 +130,7 @@ TEST(HighlightListFile, RoundTripKeepsTextsAndColours)
     list.Add("{Chime}$*@Kill", 0xFF);
     list.Add("\"quoted\" words", 0);
     list.Add(std::string(HIGHLIGHT_TEXT_MAX, 'z').c_str(), 0x10);
-    list.Save(folder.File("Hero.Names").c_str());
+    ASSERT_TRUE(list.Save(folder.File("Hero.Names").c_str()));
     HighlightList loaded;
     loaded.Load(folder.File("Hero.Names").c_str());
     EXPECT_EQ(EntriesInUse(loaded), EntriesInUse(list));
@@ -177,7 +177,7 @@ TEST(HighlightListFile, EmptyOrTooLongTextsTakeASlotAndEndTheRun)
     EXPECT_STREQ(list.Text(2), "third");
     EXPECT_STREQ(list.Text(3), "");
     EXPECT_STREQ(list.Text(4), "fifth");
-    list.Save(folder.File("Gap.Highlights").c_str());
+    ASSERT_TRUE(list.Save(folder.File("Gap.Highlights").c_str()));
     list.Load(folder.File("Gap.Highlights").c_str());
     EXPECT_EQ(EntriesInUse(list), (std::vector<std::string>{"1:first", "3:third", "5:fifth"}))
         << "a save closes the gaps";
@@ -204,8 +204,8 @@ TEST(HighlightListFile, AMissingFileEmptiesTheList)
     list.Load(folder.File("Nobody.Names").c_str());
     EXPECT_TRUE(EntriesInUse(list).empty());
     list.Add("kept", 1);
-    list.Save("");
-    list.Save(folder.File("no/such/folder.Names").c_str());
+    EXPECT_TRUE(list.Save("")) << "no path, nothing to save";
+    EXPECT_FALSE(list.Save(folder.File("no/such/folder.Names").c_str()));
 }
 
 TEST(HighlightListSort, SortByColorIsStableOverTheWholeColourByte)

@@ -78,7 +78,7 @@ TEST(HighlightListsSession, LoadAndSaveUseTwoFilesAndTraceEach)
         HighlightLists lists;
         lists.StringHighlights.Add("{gong}*Attention", 14);
         lists.NameHighlights.Add("Mara", 0x1E);
-        lists.Save(strings, names);
+        ASSERT_TRUE(lists.Save(strings, names));
     }
     EXPECT_EQ(trace.Lines, (std::vector<std::string>{"HIGHLIGHTS: Saving to \"" + strings + "\"\n",
                                                      "HIGHLIGHTS: Saving to \"" + names + "\"\n"}));

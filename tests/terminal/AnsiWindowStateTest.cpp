@@ -32,7 +32,7 @@ TEST_F(StateTest, ColoursFontAndPlacementComeBackWithTheNextWindowOfThatName)
         host.pickedColor = MakeRgb(4, 5, 6);
         window->ChangeBackgroundColor();
         window->SetLogFont(font);
-        window->SaveState(profile);
+        ASSERT_TRUE(window->SaveState(profile));
     }
     auto again = MakeSaved("Thought Window");
     EXPECT_EQ(again->GetTextColor(), MakeRgb(1, 2, 3));
@@ -50,7 +50,7 @@ TEST_F(StateTest, StateInfoHoldsTheTextColourFirst)
     auto window = MakeSaved("Arrival Window");
     host.pickedColor = MakeRgb(0x11, 0x22, 0x33);
     window->ChangeForegroundColor();
-    window->SaveState(profile);
+    ASSERT_TRUE(window->SaveState(profile));
     EXPECT_NE(ReadBytes(profile).find("StateInfo=11223300"), std::string::npos);
 }
 
@@ -59,7 +59,7 @@ TEST_F(StateTest, AnotherWindowKeepsItsOwnSection)
     auto thought = MakeSaved("Thought Window");
     host.pickedColor = MakeRgb(7, 7, 7);
     thought->ChangeForegroundColor();
-    thought->SaveState(profile);
+    ASSERT_TRUE(thought->SaveState(profile));
     settings.DefaultTextColor = MakeRgb(9, 9, 9);
     auto arrival = MakeSaved("Arrival Window");
     EXPECT_EQ(arrival->GetTextColor(), MakeRgb(9, 9, 9));

@@ -1,6 +1,7 @@
 #include "session/qt/ChildWindowSet.h"
 
 #include "analysis/LinePipeline.h"
+#include "base/Trace.h"
 #include "config/CharacterProfile.h"
 #include "config/IniStore.h"
 #include "session/qt/MdiClient.h"
@@ -77,16 +78,17 @@ void ChildWindowSet::Restore(const std::string& profilePath)
     Arrange(false);
 }
 
-void ChildWindowSet::Save(const std::string& profilePath)
+bool ChildWindowSet::Save(const std::string& profilePath)
 {
     std::array<bool, WINDOW_ROWS> open{};
+    bool saved = true;
     for (const WindowTableRow& row : WindowTable) {
         AnsiWindow* window = Published(row.Row);
         open[row.Row] = window != nullptr;
         if (window)
-            window->SaveState(profilePath);
+            saved = window->SaveState(profilePath) && saved;
     }
-    WriteOpenWindows(profilePath, OpenWindowsLetters(open, ActiveRow()));
+    return WriteOpenWindows(profilePath, OpenWindowsLetters(open, ActiveRow())) && saved;
 }
 
 void ChildWindowSet::Arrange(bool force)
@@ -177,8 +179,9 @@ bool ChildWindowSet::eventFilter(QObject* watched, QEvent* event)
         // and no arrangement runs inside a destructor.
         QWidget* view = sub->widget();
         disconnect(view, &QObject::destroyed, this, nullptr);
-        if (AnsiWindow* window = Window(row.Row))
-            window->SaveState(links_.Profile.ProfilePath);
+        AnsiWindow* window = Window(row.Row);
+        if (window && !window->SaveState(links_.Profile.ProfilePath))
+            Trace("Could not save the state of the %s\n", window->GetSectionName());
         Forget(row.Row);
         delete view;
         sub->deleteLater();

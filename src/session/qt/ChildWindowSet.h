@@ -45,7 +45,7 @@ class ChildWindowSet : public QObject, public ChildWindowHost {
     // The windows that the profile's "Open Windows" names, the active one last.
     void Restore(const std::string& profilePath);
     // Writes each open window's state and the profile's "Open Windows".
-    void Save(const std::string& profilePath);
+    [[nodiscard]] bool Save(const std::string& profilePath);
     // ArrangeWindows with the profile's AutoArrange.
     void Arrange(bool force);
 

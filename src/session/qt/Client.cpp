@@ -2,6 +2,7 @@
 #include "session/qt/Client.h"
 
 #include "base/FrameCommand.h"
+#include "base/Trace.h"
 #include "commands/Keyboard.h"
 #include "commands/qt/CommandLine.h"
 #include "commands/qt/KeyFilterQt.h"
@@ -24,6 +25,13 @@
 #include <QThread>
 
 namespace steward {
+
+namespace {
+
+constexpr char PROFILE_NOT_SAVED_TEXT[] =
+    "The profile could not be saved: its files keep what they held before.";
+
+} // namespace
 
 Client::Client(ClientOptions options, Desktop& desktop)
     : options_(std::move(options)), desktop_(desktop), sounds_(desktop.Sounds()),
@@ -112,7 +120,8 @@ bool Client::OnClose()
             return false;
         SendCommand("quit");
     }
-    profile_->Save();
+    if (!profile_->Save() && !terminating_)
+        desktop_.ShowMessage(frame_.get(), PROFILE_NOT_SAVED_TEXT, nullptr);
     closed_ = true;
     QCoreApplication::quit();
     return true;
@@ -135,8 +144,8 @@ void Client::Finish()
     panelView_.reset();
     frame_.reset();
     link_.ShutdownConnection();
-    if (started_)
-        WriteLastChar(session_.Files, session_.Profile);
+    if (started_ && !WriteLastChar(session_.Files, session_.Profile))
+        Trace("Could not write LastChar to \"%s\"\n", session_.Files.MainIni.c_str());
     timer_.stop();
     session_.SessionLog.Close();
     session_.PacketDump.Close();

@@ -1,6 +1,7 @@
 #include "session/qt/ConnectionChoice.h"
 
 #include "base/ByteText.h"
+#include "base/Trace.h"
 
 #include "config/ConfigFiles.h"
 #include "config/IniStore.h"
@@ -46,8 +47,10 @@ bool ChooseConnection(const std::string& commandLine, const std::string& mainIni
         break;
     }
     FormatConnectionString(connection, host.c_str(), port);
-    WriteString(mainIni, CONNECTION_SECTION, "Host", host.c_str());
-    WriteInt(mainIni, CONNECTION_SECTION, "Port", port);
+    // Unremembered, the dialog offers the old host next time, which is all a failed write costs.
+    if (!WriteString(mainIni, CONNECTION_SECTION, "Host", host.c_str()) ||
+        !WriteInt(mainIni, CONNECTION_SECTION, "Port", port))
+        Trace("Could not remember the host in \"%s\"\n", mainIni.c_str());
     return true;
 }
 

@@ -2,6 +2,7 @@
 
 #include "base/FrameCommand.h"
 #include "base/FrameQueue.h"
+#include "base/Trace.h"
 #include "config/FileHandle.h"
 #include "config/IniStore.h"
 #include "config/SessionLog.h"
@@ -82,7 +83,9 @@ void QtLogHost::ShowVersionNotesOnce(FrameQueue& queue)
     const std::string& ini = session_.Files.MainIni;
     if (ReadInt(ini, VERSION_SECTION, "Version", 0) >= NOTES_VERSION)
         return;
-    WriteInt(ini, VERSION_SECTION, "Version", NOTES_VERSION);
+    // Unremembered, the notes show again at the next start, which is all a failed write costs.
+    if (!WriteInt(ini, VERSION_SECTION, "Version", NOTES_VERSION))
+        Trace("Could not remember the notes' version in \"%s\"\n", ini.c_str());
     queue.PostCommand(CMD_VERSION_NOTES);
 }
 

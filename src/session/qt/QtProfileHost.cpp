@@ -17,9 +17,9 @@ void QtProfileHost::Load()
     LoadProfile(links_.Files, links_.Profile, *this, nullptr, false);
 }
 
-void QtProfileHost::Save()
+bool QtProfileHost::Save()
 {
-    SaveProfile(links_.Files, links_.Profile, *this, links_.Profile.CurrentCharacter);
+    return SaveProfile(links_.Files, links_.Profile, *this, links_.Profile.CurrentCharacter);
 }
 
 GaugeColors QtProfileHost::GetGaugeColors(ProfileGauge gauge)
@@ -42,11 +42,11 @@ void QtProfileHost::RestoreChildWindows(const std::string& profilePath)
     links_.Windows.Restore(profilePath);
 }
 
-void QtProfileHost::SaveChildWindows(const std::string& profilePath)
+bool QtProfileHost::SaveChildWindows(const std::string& profilePath)
 {
-    links_.Windows.Save(profilePath);
+    const bool windows = links_.Windows.Save(profilePath);
     FramePlacement placement(links_.Frame);
-    WritePlacement(profilePath, "Windows", "MainWindow", placement);
+    return WritePlacement(profilePath, "Windows", "MainWindow", placement) && windows;
 }
 
 void QtProfileHost::LoadMacros(const std::string& macrosPath)
@@ -54,9 +54,9 @@ void QtProfileHost::LoadMacros(const std::string& macrosPath)
     links_.Macros.LoadMacros(macrosPath.c_str());
 }
 
-void QtProfileHost::SaveMacros(const std::string& macrosPath)
+bool QtProfileHost::SaveMacros(const std::string& macrosPath)
 {
-    links_.Macros.SaveMacros(macrosPath.c_str());
+    return links_.Macros.SaveMacros(macrosPath.c_str());
 }
 
 void QtProfileHost::SetDefaultMacros(bool newProfile)
@@ -69,9 +69,9 @@ void QtProfileHost::LoadHighlights(const std::string& highlightsPath, const std:
     links_.Highlights.Load(highlightsPath, namesPath);
 }
 
-void QtProfileHost::SaveHighlights(const std::string& highlightsPath, const std::string& namesPath)
+bool QtProfileHost::SaveHighlights(const std::string& highlightsPath, const std::string& namesPath)
 {
-    links_.Highlights.Save(highlightsPath, namesPath);
+    return links_.Highlights.Save(highlightsPath, namesPath);
 }
 
 void QtProfileHost::UpdateTitle()

@@ -31,8 +31,8 @@ class QtProfileHost : private ProfileParts {
 
     // LoadProfile of LastChar.
     void Load();
-    // SaveProfile of the current character.
-    void Save();
+    // SaveProfile of the current character; false when a file of it could not be written.
+    [[nodiscard]] bool Save();
     // The frame's title again, after the current macro set may have changed.
     void RefreshTitle() { UpdateTitle(); }
 
@@ -41,11 +41,11 @@ class QtProfileHost : private ProfileParts {
     void SetGaugeColors(ProfileGauge gauge, const GaugeColors& colors) override;
     void SetNumLockOff() override;
     void RestoreChildWindows(const std::string& profilePath) override;
-    void SaveChildWindows(const std::string& profilePath) override;
+    bool SaveChildWindows(const std::string& profilePath) override;
     void LoadMacros(const std::string& macrosPath) override;
-    void SaveMacros(const std::string& macrosPath) override;
+    bool SaveMacros(const std::string& macrosPath) override;
     void LoadHighlights(const std::string& highlightsPath, const std::string& namesPath) override;
-    void SaveHighlights(const std::string& highlightsPath, const std::string& namesPath) override;
+    bool SaveHighlights(const std::string& highlightsPath, const std::string& namesPath) override;
     void SetDefaultMacros(bool newProfile) override;
     void UpdateTitle() override;
 

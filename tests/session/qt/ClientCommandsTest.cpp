@@ -87,7 +87,7 @@ class ClientCommandsTest : public ::testing::Test {
     {
         ASSERT_TRUE(folder.isValid());
         // The version notes were shown before, so the editor sees only what a test asks for.
-        WriteInt(Ini(), "Version Info", "Version", 0x68);
+        ASSERT_TRUE(WriteInt(Ini(), "Version Info", "Version", 0x68));
         client = MakeClient();
         ASSERT_TRUE(client->Start());
     }
@@ -314,13 +314,13 @@ TEST_F(ClientCommandsTest, WindowsAndPlacementComeBackAfterARestart)
 // A switch of character saves the windows into the new profile, never the one they opened with.
 TEST_F(ClientCommandsTest, WindowStateGoesToTheProfileNamedAtSaveTime)
 {
-    client->Windows().Save(File("Default.Dat"));
+    ASSERT_TRUE(client->Windows().Save(File("Default.Dat")));
     QFile opened(QString::fromStdString(File("Default.Dat")));
     ASSERT_TRUE(opened.open(QIODevice::ReadOnly));
     const QByteArray before = opened.readAll();
     opened.close();
 
-    client->Windows().Save(File("Rook.Dat"));
+    ASSERT_TRUE(client->Windows().Save(File("Rook.Dat")));
     QFile other(QString::fromStdString(File("Rook.Dat")));
     ASSERT_TRUE(other.open(QIODevice::ReadOnly));
     const QByteArray saved = other.readAll();
