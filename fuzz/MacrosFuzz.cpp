@@ -14,7 +14,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     MacroStore first;
     first.LoadMacros(path.c_str());
     const std::string saved = path + ".saved";
-    first.SaveMacros(saved.c_str());
+    if (!first.SaveMacros(saved.c_str()))
+        std::abort();
     MacroStore second;
     second.LoadMacros(saved.c_str());
     for (int set = 0; set < MACRO_SET_COUNT; ++set)

@@ -13,6 +13,13 @@
 
 namespace steward {
 
+namespace {
+
+constexpr char REST_LEAVE_TEXT[] = "\r\nLeaving rest mode.\r\n";
+
+} // namespace
+
+
 void MacroSetTitle(char* out, std::size_t capacity, const char* character, const MacroStore& store)
 {
     int set = store.CurrentMacroSet();
@@ -28,7 +35,7 @@ KeyFilter::KeyFilter(const CommandParts& parts, CommandRoad& road, MacroPlayer& 
 bool KeyFilter::KeyDown(int virtualKey, KeyModifiers modifiers)
 {
     if (parts_.Host.RestMode())
-        parts_.Host.PrintToGameWindow("\r\nLeaving rest mode.\r\n");
+        parts_.Host.PrintToGameWindow(REST_LEAVE_TEXT);
     parts_.Host.SetRestMode(false);
     KeyDecision decision = Decide(virtualKey, modifiers);
     Act(decision, modifiers);

@@ -54,23 +54,6 @@ void Gauge::SetColors(const GaugeColors& colors)
     Repaint(true);
 }
 
-void Gauge::SetBarColor(std::uint32_t color)
-{
-    colors_.BarColor = color;
-    Repaint(true);
-}
-
-void Gauge::SetTextColor(std::uint32_t color)
-{
-    colors_.GaugeTextColor = color;
-    Repaint(true);
-}
-
-void Gauge::SetBackColor(std::uint32_t color)
-{
-    colors_.GaugeBackColor = color;
-}
-
 bool Gauge::MenuCommand(int command, const GaugeColorPicker& pick)
 {
     std::uint32_t* color = command == GAUGE_MENU_BAR_COLOR    ? &colors_.BarColor

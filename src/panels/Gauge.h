@@ -90,9 +90,6 @@ class Gauge {
     void SetFlags(std::uint32_t flags);
     void Fill();
     void SetColors(const GaugeColors& colors);
-    void SetBarColor(std::uint32_t color);
-    void SetTextColor(std::uint32_t color);
-    void SetBackColor(std::uint32_t color);
     // A popup menu command: picks BarColor or GaugeBackColor (the boxes keep theirs), then
     // repaints with erasing. False, and nothing asked, for any other id.
     bool MenuCommand(int command, const GaugeColorPicker& pick);

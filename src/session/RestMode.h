@@ -7,7 +7,6 @@ constexpr int FRAME_TIMER_MS = 3000;
 constexpr int REST_TICK_LIMIT = 120;
 
 constexpr const char REST_ENTER_TEXT[] = "\r\nEntering rest mode...press any key to resume.\r\n";
-constexpr const char REST_LEAVE_TEXT[] = "\r\nLeaving rest mode.\r\n";
 
 // What rest mode sends on a tick.
 class RestSender {

@@ -42,7 +42,6 @@ class KeyTypePage : public MacroPage {
     QLabel* Label(int row) const { return labels_[row]; }
     // Stores the rows, then shows those of the key type.
     void ChooseKeyType(int keyType);
-    int KeyType() const { return keyType_; }
 
   protected:
     KeyTypePage(MacroStore& store, int rows);

@@ -61,7 +61,7 @@ QMdiSubWindow* ChildWindowSet::AddChild(WindowRow row, AnsiWindowWidget* view, c
     links_.Area.addSubWindow(sub);
     sub->setGeometry(place.left, place.top, place.Width(), place.Height());
     sub->show();
-    rows_[row] = {sub, view};
+    rows_[row] = {sub};
     connect(view, &QObject::destroyed, this, [this, row] { Forget(row); });
     return sub;
 }

@@ -74,7 +74,6 @@ class ChildWindowSet : public QObject, public ChildWindowHost {
   private:
     struct Record {
         QPointer<QMdiSubWindow> Sub;
-        AnsiWindowWidget* View = nullptr;
     };
 
     QMdiSubWindow* AddChild(WindowRow row, AnsiWindowWidget* view, const Rect& place);
