@@ -13,17 +13,17 @@ class CommandLineEdit {
   public:
     virtual ~CommandLineEdit() = default;
 
-    // WM_GETTEXT: copies at most capacity - 1 characters and a terminator; returns the count.
+    // Copies the text, at most capacity - 1 characters and a terminator; returns the count.
     virtual std::size_t GetText(char* out, std::size_t capacity) const = 0;
-    // WM_SETTEXT: replaces the text and puts the caret at its start.
+    // Replaces the text and puts the caret at its start.
     virtual void SetText(const char* text) = 0;
     // EM_SETSEL: positions past the end mean the end.
     virtual void SetSelection(int start, int end) = 0;
     // EM_GETSEL: start equals end for a collapsed caret.
     virtual void GetSelection(int& start, int& end) const = 0;
-    // WM_CHAR of a typed byte: replaces the selection, refused beyond COMMAND_LINE_LIMIT.
+    // A typed byte: replaces the selection, refused beyond COMMAND_LINE_LIMIT.
     virtual void TypeCharacter(char c) = 0;
-    // WM_CUT, WM_COPY, WM_PASTE, WM_CLEAR (deletes the selection only).
+    // Cut, copy, paste and clear (which deletes the selection only).
     virtual void Cut() = 0;
     virtual void Copy() = 0;
     virtual void Paste() = 0;

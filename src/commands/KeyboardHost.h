@@ -13,9 +13,9 @@ class KeyboardHost {
     virtual void SetRestMode(bool on) = 0;
     // PrintToWindow on the GameWindow.
     virtual void PrintToGameWindow(const char* text) = 0;
-    // WM_VSCROLL with an SB_ code to the frame's active child window, if any.
+    // Scrolls the frame's active child window, if any, by an SB_ code.
     virtual void ScrollActiveChild(int scrollCode) = 0;
-    // WM_MDINEXT to the frame's client window.
+    // Activates the next child window of the frame.
     virtual void NextChildWindow() = 0;
     // If the GameWindow exists: restore it when it is maximised, else maximise it.
     virtual void ToggleGameWindowMaximized() = 0;
@@ -25,11 +25,12 @@ class KeyboardHost {
     virtual void EndScrollback() = 0;
     virtual void SetFrameTitle(const char* title) = 0;
     virtual const char* CurrentCharacter() const = 0;
-    // WM_COPY to the frame's active child window, if any.
+    // Copies the selection of the frame's active child window, if any.
     virtual void CopyFromActiveChild() = 0;
-    // WM_CLOSE posted to the frame.
+    // Asks the frame to close, once the current message is served.
     virtual void PostClose() = 0;
-    // GETSTR_DIALOG with the title; false on Cancel. The answer holds at most capacity - 1.
+    // Asks for one line of text under the title; false on Cancel. The answer holds at most
+    // capacity - 1.
     virtual bool AskString(const char* title, char* answer, std::size_t capacity) = 0;
     // Waits the seconds while serving messages.
     virtual void PumpFor(int seconds) = 0;

@@ -24,7 +24,7 @@ class LogHost {
     // The chosen path is written NUL-terminated into path, cut to capacity.
     virtual bool AskSaveFileName(const SaveFileRequest& request, char* path,
                                  std::size_t capacity) = 0;
-    // MessageBoxA without owner.
+    // A message box that belongs to no window.
     virtual void ShowMessage(const char* text, const char* title) = 0;
     // MessageBeep(-1).
     virtual void Beep() = 0;

@@ -26,9 +26,9 @@ class SocketListener {
 
     // The largest block that the next read may deliver: 1 to RECEIVE_CHUNK_MAX bytes.
     virtual std::size_t BlockSize() const = 0;
-    // One received block of at most BlockSize bytes (FD_READ and one recv).
+    // One received block of at most BlockSize bytes: the bytes of one read.
     virtual void ReceiveBlock(const char* bytes, std::size_t length) = 0;
-    // The server closed the connection (FD_CLOSE); every received byte was handed on before.
+    // The server closed the connection; every received byte was handed on before.
     virtual void ConnectionClosed() = 0;
 };
 

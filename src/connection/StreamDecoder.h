@@ -34,7 +34,7 @@ class StreamDecoder {
   public:
     StreamDecoder(GameLineSink& sink, PacketDump& dump, const Settings& settings);
 
-    // The work of one FD_READ on the bytes that one read returned: dump, assemble, decode.
+    // The work on the bytes that one read of the socket returned: dump, assemble, decode.
     // A block longer than RECEIVE_CHUNK_MAX is taken as several blocks in a row.
     void HandleSocketEvent(const char* bytes, std::size_t length);
     // True once the server sends status records: a block's tail then waits for its line end.

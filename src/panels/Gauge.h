@@ -93,14 +93,14 @@ class Gauge {
     // A popup menu command: picks BarColor or GaugeBackColor (the boxes keep theirs), then
     // repaints with erasing. False, and nothing asked, for any other id.
     bool MenuCommand(int command, const GaugeColorPicker& pick);
-    // WM_SETTEXT: stored (cut to the buffer) for GF_CUSTOMTEXT.
+    // The gauge's own text, kept (cut to the buffer) and shown with GF_CUSTOMTEXT.
     void SetText(const char* text);
 
     // GM_STARTCOUNTDOWN: runs from Maximum down to Minimum in steps of 1000 ms.
     void StartCountdown(CountdownListener* notify);
     // GM_STOPCOUNTDOWN: ends a running countdown without telling anyone.
     void StopCountdown(CountdownListener* notify);
-    // WM_TIMER of the countdown.
+    // One second of the countdown has passed.
     void Tick();
 
     // The text PaintGauge shows, empty when none; returns out.

@@ -30,7 +30,7 @@ struct MenuItemState {
 // state; so does "Stop Script" while recording, which is why the state is kept between updates.
 class MenuState {
   public:
-    // WM_INITMENU: sets each item from the live state.
+    // A menu is about to open: sets each item from the live state.
     void Update(const MenuInputs& inputs);
     // The state of a command's item; commands that no rule names are enabled and unchecked,
     // unless their work comes with a later part of the program.

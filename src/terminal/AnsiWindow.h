@@ -73,14 +73,15 @@ class AnsiWindow : public FontTarget {
     bool HasSelection() const;
 
     // Events of the window system.
-    // WM_SETFONT: a null record gives the system's fixed-pitch font.
+    // Takes a new font; a null record gives the system's fixed-pitch font.
     void SetFont(const LogFontRecord* record, bool redraw) override;
     const LogFontRecord& GetFont() const { return Font; }
-    // WM_SIZE: relayout from the host's client area; a minimised window changes nothing.
+    // The window was resized: lays out again from the host's client area; a minimised window
+    // changes nothing.
     void Size(bool minimized);
     void Paint(DrawingLayer& layer, bool erase);
     void VScroll(int command, std::int32_t thumb);
-    // WM_MDIACTIVATE: the selection shows only in the active window.
+    // The window became active or inactive: the selection shows only in the active window.
     void MdiActivate();
 
     // The popup menu's Appearance commands.
@@ -98,7 +99,7 @@ class AnsiWindow : public FontTarget {
     void EndDrag();
     void LButtonDblClk(std::int32_t x, std::int32_t y);
     bool IsDragging() const { return Dragging; }
-    // WM_COPY and WM_CLEAR.
+    // Copy puts the selection on the clipboard; Clear drops the selection, not the text.
     void Copy();
     void Clear();
 

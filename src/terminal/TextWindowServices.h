@@ -18,7 +18,7 @@ class TextWindowServices {
     // Asks for a file name, asking before an existing file is replaced; false on cancel.
     virtual bool AskSaveFileName(const SaveFileRequest& request, char* path,
                                  std::size_t capacity) = 0;
-    // MessageBoxA without owner.
+    // A message box that belongs to no window.
     virtual void ShowMessage(const char* text, const char* title) = 0;
     // Opens the file in the text editor, or says that none started.
     virtual void RunNotepad(const std::string& path) = 0;

@@ -88,7 +88,7 @@ class Client : public QObject, private FrameQueue, private RestSender {
     void CopyToHighlights(int command);
     // The macro sheet, then the title, which shows the current set.
     void EditMacros();
-    // DRAG_DIALOG: OK takes the field as DragTarget, "Stop Dragging" empties it.
+    // Asks whom to drag: OK takes the field as DragTarget, "Stop Dragging" empties it.
     void AskDragTarget();
 
     struct CommandEntry {

@@ -23,17 +23,18 @@ class Desktop : public MessageBoxes, public ScriptFileDialogs {
 
     // GET_HOST; host and port come back as the player left them.
     virtual ConnectChoice AskConnection(QWidget* parent, std::string& host, int& port) = 0;
-    // EXIT_DIALOG: true to leave.
+    // The question before leaving: true to leave.
     virtual bool AskExit(QWidget* parent) = 0;
     // Opens the file in the desktop's text editor without waiting; false when none started.
     virtual bool RunEditor(const std::string& path) = 0;
     virtual bool AskSaveFileName(QWidget* parent, const SaveFileRequest& request, char* path,
                                  std::size_t capacity) = 0;
-    // GETSTR_DIALOG: false on Cancel; the answer holds at most capacity - 1 characters.
+    // Asks for one line of text under the title: false on Cancel; the answer holds at most
+    // capacity - 1 characters.
     virtual bool AskString(QWidget* parent, const char* title, char* answer,
                            std::size_t capacity) = 0;
-    // DRAG_DIALOG, filled with the target: true with the new target on OK, false when the
-    // player chose "Stop Dragging".
+    // Asks whom to drag, the field filled with the target: true with the new target on OK, false
+    // when the player chose "Stop Dragging".
     virtual bool AskDragTarget(QWidget* parent, std::string& target) = 0;
     // The player of the highlight and start-up sounds.
     virtual SoundPlayer& Sounds() = 0;

@@ -4,7 +4,7 @@ class QWidget;
 
 namespace steward {
 
-// EXIT_DIALOG: true only when the player chose to leave the game.
+// The question before leaving: true only when the player chose to leave the game.
 bool AskExit(QWidget* parent);
 
 } // namespace steward

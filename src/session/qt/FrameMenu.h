@@ -26,7 +26,7 @@ class FrameMenu : public QObject {
     FrameMenu(QMenuBar& bar, QMdiArea& mdi, CommandHandler onCommand, InputsSource inputs);
 
     QAction* Action(int command) const { return actions_.value(command); }
-    // WM_INITMENU: reads the live state into every item; each menu does it before it shows.
+    // Reads the live state into every item; each menu does it before it shows.
     void Refresh();
 
   private:

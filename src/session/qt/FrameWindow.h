@@ -37,11 +37,11 @@ class FrameWindow : public QMainWindow {
     struct Handlers {
         std::function<void(int)> Command;
         std::function<MenuInputs()> ReadMenuInputs;
-        // WM_CLOSE: true lets the frame close.
+        // The frame is asked to close: true lets it.
         std::function<bool()> Close;
         // A wheel turn over the frame: Shift held, and the amount.
         std::function<void(bool, int)> Wheel;
-        // WM_SIZE, after the frame was laid out anew.
+        // The frame was resized and laid out anew.
         std::function<void()> Resized;
     };
 
@@ -58,7 +58,7 @@ class FrameWindow : public QMainWindow {
     void SetCommandLine(QWidget* commandLine);
     QWidget* CommandLine() const { return commandLine_; }
     void SetDisplayMode(std::uint8_t mode);
-    // WM_SIZE: places everything for the display mode.
+    // Places everything for the display mode, after a resize or a change of mode.
     void LayoutFrame();
     // The last layout, with the panel's PanelTop worked out for every mode.
     const FrameLayout& Layout() const { return layout_; }

@@ -21,11 +21,11 @@ class MdiClient : public QMdiArea {
     bool Dying() const { return dying_; }
     void SetCommandLine(QWidget* commandLine) { commandLine_ = commandLine; }
 
-    // WM_MDITILE: horizontal tiling stacks the windows, vertical tiling sets them side by side.
+    // Tiling: horizontal tiling stacks the windows, vertical tiling sets them side by side.
     // Each of the three leaves the focus on the command line.
     void TileHorizontally();
     void TileVertically();
-    // WM_MDICASCADE: the open windows step down and right by a title bar's height each, every
+    // Cascade: the open windows step down and right by a title bar's height each, every
     // one as large as the room left below and right of its corner.
     void Cascade();
 
