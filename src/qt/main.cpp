@@ -1,6 +1,7 @@
 #include "base/Trace.h"
 #include "base/qt/ProgramFiles.h"
 #include "config/ConfigFiles.h"
+#include "session/CharacterList.h"
 #include "session/qt/Client.h"
 #include "session/qt/Desktop.h"
 #include "session/qt/SignalPipe.h"
@@ -29,6 +30,8 @@ steward::ClientOptions ReadCommandLine(const QStringList& arguments)
     for (; i < arguments.size(); ++i) {
         if (arguments[i] == QLatin1String("--trace")) {
             steward::SetTraceEnabled(true);
+        } else if (arguments[i] == QLatin1String("--character") && i + 1 < arguments.size()) {
+            options.Character = arguments[++i].toLocal8Bit().toStdString();
         } else if (arguments[i] == QLatin1String("--packet-dump") && i + 1 < arguments.size()) {
             options.PacketDumpPath = arguments[++i].toLocal8Bit().toStdString();
         } else {
@@ -53,6 +56,11 @@ int main(int argc, char** argv)
 {
     QApplication app(argc, argv);
     steward::ClientOptions options = ReadCommandLine(QCoreApplication::arguments());
+    if (const char* problem = steward::CheckNameCharacters(options.Character.c_str());
+        problem && !options.Character.empty()) {
+        std::fprintf(stderr, "thornmere-steward: --character: %s\n", problem);
+        return 2;
+    }
     const std::string folder = ProgramFolder();
 
     QLockFile lock(QDir(QString::fromLocal8Bit(folder.c_str())).filePath(LOCK_FILE_NAME));

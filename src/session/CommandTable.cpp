@@ -22,9 +22,10 @@ constexpr std::array<FixedTextCommand, 19> FIXED_TEXTS = {{
     {40024, "world"},
 }};
 
-constexpr std::array<int, 8> LATER_COMMANDS = {
-    CMD_HIGHLIGHT_STRINGS, CMD_ABOUT,        CMD_OPTIONS,       CMD_MACRO_KEYS,
-    CMD_NEW_CHARACTER,     CMD_HOME_PAGE,    CMD_MESSAGE_BOARD, CMD_COPY_TO_COMMAND_LINE,
+constexpr std::array<int, 3> LATER_COMMANDS = {
+    CMD_HIGHLIGHT_STRINGS,
+    CMD_MACRO_KEYS,
+    CMD_COPY_TO_COMMAND_LINE,
 };
 
 } // namespace

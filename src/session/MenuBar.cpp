@@ -57,6 +57,7 @@ constexpr std::array CONFIGURATION_MENU = {
     Item(CMD_FULL_SCREEN, "Full-Screen Mode"),
     SEPARATOR,
     Sub("Characters"),
+    SEPARATOR,
     Item(CMD_NEW_CHARACTER, "Create a new Character Profile..."),
     END_SUB,
 };

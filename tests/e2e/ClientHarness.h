@@ -1,5 +1,6 @@
 #pragma once
 
+#include "base/ByteText.h"
 #include "config/ConfigFiles.h"
 #include "highlights/SoundPlayer.h"
 #include "session/qt/Client.h"
@@ -7,6 +8,7 @@
 #include "session/qt/FrameWindow.h"
 #include "terminal/AnsiWindow.h"
 #include "terminal/TextBuffer.h"
+#include "support/RecordingBrowser.h"
 
 #include <QApplication>
 #include <QFile>
@@ -63,13 +65,22 @@ class RecordingDesktop : public Desktop {
         return false;
     }
     void Beep() override {}
-    bool AskString(QWidget*, const char*, char*, std::size_t) override { return false; }
+    bool AskString(QWidget*, const char* title, char* answer, std::size_t capacity) override
+    {
+        stringTitles.emplace_back(title);
+        if (!stringAnswer)
+            return false;
+        CopyCut(answer, capacity, stringAnswer);
+        return true;
+    }
     bool AskDragTarget(QWidget*, std::string& target) override
     {
         target = dragTarget;
         return true;
     }
     SoundPlayer& Sounds() override { return sounds; }
+    Browser& WebBrowser() override { return browser; }
+    std::string PickFolder(QWidget*, const char*) override { return {}; }
     // The script dialogs answer with the files the test names; the folder is kept.
     std::string ChooseScriptFile(QWidget*, const std::string& folder, bool) override
     {
@@ -84,6 +95,10 @@ class RecordingDesktop : public Desktop {
     std::string CreateScript(QWidget*, const std::string&) override { return {}; }
 
     RecordingSoundPlayer sounds;
+    RecordingBrowser browser;
+    // AskString's answer; null is Cancel.
+    const char* stringAnswer = nullptr;
+    std::vector<std::string> stringTitles;
     std::string scriptFile;
     std::string recordFile;
     std::string scriptFolder;

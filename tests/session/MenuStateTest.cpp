@@ -128,8 +128,9 @@ TEST(MenuState, ScriptItemsKeepARunningScriptAndARecordingApart)
 TEST(MenuState, CommandsOfLaterPartsStayGrey)
 {
     MenuInputs in;
-    EXPECT_FALSE(After(in, CMD_ABOUT).Enabled);
-    EXPECT_FALSE(After(in, CMD_OPTIONS).Enabled);
+    EXPECT_FALSE(After(in, CMD_HIGHLIGHT_STRINGS).Enabled);
+    EXPECT_TRUE(After(in, CMD_ABOUT).Enabled);
+    EXPECT_TRUE(After(in, CMD_OPTIONS).Enabled);
     EXPECT_TRUE(After(in, CMD_INFO_GENERAL).Enabled);
     EXPECT_TRUE(After(in, CMD_EXIT).Enabled);
 }

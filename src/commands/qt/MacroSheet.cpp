@@ -2,6 +2,7 @@
 
 #include "commands/MacroKeyTypes.h"
 #include "commands/MacroSlots.h"
+#include "services/qt/CenterWindow.h"
 
 #include <QButtonGroup>
 #include <QComboBox>
@@ -234,6 +235,7 @@ void MacroSheet::accept()
 void ShowMacroSheet(QWidget* owner, MacroStore& store)
 {
     MacroSheet sheet(store, owner);
+    CenterWindow(sheet);
     sheet.exec();
 }
 

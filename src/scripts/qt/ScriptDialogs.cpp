@@ -1,6 +1,7 @@
 #include "scripts/qt/ScriptDialogs.h"
 
 #include "config/FileHandle.h"
+#include "services/qt/CenterWindow.h"
 
 #include <QButtonGroup>
 #include <QFile>
@@ -138,6 +139,7 @@ std::string ScriptCreatorDialog(QWidget* parent, const std::string& folder)
     auto* name = new ScriptNamePage(folder, *kind);
     sheet.addPage(kind);
     sheet.addPage(name);
+    CenterWindow(sheet);
     if (sheet.exec() != QDialog::Accepted)
         return {};
     return name->Path();

@@ -5,6 +5,7 @@
 #include "config/CharacterProfile.h"
 #include "config/IniStore.h"
 #include "session/qt/MdiClient.h"
+#include "terminal/TextBuffer.h"
 #include "terminal/qt/AnsiWindowWidget.h"
 
 #include <QEvent>
@@ -89,6 +90,26 @@ bool ChildWindowSet::Save(const std::string& profilePath)
             saved = window->SaveState(profilePath) && saved;
     }
     return WriteOpenWindows(profilePath, OpenWindowsLetters(open, ActiveRow())) && saved;
+}
+
+ChildWindowSet::SavedBuffers ChildWindowSet::CloneAndClose()
+{
+    SavedBuffers saved;
+    for (const WindowTableRow& row : WindowTable)
+        if (AnsiWindow* window = Window(row.Row)) {
+            saved[row.Row] = window->CloneBuffer();
+            Child(row.Row)->close();
+        }
+    return saved;
+}
+
+void ChildWindowSet::RestoreBuffers(SavedBuffers& saved)
+{
+    for (const WindowTableRow& row : WindowTable) {
+        if (AnsiWindow* window = Window(row.Row))
+            window->RestoreBuffer(std::move(saved[row.Row]));
+        saved[row.Row].reset();
+    }
 }
 
 void ChildWindowSet::Arrange(bool force)

@@ -8,6 +8,7 @@
 #include <QPointer>
 
 #include <array>
+#include <memory>
 #include <string>
 
 class QWidget;
@@ -15,6 +16,7 @@ class QWidget;
 namespace steward {
 
 class AnsiWindow;
+class TextBuffer;
 class AnsiWindowWidget;
 class LinePipeline;
 class MdiClient;
@@ -46,6 +48,13 @@ class ChildWindowSet : public QObject, public ChildWindowHost {
     void Restore(const std::string& profilePath);
     // Writes each open window's state and the profile's "Open Windows".
     [[nodiscard]] bool Save(const std::string& profilePath);
+
+    // The text of each row's window while the character changes.
+    using SavedBuffers = std::array<std::unique_ptr<TextBuffer>, WINDOW_ROWS>;
+    // Copies the text of every open window, then closes them all.
+    SavedBuffers CloneAndClose();
+    // Gives each row's copy to the row's window; the copy of a row without one is dropped.
+    void RestoreBuffers(SavedBuffers& saved);
     // ArrangeWindows with the profile's AutoArrange.
     void Arrange(bool force);
 

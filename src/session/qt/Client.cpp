@@ -8,6 +8,8 @@
 #include "commands/qt/KeyFilterQt.h"
 #include "panels/qt/StatusPanelView.h"
 #include "scripts/qt/ScriptControl.h"
+#include "session/CharacterList.h"
+#include "session/qt/CharacterMenu.h"
 #include "session/qt/ChildWindowSet.h"
 #include "session/qt/ConnectionChoice.h"
 #include "session/qt/Desktop.h"
@@ -41,6 +43,7 @@ Client::Client(ClientOptions options, Desktop& desktop)
       socket_(link_), logs_(session_, link_, desktop)
 {
     session_.Files = options_.Files;
+    EnsureProfileFiles(session_.Files);
     sounds_.SetSoundPath(SoundPath(session_.Files));
     for (std::size_t i = 0; i < PROFILE_GAUGE_COUNT; ++i)
         GaugeFor(session_.Panel, static_cast<ProfileGauge>(i)).SetTimer(&gaugeTimer_);
@@ -76,6 +79,9 @@ Client::Client(ClientOptions options, Desktop& desktop)
     profile_ = std::make_unique<QtProfileHost>(
         QtProfileHost::Links{session_.Files, session_.Profile, session_.Panel, highlights_,
                              keyboard_->Macros, *keyFilter_, *windows_, *frame_});
+    characters_ = std::make_unique<CharacterMenu>(
+        CharacterMenu::Links{session_, *profile_, *windows_, *frame_, desktop_,
+                             [this](int command) { OnCommand(command); }});
     connect(&timer_, &QTimer::timeout, this, [this] { session_.Rest.OnTimer(*this); });
     connect(QAbstractEventDispatcher::instance(), &QAbstractEventDispatcher::awake, this,
             &Client::OnLoopTurn);
@@ -90,7 +96,7 @@ Client::~Client()
 
 bool Client::Start()
 {
-    profile_->Load();
+    profile_->Load(options_.Character.empty() ? nullptr : options_.Character.c_str());
     frame_->SetDisplayMode(session_.Profile.Settings.DisplayMode);
     PlaceFrame(*frame_, session_.Profile.ProfilePath);
     logs_.ShowVersionNotesOnce(*this);
@@ -106,6 +112,7 @@ bool Client::Start()
     AnnouncePacketDump(session_.PacketDump, logs_);
     PlayStartMusic(sounds_, session_.Profile.Settings.SquelchSounds != 0);
     frame_->activateWindow();
+    characters_->BuildCharacterMenu();
     frame_->FocusCommandLine();
     started_ = true;
     return true;

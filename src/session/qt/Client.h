@@ -19,6 +19,7 @@
 
 namespace steward {
 
+class CharacterMenu;
 class ChildWindowSet;
 class CommandLine;
 class Desktop;
@@ -37,6 +38,8 @@ struct ClientOptions {
     std::string ConnectionString;
     // --packet-dump FILE.
     std::string PacketDumpPath;
+    // --character NAME: the profile to start with instead of LastChar.
+    std::string Character;
 };
 
 // The client: start-up and shutdown, the switchboard of frame commands and the frame's queue.
@@ -90,6 +93,8 @@ class Client : public QObject, private FrameQueue, private RestSender {
     void EditMacros();
     // Asks whom to drag: OK takes the field as DragTarget, "Stop Dragging" empties it.
     void AskDragTarget();
+    // The options sheet; the sounds follow a new Sound Path at once.
+    void EditOptions();
 
     struct CommandEntry {
         int Command;
@@ -121,6 +126,7 @@ class Client : public QObject, private FrameQueue, private RestSender {
     std::unique_ptr<Keyboard> keyboard_;
     std::unique_ptr<KeyFilterQt> keyFilter_;
     std::unique_ptr<QtProfileHost> profile_;
+    std::unique_ptr<CharacterMenu> characters_;
     std::unique_ptr<ScriptControl> scripts_;
     QTimer timer_;
     // A start that ended before the loop leaves LastChar as it was.

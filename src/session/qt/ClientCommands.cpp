@@ -7,9 +7,13 @@
 #include "commands/Keyboard.h"
 #include "commands/qt/CommandLine.h"
 #include "commands/qt/MacroSheet.h"
+#include "config/qt/OptionsSheet.h"
+#include "services/WebAddress.h"
+#include "services/qt/AboutDialog.h"
 #include "highlights/qt/QtClipboardReader.h"
 #include "scripts/qt/ScriptControl.h"
 #include "session/CommandTable.h"
+#include "session/qt/CharacterMenu.h"
 #include "session/qt/ChildWindowSet.h"
 #include "session/qt/ConnectionChoice.h"
 #include "session/qt/Desktop.h"
@@ -76,6 +80,12 @@ const Client::CommandEntry Client::COMMANDS[] = {
     {CMD_STOP_RECORDING, [](Client& c) { c.scripts_->StopRecording(); }},
     {CMD_EDIT_SCRIPT, [](Client& c) { c.logs_.RunNotepad(c.scripts_->ChooseScriptToEdit()); }},
     {CMD_CREATE_SCRIPT, [](Client& c) { c.logs_.RunNotepad(c.scripts_->CreateScript()); }},
+    {CMD_NEW_CHARACTER, [](Client& c) { c.characters_->CreateCharacter(); }},
+    {CMD_OPTIONS, [](Client& c) { c.EditOptions(); }},
+    {CMD_ABOUT, [](Client& c) { ShowAboutDialog(c.frame_.get()); }},
+    {CMD_HOME_PAGE, [](Client& c) { OpenUrl(c.desktop_.WebBrowser(), HOME_PAGE_ADDRESS); }},
+    {CMD_MESSAGE_BOARD,
+     [](Client& c) { OpenUrl(c.desktop_.WebBrowser(), MESSAGE_BOARD_ADDRESS); }},
 };
 
 void Client::OnCommand(int command)
@@ -83,7 +93,7 @@ void Client::OnCommand(int command)
     if (ServeFixedCommand(command))
         return;
     if (command >= CMD_FIRST_CHARACTER && command <= CMD_LAST_CHARACTER)
-        return;
+        return characters_->SwitchCharacter(command);
     for (const CommandEntry& entry : COMMANDS)
         if (entry.Command == command) {
             entry.Serve(*this);
@@ -142,6 +152,15 @@ void Client::EditMacros()
     ShowMacroSheet(frame_.get(), keyboard_->Macros);
     profile_->RefreshTitle();
     frame_->FocusCommandLine();
+}
+
+void Client::EditOptions()
+{
+    ShowOptions(frame_.get(), session_.Profile, session_.Files,
+                [this](QWidget* owner, const char* title) {
+                    return desktop_.PickFolder(owner, title);
+                });
+    sounds_.SetSoundPath(SoundPath(session_.Files));
 }
 
 void Client::AskDragTarget()

@@ -1,14 +1,14 @@
 #include "session/qt/ConnectDialog.h"
 
+#include "services/qt/CenterWindow.h"
+
 #include "connection/ConnectionString.h"
 
 #include <QDialogButtonBox>
 #include <QFormLayout>
-#include <QGuiApplication>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
-#include <QScreen>
 #include <QVBoxLayout>
 
 namespace steward {
@@ -72,11 +72,7 @@ void ConnectDialog::Finish(ConnectChoice choice)
 ConnectChoice ShowConnectDialog(QWidget* parent, std::string& host, int& port)
 {
     ConnectDialog dialog(host, port, parent);
-    dialog.adjustSize();
-    if (QScreen* screen = QGuiApplication::primaryScreen()) {
-        QRect area = screen->availableGeometry();
-        dialog.move(area.center() - dialog.rect().center());
-    }
+    CenterWindow(dialog);
     dialog.exec();
     host = dialog.Host();
     port = dialog.Port();

@@ -3,6 +3,7 @@
 #include "base/ByteText.h"
 
 #include "scripts/qt/ScriptDialogs.h"
+#include "services/qt/CenterWindow.h"
 #include "session/qt/ExitDialog.h"
 
 #include <QApplication>
@@ -36,6 +37,7 @@ bool AskLine(QWidget* parent, const QString& title, const QString& label, const 
     auto* form = new QFormLayout(&dialog);
     form->addRow(label, field);
     form->addRow(buttons);
+    CenterWindow(dialog);
     if (dialog.exec() != QDialog::Accepted)
         return false;
     text = field->text();
@@ -112,6 +114,14 @@ bool QtDesktop::AskDragTarget(QWidget* parent, std::string& target)
 void QtDesktop::Beep()
 {
     QApplication::beep();
+}
+
+std::string QtDesktop::PickFolder(QWidget* parent, const char* title)
+{
+    const QString folder =
+        QFileDialog::getExistingDirectory(parent, QString::fromLatin1(title), QString(),
+                                          QFileDialog::ShowDirsOnly);
+    return folder.toLocal8Bit().toStdString();
 }
 
 std::string QtDesktop::ChooseScriptFile(QWidget* parent, const std::string& folder, bool forEditing)

@@ -5,6 +5,7 @@
 #include "highlights/SoundPlayer.h"
 #include "highlights/qt/QtSoundPlayer.h"
 #include "scripts/qt/ScriptDialogs.h"
+#include "services/qt/DesktopBrowser.h"
 #include "session/qt/ConnectDialog.h"
 
 #include <cstddef>
@@ -38,6 +39,10 @@ class Desktop : public MessageBoxes, public ScriptFileDialogs {
     virtual bool AskDragTarget(QWidget* parent, std::string& target) = 0;
     // The player of the highlight and start-up sounds.
     virtual SoundPlayer& Sounds() = 0;
+    // The browser of the web addresses.
+    virtual Browser& WebBrowser() = 0;
+    // The folder picker: a folder, or empty on Cancel.
+    virtual std::string PickFolder(QWidget* parent, const char* title) = 0;
 };
 
 // The real dialogs and the desktop's own editor.
@@ -53,6 +58,8 @@ class QtDesktop : public Desktop {
     bool AskString(QWidget* parent, const char* title, char* answer, std::size_t capacity) override;
     bool AskDragTarget(QWidget* parent, std::string& target) override;
     SoundPlayer& Sounds() override { return sounds_; }
+    Browser& WebBrowser() override { return browser_; }
+    std::string PickFolder(QWidget* parent, const char* title) override;
     std::string ChooseScriptFile(QWidget* parent, const std::string& folder,
                                  bool forEditing) override;
     std::string AskRecordFile(QWidget* parent, const std::string& folder) override;
@@ -60,6 +67,7 @@ class QtDesktop : public Desktop {
 
   private:
     QtSoundPlayer sounds_;
+    DesktopBrowser browser_;
 };
 
 } // namespace steward

@@ -12,9 +12,9 @@
 
 namespace steward {
 
-void QtProfileHost::Load()
+void QtProfileHost::Load(const char* name, bool createOnly)
 {
-    LoadProfile(links_.Files, links_.Profile, *this, nullptr, false);
+    LoadProfile(links_.Files, links_.Profile, *this, name, createOnly);
 }
 
 bool QtProfileHost::Save()

@@ -29,8 +29,8 @@ class QtProfileHost : private ProfileParts {
 
     explicit QtProfileHost(const Links& links) : links_(links) {}
 
-    // LoadProfile of LastChar.
-    void Load();
+    // LoadProfile of the named character, or of LastChar when name is null.
+    void Load(const char* name = nullptr, bool createOnly = false);
     // SaveProfile of the current character; false when a file of it could not be written.
     [[nodiscard]] bool Save();
     // The frame's title again, after the current macro set may have changed.

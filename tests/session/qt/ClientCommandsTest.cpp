@@ -9,6 +9,7 @@
 #include "session/qt/FrameMenu.h"
 #include "session/qt/FrameWindow.h"
 #include "session/qt/MdiClient.h"
+#include "support/RecordingBrowser.h"
 #include "terminal/AnsiWindow.h"
 
 #include <QAction>
@@ -68,11 +69,14 @@ class OfflineDesktop : public Desktop {
         return dragOk;
     }
     SoundPlayer& Sounds() override { return sounds; }
+    Browser& WebBrowser() override { return browser; }
+    std::string PickFolder(QWidget*, const char*) override { return {}; }
     std::string ChooseScriptFile(QWidget*, const std::string&, bool) override { return {}; }
     std::string AskRecordFile(QWidget*, const std::string&) override { return {}; }
     std::string CreateScript(QWidget*, const std::string&) override { return {}; }
 
     SilentPlayer sounds;
+    test::RecordingBrowser browser;
     std::string shownTarget;
     std::string dragAnswer;
     bool dragOk = true;

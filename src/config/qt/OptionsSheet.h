@@ -1,0 +1,105 @@
+#pragma once
+
+#include "config/CharacterProfile.h"
+#include "config/ConfigFiles.h"
+
+#include <QDialog>
+
+#include <array>
+#include <functional>
+#include <string>
+
+class QCheckBox;
+class QLineEdit;
+class QTabWidget;
+
+namespace steward {
+
+// One page of the options sheet: it shows its fields when it is made and writes them back on OK.
+class OptionsPage : public QWidget {
+  public:
+    virtual void Apply() = 0;
+};
+
+// The flags of Settings, the prefix of script commands and the shortest remembered command.
+class SettingsPage : public OptionsPage {
+  public:
+    static constexpr int FLAG_COUNT = 9;
+
+    explicit SettingsPage(Settings& settings);
+    void Apply() override;
+    QCheckBox* Flag(int index) const { return flags_[index]; }
+    QLineEdit* Prefix() const { return prefix_; }
+    QLineEdit* MinLength() const { return minLength_; }
+
+  private:
+    Settings& settings_;
+    std::array<QCheckBox*, FLAG_COUNT> flags_{};
+    QLineEdit* prefix_;
+    QLineEdit* minLength_;
+};
+
+// The four equipment commands of the tool buttons.
+class InventoryPage : public OptionsPage {
+  public:
+    static constexpr int COMMAND_COUNT = 4;
+
+    explicit InventoryPage(CharacterProfile& profile);
+    void Apply() override;
+    QLineEdit* Command(int index) const { return edits_[index]; }
+
+  private:
+    CharacterProfile& profile_;
+    std::array<QLineEdit*, COMMAND_COUNT> edits_{};
+};
+
+// A folder chosen by the player under a title; empty on Cancel.
+using FolderPicker = std::function<std::string(QWidget* owner, const char* title)>;
+
+// Sound Path and Script Path of the main ini, each with a "Locate" button.
+class PathsPage : public OptionsPage {
+  public:
+    static constexpr int PATH_COUNT = 2;
+
+    PathsPage(const ConfigFiles& files, FolderPicker pick);
+    void Apply() override;
+    QLineEdit* Path(int index) const { return edits_[index]; }
+    // The "Locate" button of a path.
+    void Locate(int index);
+
+  private:
+    const ConfigFiles& files_;
+    FolderPicker pick_;
+    std::array<QLineEdit*, PATH_COUNT> edits_{};
+};
+
+// "Configuration Options": three pages, OK and Cancel. A page is made when it is first shown,
+// so a page never opened changes nothing; the two folders are written to the main ini on OK,
+// the rest stays in memory until the profile is saved.
+class OptionsSheet : public QDialog {
+    Q_OBJECT
+  public:
+    static constexpr int TAB_COUNT = 3;
+
+    OptionsSheet(CharacterProfile& profile, const ConfigFiles& files, FolderPicker pick,
+                 QWidget* owner);
+    QTabWidget* Tabs() const { return tabs_; }
+    // The page of that tab, or null while it was never shown.
+    OptionsPage* Page(int tab) const { return tab >= 0 && tab < TAB_COUNT ? pages_[tab] : nullptr; }
+    void accept() override;
+
+  private:
+    void MakePage(int tab);
+
+    CharacterProfile& profile_;
+    const ConfigFiles& files_;
+    FolderPicker pick_;
+    QTabWidget* tabs_;
+    std::array<OptionsPage*, TAB_COUNT> pages_{};
+};
+
+// Runs the sheet modally, centred on the screen; true on OK.
+bool ShowOptions(QWidget* owner, CharacterProfile& profile, const ConfigFiles& files,
+                 FolderPicker pick);
+
+} // namespace steward
