@@ -27,7 +27,7 @@ constexpr char UNWRITABLE_TEXT[] =
 
 } // namespace
 
-CharacterMenu::CharacterMenu(const Links& links) : QObject(&links.Frame), links_(links) {}
+CharacterMenu::CharacterMenu(const Links& links) : links_(links) {}
 
 QMenu* CharacterMenu::Submenu() const
 {

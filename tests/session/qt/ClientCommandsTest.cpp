@@ -447,5 +447,17 @@ TEST_F(ClientCommandsTest, MenuFollowsTheOfflineState)
     EXPECT_TRUE(menu.Action(CMD_AUTO_ARRANGE)->isChecked());
 }
 
+TEST_F(ClientCommandsTest, InternetMenuOpensItsAddressesInTheBrowser)
+{
+    FrameMenu& menu = client->Frame().Menu();
+    menu.Refresh();
+    menu.Action(CMD_HOME_PAGE)->trigger();
+    menu.Action(CMD_MESSAGE_BOARD)->trigger();
+    ASSERT_EQ(desktop.browser.opened.size(), 2u);
+    EXPECT_NE(desktop.browser.opened[0], desktop.browser.opened[1]);
+    for (const std::string& address : desktop.browser.opened)
+        EXPECT_EQ(address.rfind("https://", 0), 0u) << address;
+}
+
 } // namespace
 } // namespace steward
