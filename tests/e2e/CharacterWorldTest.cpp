@@ -1,6 +1,6 @@
 #include "ClientHarness.h"
-#include "base/ColorCode.h"
 #include "base/ByteText.h"
+#include "base/ColorCode.h"
 #include "base/FrameCommand.h"
 #include "commands/MacroStore.h"
 #include "config/BinaryRecords.h"
@@ -79,7 +79,8 @@ TEST_F(CharacterWorldTest, SwitchingLoadsTheOtherCharacterKeepsTheTextAndSendsNo
     auto client = LoggedInClient();
     ASSERT_TRUE(client);
     ASSERT_TRUE(client->State().Windows.ThoughtWindow);
-    EXPECT_EQ(Listed(*client), (QStringList{"Beta", "Default*", "Gamma", "Create a new Character Profile..."}));
+    EXPECT_EQ(Listed(*client),
+              (QStringList{"Beta", "Default*", "Gamma", "Create a new Character Profile..."}));
     const QByteArray sentBefore = SentAfterAWhile();
 
     Choose(*client, "Beta");
@@ -100,7 +101,8 @@ TEST_F(CharacterWorldTest, SwitchingLoadsTheOtherCharacterKeepsTheTextAndSendsNo
     const std::string salmon = ColorOnText(12) + std::string("salmon");
     EXPECT_TRUE(QTest::qWaitFor(
         [&] {
-            return WindowBytes(client->State().Windows.GameWindow).find(salmon) != std::string::npos;
+            return WindowBytes(client->State().Windows.GameWindow).find(salmon) !=
+                   std::string::npos;
         },
         WAIT_MS));
 

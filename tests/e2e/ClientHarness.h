@@ -6,9 +6,9 @@
 #include "session/qt/Client.h"
 #include "session/qt/Desktop.h"
 #include "session/qt/FrameWindow.h"
+#include "support/RecordingBrowser.h"
 #include "terminal/AnsiWindow.h"
 #include "terminal/TextBuffer.h"
-#include "support/RecordingBrowser.h"
 
 #include <QApplication>
 #include <QFile>

@@ -1,4 +1,5 @@
 #include "services/WebAddress.h"
+#include "support/RecordingBrowser.h"
 
 #include <gtest/gtest.h>
 
@@ -30,21 +31,21 @@ TEST_P(EscapeUrlBytes, EachClassOfByte)
     EXPECT_EQ(Escaped(GetParam().source, GetParam().plusForSpace), GetParam().expected);
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Classes, EscapeUrlBytes,
-    ::testing::Values(
-        EscapeCase{"LettersAndDigits", "AZaz09", true, "AZaz09"},
-        EscapeCase{"SevenKeptMarks", "http://a.b/c?d=e&f-g", true, "http://a.b/c?d=e&f-g"},
-        EscapeCase{"SpaceAsPlus", "a b", true, "a+b"},
-        EscapeCase{"SpaceKept", "a b", false, "a b"},
-        EscapeCase{"PercentSign", "100%", true, "100%25"},
-        EscapeCase{"Underscore", "a_b", true, "a%5Fb"},
-        EscapeCase{"PlusSign", "a+b", true, "a%2Bb"},
-        EscapeCase{"HighByteUnsigned", "caf\xE9", true, "caf%E9"},
-        EscapeCase{"ByteFF", "\xFF", true, "%FF"},
-        EscapeCase{"ControlByte", "\x01\x7F", true, "%01%7F"},
-        EscapeCase{"Empty", "", true, ""}),
-    [](const auto& info) { return std::string(info.param.name); });
+INSTANTIATE_TEST_SUITE_P(Classes, EscapeUrlBytes,
+                         ::testing::Values(EscapeCase{"LettersAndDigits", "AZaz09", true, "AZaz09"},
+                                           EscapeCase{"SevenKeptMarks", "http://a.b/c?d=e&f-g",
+                                                      true, "http://a.b/c?d=e&f-g"},
+                                           EscapeCase{"SpaceAsPlus", "a b", true, "a+b"},
+                                           EscapeCase{"SpaceKept", "a b", false, "a b"},
+                                           EscapeCase{"PercentSign", "100%", true, "100%25"},
+                                           EscapeCase{"Underscore", "a_b", true, "a%5Fb"},
+                                           EscapeCase{"PlusSign", "a+b", true, "a%2Bb"},
+                                           EscapeCase{"HighByteUnsigned", "caf\xE9", true,
+                                                      "caf%E9"},
+                                           EscapeCase{"ByteFF", "\xFF", true, "%FF"},
+                                           EscapeCase{"ControlByte", "\x01\x7F", true, "%01%7F"},
+                                           EscapeCase{"Empty", "", true, ""}),
+                         [](const auto& info) { return std::string(info.param.name); });
 
 struct LimitCase {
     const char* name;
@@ -62,14 +63,12 @@ TEST_P(EscapeUrlLimit, LongAddressesAreCutBeforeAWholeEscape)
     EXPECT_EQ(escaped.substr(escaped.size() >= 3 ? escaped.size() - 3 : 0), "%5F");
 }
 
-INSTANTIATE_TEST_SUITE_P(Lengths, EscapeUrlLimit,
-                         ::testing::Values(LimitCase{"FitsWhole", URL_ESCAPABLE_LENGTH,
-                                                     URL_ESCAPABLE_LENGTH * 3},
-                                           LimitCase{"OneMoreIsCut", URL_ESCAPABLE_LENGTH + 1,
-                                                     URL_ESCAPABLE_LENGTH * 3},
-                                           LimitCase{"FarTooLong", 5000,
-                                                     URL_ESCAPABLE_LENGTH * 3}),
-                         [](const auto& info) { return std::string(info.param.name); });
+INSTANTIATE_TEST_SUITE_P(
+    Lengths, EscapeUrlLimit,
+    ::testing::Values(LimitCase{"FitsWhole", URL_ESCAPABLE_LENGTH, URL_ESCAPABLE_LENGTH * 3},
+                      LimitCase{"OneMoreIsCut", URL_ESCAPABLE_LENGTH + 1, URL_ESCAPABLE_LENGTH * 3},
+                      LimitCase{"FarTooLong", 5000, URL_ESCAPABLE_LENGTH * 3}),
+    [](const auto& info) { return std::string(info.param.name); });
 
 TEST(EscapeUrl, SmallTargetNeverSplitsAnEscape)
 {
@@ -78,16 +77,7 @@ TEST(EscapeUrl, SmallTargetNeverSplitsAnEscape)
     EXPECT_EQ(Escaped("abc", true, 1), "");
 }
 
-class RecordingBrowser : public Browser {
-  public:
-    bool Open(const char* address) override
-    {
-        opened.emplace_back(address);
-        return answer;
-    }
-    std::vector<std::string> opened;
-    bool answer = true;
-};
+using test::RecordingBrowser;
 
 struct WordCase {
     const char* name;

@@ -64,11 +64,11 @@ INSTANTIATE_TEST_SUITE_P(Folders, CharacterMenuCounts,
 
 TEST_F(CharacterListTest, NamesAreCapitalisedAndKeepTheirFile)
 {
-    for (const char* name : {"BOB.Dat", "anna maria.Dat", "mr.smith.Dat", "Carl.Macros",
-                             "dora.dat", ".Dat", "Eve.Dat.bak"})
+    for (const char* name : {"BOB.Dat", "anna maria.Dat", "mr.smith.Dat", "Carl.Macros", "dora.dat",
+                             ".Dat", "Eve.Dat.bak"})
         Touch(name);
-    EXPECT_EQ(Texts("bob"), (std::vector<std::string>{"Anna maria=anna maria", "Bob=BOB*",
-                                                      "Mr.smith=mr.smith"}));
+    EXPECT_EQ(Texts("bob"),
+              (std::vector<std::string>{"Anna maria=anna maria", "Bob=BOB*", "Mr.smith=mr.smith"}));
 }
 
 TEST_F(CharacterListTest, TwentyFirstIsNotListedEvenWhenCurrent)
@@ -110,11 +110,13 @@ TEST_P(NewCharacterNames, RefusedWithAMessage)
 
 INSTANTIATE_TEST_SUITE_P(
     Names, NewCharacterNames,
-    ::testing::Values(NameCase{"Plain", "Alice", false}, NameCase{"WithSpaceAndDot", "Dr. Who", false},
-                      NameCase{"Empty", "", true}, NameCase{"Slash", "../Alice", true},
-                      NameCase{"Backslash", "a\\b", true}, NameCase{"Colon", "c:x", true},
-                      NameCase{"ControlByte", "a\tb", true}, NameCase{"LeadingDot", ".hidden", true},
-                      NameCase{"LeadingSpace", " Al", true}, NameCase{"ExistsInOtherCase", "BOB", true}),
+    ::testing::Values(NameCase{"Plain", "Alice", false},
+                      NameCase{"WithSpaceAndDot", "Dr. Who", false}, NameCase{"Empty", "", true},
+                      NameCase{"Slash", "../Alice", true}, NameCase{"Backslash", "a\\b", true},
+                      NameCase{"Colon", "c:x", true}, NameCase{"ControlByte", "a\tb", true},
+                      NameCase{"LeadingDot", ".hidden", true},
+                      NameCase{"LeadingSpace", " Al", true},
+                      NameCase{"ExistsInOtherCase", "BOB", true}),
     [](const auto& info) { return std::string(info.param.name); });
 
 TEST(ConfigurationMenuPosition, MovesWithTheMaximisedChildsItem)

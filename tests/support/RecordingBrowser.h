@@ -13,9 +13,11 @@ class RecordingBrowser : public Browser {
     bool Open(const char* address) override
     {
         opened.emplace_back(address);
-        return true;
+        return answer;
     }
     std::vector<std::string> opened;
+    // Whether the browser could be started.
+    bool answer = true;
 };
 
 } // namespace steward::test

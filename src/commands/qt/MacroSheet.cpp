@@ -6,17 +6,13 @@
 
 #include <QButtonGroup>
 #include <QComboBox>
-#include <QDialogButtonBox>
 #include <QGridLayout>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
-#include <QTabWidget>
 #include <QVBoxLayout>
-
-#include <iterator>
 
 namespace steward {
 
@@ -61,7 +57,7 @@ LetterPage::LetterPage(MacroStore& store, KeyModifiers modifier)
     }
 }
 
-void LetterPage::Save()
+void LetterPage::Apply()
 {
     for (int letter = 0; letter < MACRO_LETTER_COUNT; ++letter)
         StoreMacroEdit(store_, modifier_, 'A' + letter, Bytes(edits_[letter]).constData());
@@ -187,49 +183,17 @@ void KeypadPage::SaveKeys()
 }
 
 MacroSheet::MacroSheet(MacroStore& store, QWidget* owner)
-    : QDialog(owner), store_(store), tabs_(new QTabWidget(this))
+    : TabbedSheet(owner, QStringLiteral("Macro Key Definitions"), TAB_TITLES,
+                  [&store](int tab) -> MacroPage* {
+                      if (tab == 0)
+                          return new LetterPage(store, KEY_ALT);
+                      if (tab == 1)
+                          return new LetterPage(store, KEY_CTRL);
+                      if (tab == 2)
+                          return new FunctionKeyPage(store);
+                      return new KeypadPage(store);
+                  })
 {
-    static_assert(std::size(TAB_TITLES) == TAB_COUNT);
-    setWindowTitle(QStringLiteral("Macro Key Definitions"));
-    auto* layout = new QVBoxLayout(this);
-    for (const char* title : TAB_TITLES)
-        tabs_->addTab(new QWidget, QString::fromLatin1(title));
-    layout->addWidget(tabs_);
-    auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this);
-    layout->addWidget(buttons);
-    connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
-    connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
-    connect(tabs_, &QTabWidget::currentChanged, this, &MacroSheet::MakePage);
-    MakePage(0);
-}
-
-void MacroSheet::MakePage(int tab)
-{
-    QWidget* holder = tabs_->widget(tab);
-    if (!holder || Page(tab))
-        return;
-    MacroPage* page = nullptr;
-    if (tab == 0)
-        page = new LetterPage(store_, KEY_ALT);
-    else if (tab == 1)
-        page = new LetterPage(store_, KEY_CTRL);
-    else if (tab == 2)
-        page = new FunctionKeyPage(store_);
-    else
-        page = new KeypadPage(store_);
-    auto* layout = new QVBoxLayout(holder);
-    layout->setContentsMargins(0, 0, 0, 0);
-    page->setParent(holder);
-    layout->addWidget(page);
-    pages_[tab] = page;
-}
-
-void MacroSheet::accept()
-{
-    for (MacroPage* page : pages_)
-        if (page)
-            page->Save();
-    QDialog::accept();
 }
 
 void ShowMacroSheet(QWidget* owner, MacroStore& store)

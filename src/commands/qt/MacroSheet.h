@@ -1,8 +1,7 @@
 #pragma once
 
+#include "base/qt/TabbedSheet.h"
 #include "commands/MacroStore.h"
-
-#include <QDialog>
 
 #include <array>
 
@@ -10,22 +9,18 @@ class QButtonGroup;
 class QComboBox;
 class QLabel;
 class QLineEdit;
-class QTabWidget;
 
 namespace steward {
 
 // One page of the macro sheet: it shows the store when it is made and writes its edits back
 // on OK.
-class MacroPage : public QWidget {
-  public:
-    virtual void Save() = 0;
-};
+using MacroPage = SheetPage;
 
 // The Alt or Ctrl letters, A to Z.
 class LetterPage : public MacroPage {
   public:
     LetterPage(MacroStore& store, KeyModifiers modifier);
-    void Save() override;
+    void Apply() override;
     QLineEdit* Edit(int letter) const { return edits_[letter]; }
 
   private:
@@ -47,7 +42,7 @@ class KeyTypePage : public MacroPage {
     KeyTypePage(MacroStore& store, int rows);
     virtual void ShowKeys(int keyType) = 0;
     virtual void SaveKeys() = 0;
-    void Save() override { SaveKeys(); }
+    void Apply() override { SaveKeys(); }
     QWidget* Rows() const { return rowsBox_; }
 
     MacroStore& store_;
@@ -86,23 +81,11 @@ class KeypadPage : public KeyTypePage {
     void SaveKeys() override;
 };
 
-// "Macro Key Definitions": four pages, OK and Cancel. A page is made when it is first shown,
-// so a page never opened changes nothing.
-class MacroSheet : public QDialog {
+// "Macro Key Definitions": four pages, OK and Cancel.
+class MacroSheet : public TabbedSheet {
+    Q_OBJECT
   public:
     MacroSheet(MacroStore& store, QWidget* owner);
-    QTabWidget* Tabs() const { return tabs_; }
-    // The page of that tab, or null while it was never shown.
-    MacroPage* Page(int tab) const { return tab >= 0 && tab < TAB_COUNT ? pages_[tab] : nullptr; }
-    void accept() override;
-
-  private:
-    void MakePage(int tab);
-
-    static constexpr int TAB_COUNT = 4;
-    MacroStore& store_;
-    QTabWidget* tabs_;
-    std::array<MacroPage*, TAB_COUNT> pages_{};
 };
 
 // Runs the sheet modally.

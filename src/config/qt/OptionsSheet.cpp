@@ -5,17 +5,13 @@
 #include "services/qt/CenterWindow.h"
 
 #include <QCheckBox>
-#include <QDialogButtonBox>
 #include <QGridLayout>
 #include <QHBoxLayout>
 #include <QIntValidator>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
-#include <QTabWidget>
 #include <QVBoxLayout>
-
-#include <iterator>
 
 namespace steward {
 
@@ -161,48 +157,15 @@ void PathsPage::Apply()
 
 OptionsSheet::OptionsSheet(CharacterProfile& profile, const ConfigFiles& files, FolderPicker pick,
                            QWidget* owner)
-    : QDialog(owner), profile_(profile), files_(files), pick_(std::move(pick)),
-      tabs_(new QTabWidget(this))
+    : TabbedSheet(owner, QStringLiteral("Configuration Options"), TAB_TITLES,
+                  [&profile, &files, pick = std::move(pick)](int tab) -> OptionsPage* {
+                      if (tab == 0)
+                          return new SettingsPage(profile.Settings);
+                      if (tab == 1)
+                          return new InventoryPage(profile);
+                      return new PathsPage(files, pick);
+                  })
 {
-    static_assert(std::size(TAB_TITLES) == TAB_COUNT);
-    setWindowTitle(QStringLiteral("Configuration Options"));
-    auto* layout = new QVBoxLayout(this);
-    for (const char* title : TAB_TITLES)
-        tabs_->addTab(new QWidget, QString::fromLatin1(title));
-    layout->addWidget(tabs_);
-    auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this);
-    layout->addWidget(buttons);
-    connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
-    connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
-    connect(tabs_, &QTabWidget::currentChanged, this, &OptionsSheet::MakePage);
-    MakePage(0);
-}
-
-void OptionsSheet::MakePage(int tab)
-{
-    QWidget* holder = tabs_->widget(tab);
-    if (!holder || Page(tab))
-        return;
-    OptionsPage* page = nullptr;
-    if (tab == 0)
-        page = new SettingsPage(profile_.Settings);
-    else if (tab == 1)
-        page = new InventoryPage(profile_);
-    else
-        page = new PathsPage(files_, pick_);
-    auto* layout = new QVBoxLayout(holder);
-    layout->setContentsMargins(0, 0, 0, 0);
-    page->setParent(holder);
-    layout->addWidget(page);
-    pages_[tab] = page;
-}
-
-void OptionsSheet::accept()
-{
-    for (OptionsPage* page : pages_)
-        if (page)
-            page->Apply();
-    QDialog::accept();
 }
 
 bool ShowOptions(QWidget* owner, CharacterProfile& profile, const ConfigFiles& files,

@@ -1,9 +1,8 @@
 #pragma once
 
+#include "base/qt/TabbedSheet.h"
 #include "config/CharacterProfile.h"
 #include "config/ConfigFiles.h"
-
-#include <QDialog>
 
 #include <array>
 #include <functional>
@@ -11,15 +10,11 @@
 
 class QCheckBox;
 class QLineEdit;
-class QTabWidget;
 
 namespace steward {
 
 // One page of the options sheet: it shows its fields when it is made and writes them back on OK.
-class OptionsPage : public QWidget {
-  public:
-    virtual void Apply() = 0;
-};
+using OptionsPage = SheetPage;
 
 // The flags of Settings, the prefix of script commands and the shortest remembered command.
 class SettingsPage : public OptionsPage {
@@ -73,29 +68,13 @@ class PathsPage : public OptionsPage {
     std::array<QLineEdit*, PATH_COUNT> edits_{};
 };
 
-// "Configuration Options": three pages, OK and Cancel. A page is made when it is first shown,
-// so a page never opened changes nothing; the two folders are written to the main ini on OK,
-// the rest stays in memory until the profile is saved.
-class OptionsSheet : public QDialog {
+// "Configuration Options": three pages, OK and Cancel. The two folders are written to the main
+// ini on OK, the rest stays in memory until the profile is saved.
+class OptionsSheet : public TabbedSheet {
     Q_OBJECT
   public:
-    static constexpr int TAB_COUNT = 3;
-
     OptionsSheet(CharacterProfile& profile, const ConfigFiles& files, FolderPicker pick,
                  QWidget* owner);
-    QTabWidget* Tabs() const { return tabs_; }
-    // The page of that tab, or null while it was never shown.
-    OptionsPage* Page(int tab) const { return tab >= 0 && tab < TAB_COUNT ? pages_[tab] : nullptr; }
-    void accept() override;
-
-  private:
-    void MakePage(int tab);
-
-    CharacterProfile& profile_;
-    const ConfigFiles& files_;
-    FolderPicker pick_;
-    QTabWidget* tabs_;
-    std::array<OptionsPage*, TAB_COUNT> pages_{};
 };
 
 // Runs the sheet modally, centred on the screen; true on OK.

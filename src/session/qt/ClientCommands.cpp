@@ -8,10 +8,10 @@
 #include "commands/qt/CommandLine.h"
 #include "commands/qt/MacroSheet.h"
 #include "config/qt/OptionsSheet.h"
-#include "services/WebAddress.h"
-#include "services/qt/AboutDialog.h"
 #include "highlights/qt/QtClipboardReader.h"
 #include "scripts/qt/ScriptControl.h"
+#include "services/WebAddress.h"
+#include "services/qt/AboutDialog.h"
 #include "session/CommandTable.h"
 #include "session/qt/CharacterMenu.h"
 #include "session/qt/ChildWindowSet.h"
@@ -84,8 +84,7 @@ const Client::CommandEntry Client::COMMANDS[] = {
     {CMD_OPTIONS, [](Client& c) { c.EditOptions(); }},
     {CMD_ABOUT, [](Client& c) { ShowAboutDialog(c.frame_.get()); }},
     {CMD_HOME_PAGE, [](Client& c) { OpenUrl(c.desktop_.WebBrowser(), HOME_PAGE_ADDRESS); }},
-    {CMD_MESSAGE_BOARD,
-     [](Client& c) { OpenUrl(c.desktop_.WebBrowser(), MESSAGE_BOARD_ADDRESS); }},
+    {CMD_MESSAGE_BOARD, [](Client& c) { OpenUrl(c.desktop_.WebBrowser(), MESSAGE_BOARD_ADDRESS); }},
 };
 
 void Client::OnCommand(int command)
@@ -156,10 +155,9 @@ void Client::EditMacros()
 
 void Client::EditOptions()
 {
-    ShowOptions(frame_.get(), session_.Profile, session_.Files,
-                [this](QWidget* owner, const char* title) {
-                    return desktop_.PickFolder(owner, title);
-                });
+    ShowOptions(
+        frame_.get(), session_.Profile, session_.Files,
+        [this](QWidget* owner, const char* title) { return desktop_.PickFolder(owner, title); });
     sounds_.SetSoundPath(SoundPath(session_.Files));
 }
 

@@ -118,9 +118,8 @@ void QtDesktop::Beep()
 
 std::string QtDesktop::PickFolder(QWidget* parent, const char* title)
 {
-    const QString folder =
-        QFileDialog::getExistingDirectory(parent, QString::fromLatin1(title), QString(),
-                                          QFileDialog::ShowDirsOnly);
+    const QString folder = QFileDialog::getExistingDirectory(parent, QString::fromLatin1(title),
+                                                             QString(), QFileDialog::ShowDirsOnly);
     return folder.toLocal8Bit().toStdString();
 }
 
