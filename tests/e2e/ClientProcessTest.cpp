@@ -147,5 +147,20 @@ TEST_F(ClientProcessTest, AReadOnlyDataFolderStillPlaysAndWritesNothing)
     EXPECT_EQ(QDir(folder).entryList(QDir::Files), before);
 }
 
+TEST_F(ClientProcessTest, CharacterOptionChoosesTheProfileAndRefusesAPath)
+{
+    StartClient(client, QStringLiteral(CLIENT_BINARY), {"--character", "../Outside"});
+    ASSERT_TRUE(client.waitForFinished(WAIT_MS));
+    EXPECT_EQ(client.exitCode(), 2);
+    EXPECT_TRUE(client.readAllStandardError().contains("--character"));
+    EXPECT_FALSE(QFile::exists(Path("Outside.Dat")));
+
+    StartClient(second, QStringLiteral(CLIENT_BINARY), {"--character", "Zed"});
+    EXPECT_TRUE(QTest::qWaitFor([&] { return QFile::exists(DataFile("Zed.Dat")); }, WAIT_MS));
+    second.terminate();
+    ASSERT_TRUE(second.waitForFinished(WAIT_MS));
+    EXPECT_TRUE(Read(DataFile("Thornmere.Ini")).contains("LastChar=Zed"));
+}
+
 } // namespace
 } // namespace steward::test
