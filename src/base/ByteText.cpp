@@ -85,6 +85,13 @@ void RemovePrefix(char* string, std::size_t n)
     std::memmove(string, string + n, std::strlen(string + n) + 1);
 }
 
+void TrimTrailingBlanks(char* text)
+{
+    std::size_t length = std::strlen(text);
+    while (length > 0 && text[length - 1] == ' ')
+        text[--length] = 0;
+}
+
 const char* ColorOnText(unsigned char color)
 {
     static char buffer[4];

@@ -27,6 +27,8 @@ void JoinCut(char* out, std::size_t capacity, std::initializer_list<const char*>
 char* InsertText(char* place, const char* text);
 // Removes the first n bytes; n must not exceed the string's length.
 void RemovePrefix(char* string, std::size_t n);
+// Removes the spaces at the end.
+void TrimTrailingBlanks(char* text);
 
 // The colour-on sequence of a colour byte, in a static buffer that the next call overwrites.
 const char* ColorOnText(unsigned char color);

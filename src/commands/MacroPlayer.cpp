@@ -24,13 +24,6 @@ struct PlayState {
     char Answer[MACRO_ANSWER_SIZE] = {};
 };
 
-void TrimTrailingBlanks(char* text)
-{
-    std::size_t length = std::strlen(text);
-    while (length > 0 && text[length - 1] == ' ')
-        text[--length] = 0;
-}
-
 } // namespace
 
 MacroPlayer::MacroPlayer(const CommandParts& parts, CommandRoad& road) : parts_(parts), road_(road)

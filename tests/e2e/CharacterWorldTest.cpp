@@ -6,6 +6,7 @@
 #include "config/BinaryRecords.h"
 #include "config/CharacterProfile.h"
 #include "config/IniStore.h"
+#include "session/qt/ChildWindowSet.h"
 
 #include <QAction>
 #include <QDir>
@@ -128,6 +129,8 @@ TEST_F(CharacterWorldTest, CreatingACharacterSavesTheCurrentDataUnderItsNameAndS
     auto client = LoggedInClient();
     ASSERT_TRUE(client);
     client->State().Profile.Settings.LocalEcho = 0;
+    // A maximised window must not hide the menu from the rebuild.
+    client->Windows().Maximise(GAME_ROW);
     const QByteArray sentBefore = SentAfterAWhile();
     desktop.stringAnswer = "Delta  ";
     client->OnCommand(CMD_NEW_CHARACTER);

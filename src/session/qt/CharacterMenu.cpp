@@ -1,5 +1,6 @@
 #include "session/qt/CharacterMenu.h"
 
+#include "base/ByteText.h"
 #include "config/CharacterProfile.h"
 #include "session/Session.h"
 #include "session/Trace.h"
@@ -79,8 +80,8 @@ void CharacterMenu::SwitchCharacter(int command)
     links_.Profile.Save();
     ChildWindowSet::SavedBuffers saved = links_.Windows.CloneAndClose();
     links_.Profile.Load(name.c_str(), false);
+    // SetDisplayMode lays the frame out anew, since the new character's mode may differ.
     links_.Frame.SetDisplayMode(links_.State.Profile.Settings.DisplayMode);
-    links_.Frame.LayoutFrame();
     links_.Frame.update();
     BuildCharacterMenu();
     links_.Windows.RestoreBuffers(saved);
@@ -105,9 +106,8 @@ std::string CharacterMenu::AskNewName()
     char answer[NEW_CHARACTER_LIMIT + 1] = {};
     if (!links_.Dialogs.AskString(&links_.Frame, NEW_NAME_TITLE, answer, sizeof answer))
         return {};
-    std::string name = answer;
-    while (!name.empty() && name.back() == ' ')
-        name.pop_back();
+    TrimTrailingBlanks(answer);
+    const std::string name = answer;
     if (const char* problem = CheckCharacterName(links_.State.Files, name.c_str())) {
         links_.Dialogs.ShowMessage(&links_.Frame, problem, NAME_ERROR_TITLE);
         return {};
