@@ -70,13 +70,6 @@ INSTANTIATE_TEST_SUITE_P(
                       LimitCase{"FarTooLong", 5000, URL_ESCAPABLE_LENGTH * 3}),
     [](const auto& info) { return std::string(info.param.name); });
 
-TEST(EscapeUrl, SmallTargetNeverSplitsAnEscape)
-{
-    EXPECT_EQ(Escaped("ab_", true, 5), "ab");
-    EXPECT_EQ(Escaped("ab_", true, 6), "ab%5F");
-    EXPECT_EQ(Escaped("abc", true, 1), "");
-}
-
 using test::RecordingBrowser;
 
 struct WordCase {
@@ -104,14 +97,6 @@ INSTANTIATE_TEST_SUITE_P(
                       WordCase{"BrokenWordEscaped", "{GAME", "%7BGAME"},
                       WordCase{"SpaceAfterWords", "{GAME} now", "THORNMERE+now"}),
     [](const auto& info) { return std::string(info.param.name); });
-
-TEST(OpenUrl, GivesTheBrowsersAnswer)
-{
-    RecordingBrowser browser;
-    browser.answer = false;
-    EXPECT_FALSE(OpenUrl(browser, HOME_PAGE_ADDRESS));
-    ASSERT_EQ(browser.opened.size(), 1u);
-}
 
 TEST(ExpandUrlWords, GrowthIsCutAtTheBuffer)
 {

@@ -71,16 +71,6 @@ TEST_F(CharacterListTest, NamesAreCapitalisedAndKeepTheirFile)
               (std::vector<std::string>{"Anna maria=anna maria", "Bob=BOB*", "Mr.smith=mr.smith"}));
 }
 
-TEST_F(CharacterListTest, TwentyFirstIsNotListedEvenWhenCurrent)
-{
-    for (int i = 0; i < 21; ++i)
-        Touch("C" + std::string(1, static_cast<char>('a' + i)) + ".Dat");
-    const std::vector<std::string> texts = Texts("Cu");
-    ASSERT_EQ(texts.size(), 20u);
-    for (const std::string& text : texts)
-        EXPECT_EQ(text.find('*'), std::string::npos) << text;
-}
-
 TEST_F(CharacterListTest, EnsureProfileFilesGivesMacroFilesAProfile)
 {
     Touch("Hand.Macros");
@@ -118,12 +108,6 @@ INSTANTIATE_TEST_SUITE_P(
                       NameCase{"LeadingSpace", " Al", true},
                       NameCase{"ExistsInOtherCase", "BOB", true}),
     [](const auto& info) { return std::string(info.param.name); });
-
-TEST(ConfigurationMenuPosition, MovesWithTheMaximisedChildsItem)
-{
-    EXPECT_EQ(ConfigurationMenuPosition(9), 2);
-    EXPECT_EQ(ConfigurationMenuPosition(10), 3);
-}
 
 } // namespace
 } // namespace steward
