@@ -52,6 +52,7 @@ void CharacterMenu::BuildCharacterMenu()
         item->deleteLater();
     }
     items_.clear();
+    fileNames_ = {};
     // The fixed items (separator and "Create a new Character Profile...") stay at the end.
     QAction* fixed = menu->actions().value(0);
     const Session& state = links_.State;
