@@ -1,6 +1,7 @@
 #include "services/WebAddress.h"
 
 #include "base/ByteText.h"
+#include "base/HexDigits.h"
 
 #include <cstring>
 
@@ -11,7 +12,6 @@ namespace {
 constexpr char KEY_WORD[] = "{KEY}";
 constexpr char GAME_WORD[] = "{GAME}";
 constexpr char GAME_NAME[] = "THORNMERE";
-constexpr char HEX_DIGITS[] = "0123456789ABCDEF";
 
 bool IsKeptAsIs(unsigned char c)
 {

@@ -1,9 +1,9 @@
 #include "session/qt/CharacterMenu.h"
 
 #include "base/ByteText.h"
+#include "base/Trace.h"
 #include "config/CharacterProfile.h"
 #include "session/Session.h"
-#include "session/Trace.h"
 #include "session/qt/ChildWindowSet.h"
 #include "session/qt/Desktop.h"
 #include "session/qt/FrameWindow.h"
