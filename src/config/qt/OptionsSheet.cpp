@@ -1,6 +1,7 @@
 #include "config/qt/OptionsSheet.h"
 
 #include "base/ByteText.h"
+#include "base/Trace.h"
 #include "config/IniStore.h"
 #include "services/qt/CenterWindow.h"
 
@@ -151,7 +152,9 @@ void PathsPage::Apply()
     for (int i = 0; i < PATH_COUNT; ++i) {
         char value[FOLDER_VALUE_SIZE];
         CopyCut(value, sizeof value, edits_[i]->text().toLocal8Bit().constData());
-        WriteString(files_.MainIni, "Config", PATHS[i].Key, value);
+        // Like every main ini value, a folder that cannot be written is traced, not shown.
+        if (!WriteString(files_.MainIni, "Config", PATHS[i].Key, value))
+            Trace("Could not write %s to \"%s\"\n", PATHS[i].Key, files_.MainIni.c_str());
     }
 }
 

@@ -23,6 +23,11 @@ namespace {
 
 constexpr char NEW_NAME_TITLE[] = "Enter New Character Name";
 constexpr char NAME_ERROR_TITLE[] = "Character Profile";
+constexpr char NOT_SAVED_TEXT[] = "The profile of this character could not be saved, so the "
+                                  "character was not changed.";
+constexpr char NEW_NOT_SAVED_TEXT[] =
+    "The new character's profile could not be written whole; it is in use, and the next save "
+    "tries again.";
 constexpr char UNWRITABLE_TEXT[] =
     "The new character's profile cannot be written in the data folder. Nothing was changed.";
 
@@ -77,8 +82,12 @@ void CharacterMenu::SwitchCharacter(int command)
     if (name.empty())
         return;
     Trace("\n\nSwitching to character \"%s\"\n", name.c_str());
-    // Saved first, while its windows are open, since the open window list is part of it.
-    links_.Profile.Save();
+    // Saved first, while its windows are open, since the open window list is part of it; a
+    // character whose profile cannot be saved is kept, so that nothing of it is lost.
+    if (!links_.Profile.Save()) {
+        links_.Dialogs.ShowMessage(&links_.Frame, NOT_SAVED_TEXT, NAME_ERROR_TITLE);
+        return;
+    }
     ChildWindowSet::SavedBuffers saved = links_.Windows.CloneAndClose();
     links_.Profile.Load(name.c_str(), false);
     // SetDisplayMode lays the frame out anew, since the new character's mode may differ.
@@ -95,9 +104,13 @@ void CharacterMenu::CreateCharacter()
     if (name.empty())
         return;
     Trace("Saving NEW profile as %s\n", name.c_str());
-    links_.Profile.Save();
+    if (!links_.Profile.Save()) {
+        links_.Dialogs.ShowMessage(&links_.Frame, NOT_SAVED_TEXT, NAME_ERROR_TITLE);
+        return;
+    }
     links_.Profile.Load(name.c_str(), true);
-    links_.Profile.Save();
+    if (!links_.Profile.Save())
+        links_.Dialogs.ShowMessage(&links_.Frame, NEW_NOT_SAVED_TEXT, NAME_ERROR_TITLE);
     links_.Profile.RefreshTitle();
     BuildCharacterMenu();
 }
