@@ -28,14 +28,14 @@ class CharacterWorldTest : public ClientHarness {
         beta.MinCommandLength = 9;
         const SettingsBytes bytes = beta.ToBytes();
         const std::string betaDat = File("Beta.Dat");
-        WriteBinary(betaDat, "Config", "Settings", bytes.data(), bytes.size());
-        WriteString(betaDat, "Config", "EquipWeapon", "ready beta blade");
-        WriteOpenWindows(betaDat, "G");
+        ASSERT_TRUE(WriteBinary(betaDat, "Config", "Settings", bytes.data(), bytes.size()));
+        ASSERT_TRUE(WriteString(betaDat, "Config", "EquipWeapon", "ready beta blade"));
+        ASSERT_TRUE(WriteOpenWindows(betaDat, "G"));
         MacroStore macros;
         macros.SetMacro(KEY_ALT, 'K', "say beta macro\\r");
-        macros.SaveMacros(File("Beta.Macros").c_str());
+        ASSERT_TRUE(macros.SaveMacros(File("Beta.Macros").c_str()));
         WriteText("Beta.Highlights", "012 \"salmon\"\n");
-        macros.SaveMacros(File("Gamma.Macros").c_str());
+        ASSERT_TRUE(macros.SaveMacros(File("Gamma.Macros").c_str()));
     }
 
     std::string File(const char* name) const { return folder.filePath(name).toStdString(); }

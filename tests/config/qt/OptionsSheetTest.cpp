@@ -180,7 +180,7 @@ TEST_F(OptionsSheetTest, PathsGoToTheMainIniAtOnce)
 
 TEST_F(OptionsSheetTest, PagesNeverOpenedAndCancelChangeNothing)
 {
-    WriteString(files.MainIni, "Config", "Script Path", "/kept");
+    ASSERT_TRUE(WriteString(files.MainIni, "Config", "Script Path", "/kept"));
     Open<PathsPage>(PATHS_TAB).Path(1)->setText(QStringLiteral("/dropped"));
     Sheet().reject();
     Reopen();
