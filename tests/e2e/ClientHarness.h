@@ -63,7 +63,15 @@ class RecordingDesktop : public Desktop {
         return false;
     }
     void Beep() override {}
-    bool AskString(QWidget*, const char*, char*, std::size_t) override { return false; }
+    // Answers with the next of answers, or cancels when none is left.
+    bool AskString(QWidget*, const char*, char* answer, std::size_t capacity) override
+    {
+        if (answers.empty())
+            return false;
+        std::snprintf(answer, capacity, "%s", answers.front().c_str());
+        answers.erase(answers.begin());
+        return true;
+    }
     bool AskDragTarget(QWidget*, std::string& target) override
     {
         target = dragTarget;
@@ -82,12 +90,14 @@ class RecordingDesktop : public Desktop {
         return recordFile;
     }
     std::string CreateScript(QWidget*, const std::string&) override { return {}; }
+    std::string ChooseSoundFile(QWidget*, const std::string&) override { return {}; }
 
     RecordingSoundPlayer sounds;
     std::string scriptFile;
     std::string recordFile;
     std::string scriptFolder;
     std::string dragTarget;
+    std::vector<std::string> answers;
     ConnectChoice choice = ConnectChoice::Connect;
     std::string answerHost;
     int answerPort = 0;

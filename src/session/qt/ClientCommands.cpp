@@ -7,6 +7,7 @@
 #include "commands/Keyboard.h"
 #include "commands/qt/CommandLine.h"
 #include "commands/qt/MacroSheet.h"
+#include "highlights/qt/HighlightSheet.h"
 #include "highlights/qt/QtClipboardReader.h"
 #include "scripts/qt/ScriptControl.h"
 #include "session/CommandTable.h"
@@ -64,6 +65,7 @@ const Client::CommandEntry Client::COMMANDS[] = {
     {CMD_UNEQUIP_SHIELD, [](Client& c) { c.SendCommand(c.session_.Profile.UnequipShield); }},
     {CMD_CONNECT, [](Client& c) { Reconnect(c.session_, c.link_, c.desktop_, c.frame_.get()); }},
     {CMD_MACRO_KEYS, [](Client& c) { c.EditMacros(); }},
+    {CMD_HIGHLIGHT_STRINGS, [](Client& c) { c.EditHighlights(); }},
     {CMD_DRAG_SOMEONE, [](Client& c) { c.AskDragTarget(); }},
     {CMD_STOP_DRAGGING, [](Client& c) { c.keyboard_->State.DragTarget[0] = '\0'; }},
     {CMD_GRAPHICS_AT_TOP, [](Client& c) { c.SetDisplayMode(DISPLAY_GRAPHICS_TOP); }},
@@ -141,6 +143,13 @@ void Client::EditMacros()
 {
     ShowMacroSheet(frame_.get(), keyboard_->Macros);
     profile_->RefreshTitle();
+    frame_->FocusCommandLine();
+}
+
+void Client::EditHighlights()
+{
+    ShowHighlightDialog(frame_.get(), {session_.Profile.Settings, highlights_, sounds_, desktop_},
+                        session_.Windows.GameWindow);
     frame_->FocusCommandLine();
 }
 

@@ -29,8 +29,8 @@ class Desktop : public MessageBoxes, public ScriptFileDialogs {
     virtual bool RunEditor(const std::string& path) = 0;
     virtual bool AskSaveFileName(QWidget* parent, const SaveFileRequest& request, char* path,
                                  std::size_t capacity) = 0;
-    // Asks for one line of text under the title: false on Cancel; the answer holds at most
-    // capacity - 1 characters.
+    // Asks for one line of text under the title, its field filled with answer: false on Cancel;
+    // the answer holds at most capacity - 1 characters.
     virtual bool AskString(QWidget* parent, const char* title, char* answer,
                            std::size_t capacity) = 0;
     // Asks whom to drag, the field filled with the target: true with the new target on OK, false
@@ -38,6 +38,8 @@ class Desktop : public MessageBoxes, public ScriptFileDialogs {
     virtual bool AskDragTarget(QWidget* parent, std::string& target) = 0;
     // The player of the highlight and start-up sounds.
     virtual SoundPlayer& Sounds() = 0;
+    // The highlight sheet's sound chooser, starting in the sound folder: a path, or empty.
+    virtual std::string ChooseSoundFile(QWidget* parent, const std::string& folder) = 0;
 };
 
 // The real dialogs and the desktop's own editor.
@@ -57,6 +59,7 @@ class QtDesktop : public Desktop {
                                  bool forEditing) override;
     std::string AskRecordFile(QWidget* parent, const std::string& folder) override;
     std::string CreateScript(QWidget* parent, const std::string& folder) override;
+    std::string ChooseSoundFile(QWidget* parent, const std::string& folder) override;
 
   private:
     QtSoundPlayer sounds_;

@@ -71,6 +71,7 @@ class OfflineDesktop : public Desktop {
     std::string ChooseScriptFile(QWidget*, const std::string&, bool) override { return {}; }
     std::string AskRecordFile(QWidget*, const std::string&) override { return {}; }
     std::string CreateScript(QWidget*, const std::string&) override { return {}; }
+    std::string ChooseSoundFile(QWidget*, const std::string&) override { return {}; }
 
     SilentPlayer sounds;
     std::string shownTarget;
