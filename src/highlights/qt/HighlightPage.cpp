@@ -2,10 +2,10 @@
 
 #include "highlights/SoundFiles.h"
 #include "highlights/qt/ColorGrid.h"
+#include "highlights/qt/HighlightDialogs.h"
 #include "highlights/qt/HighlightItemView.h"
 #include "panels/qt/BitmapImage.h"
 #include "panels/qt/PanelResources.h"
-#include "session/qt/Desktop.h"
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -238,7 +238,7 @@ void HighlightPage::SelectionChanged()
 
 void HighlightPage::Refused()
 {
-    links_.Dialogs.ShowMessage(this,
+    links_.Messages.ShowMessage(this,
                                "That does not fit: a highlight holds at most 80 characters, "
                                "its sound and markers included.",
                                SHEET_TITLE);
@@ -294,7 +294,7 @@ void HighlightPage::Play()
         return;
     const QByteArray name = sounds_->itemText(entry).toLatin1();
     if (!links_.Sounds.TryPlay(name.constData()))
-        links_.Dialogs.ShowMessage(
+        links_.Messages.ShowMessage(
             this,
             ("The sound \"" + name.toStdString() + "\" is no longer in the sound folder.").c_str(),
             SHEET_TITLE);
@@ -310,7 +310,7 @@ void HighlightPage::Browse()
         return;
     const SoundImport import = ImportSoundFile(path, folder);
     if (!import.Error.empty()) {
-        links_.Dialogs.ShowMessage(this, import.Error.c_str(), "File Error");
+        links_.Messages.ShowMessage(this, import.Error.c_str(), "File Error");
         return;
     }
     FillSounds();

@@ -17,7 +17,8 @@ class QPushButton;
 namespace steward {
 
 class ColorGrid;
-class Desktop;
+class HighlightDialogs;
+class MessageBoxes;
 class HighlightItemModel;
 
 // What the highlight sheet edits and whom it asks.
@@ -25,7 +26,8 @@ struct HighlightSheetLinks {
     Settings& Options;
     HighlightLists& Lists;
     SoundFolder& Sounds;
-    Desktop& Dialogs;
+    HighlightDialogs& Dialogs;
+    MessageBoxes& Messages;
 };
 
 enum class HighlightPageKind { DefaultStrings, UserStrings, UserNames };

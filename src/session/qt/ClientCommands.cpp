@@ -148,7 +148,8 @@ void Client::EditMacros()
 
 void Client::EditHighlights()
 {
-    ShowHighlightDialog(frame_.get(), {session_.Profile.Settings, highlights_, sounds_, desktop_},
+    ShowHighlightDialog(frame_.get(),
+                        {session_.Profile.Settings, highlights_, sounds_, desktop_, desktop_},
                         session_.Windows.GameWindow);
     frame_->FocusCommandLine();
 }

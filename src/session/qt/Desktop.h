@@ -3,6 +3,7 @@
 #include "base/qt/MessageBoxes.h"
 #include "config/LogHost.h"
 #include "highlights/SoundPlayer.h"
+#include "highlights/qt/HighlightDialogs.h"
 #include "highlights/qt/QtSoundPlayer.h"
 #include "scripts/qt/ScriptDialogs.h"
 #include "session/qt/ConnectDialog.h"
@@ -15,9 +16,9 @@ class QWidget;
 namespace steward {
 
 // Everything the program asks of the person and of the desktop: dialogs, message boxes and
-// the text editor. Tests give a recording double, so that no dialog waits and no program
-// opens on the desktop.
-class Desktop : public MessageBoxes, public ScriptFileDialogs {
+// the text editor, the highlight sheet's questions among them. Tests give a recording double,
+// so that no dialog waits and no program opens on the desktop.
+class Desktop : public MessageBoxes, public ScriptFileDialogs, public HighlightDialogs {
   public:
     virtual ~Desktop() = default;
 
@@ -29,17 +30,11 @@ class Desktop : public MessageBoxes, public ScriptFileDialogs {
     virtual bool RunEditor(const std::string& path) = 0;
     virtual bool AskSaveFileName(QWidget* parent, const SaveFileRequest& request, char* path,
                                  std::size_t capacity) = 0;
-    // Asks for one line of text under the title, its field filled with answer: false on Cancel;
-    // the answer holds at most capacity - 1 characters.
-    virtual bool AskString(QWidget* parent, const char* title, char* answer,
-                           std::size_t capacity) = 0;
     // Asks whom to drag, the field filled with the target: true with the new target on OK, false
     // when the player chose "Stop Dragging".
     virtual bool AskDragTarget(QWidget* parent, std::string& target) = 0;
     // The player of the highlight and start-up sounds.
     virtual SoundPlayer& Sounds() = 0;
-    // The highlight sheet's sound chooser, starting in the sound folder: a path, or empty.
-    virtual std::string ChooseSoundFile(QWidget* parent, const std::string& folder) = 0;
 };
 
 // The real dialogs and the desktop's own editor.

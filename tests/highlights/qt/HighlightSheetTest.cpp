@@ -1,7 +1,8 @@
 #include "highlights/qt/HighlightSheet.h"
+#include "base/qt/MessageBoxes.h"
 #include "highlights/qt/ColorGrid.h"
+#include "highlights/qt/HighlightDialogs.h"
 #include "highlights/qt/HighlightItemView.h"
-#include "session/qt/Desktop.h"
 #include "terminal/Palette.h"
 
 #include <QApplication>
@@ -32,21 +33,11 @@ class FolderPlayer : public SoundPlayer {
 };
 
 // The sheet's dialogs answer from lists; every message is kept.
-class SheetDesktop : public Desktop {
+class SheetDialogs : public HighlightDialogs, public MessageBoxes {
   public:
-    ConnectChoice AskConnection(QWidget*, std::string&, int&) override
-    {
-        return ConnectChoice::Offline;
-    }
-    bool AskExit(QWidget*) override { return true; }
     void ShowMessage(QWidget*, const char* text, const char*) override
     {
         messages.emplace_back(text);
-    }
-    bool RunEditor(const std::string&) override { return false; }
-    bool AskSaveFileName(QWidget*, const SaveFileRequest&, char*, std::size_t) override
-    {
-        return false;
     }
     void Beep() override {}
     bool AskString(QWidget*, const char*, char* answer, std::size_t capacity) override
@@ -59,11 +50,6 @@ class SheetDesktop : public Desktop {
         answers.erase(answers.begin());
         return true;
     }
-    bool AskDragTarget(QWidget*, std::string&) override { return false; }
-    SoundPlayer& Sounds() override { return player; }
-    std::string ChooseScriptFile(QWidget*, const std::string&, bool) override { return {}; }
-    std::string AskRecordFile(QWidget*, const std::string&) override { return {}; }
-    std::string CreateScript(QWidget*, const std::string&) override { return {}; }
     std::string ChooseSoundFile(QWidget*, const std::string&) override { return soundFile; }
 
     FolderPlayer player;
@@ -90,7 +76,7 @@ class HighlightSheetTest : public ::testing::Test {
     {
         if (!sheet_)
             sheet_ = std::make_unique<HighlightSheet>(
-                HighlightSheetLinks{settings, lists, sounds, desktop}, nullptr);
+                HighlightSheetLinks{settings, lists, sounds, dialogs, dialogs}, nullptr);
         return *sheet_;
     }
     HighlightPage& Open(Tab tab)
@@ -116,8 +102,8 @@ class HighlightSheetTest : public ::testing::Test {
     QTemporaryDir folder;
     Settings settings;
     HighlightLists lists;
-    SheetDesktop desktop;
-    SoundFolder sounds{desktop.player};
+    SheetDialogs dialogs;
+    SoundFolder sounds{dialogs.player};
 
   private:
     std::unique_ptr<HighlightSheet> sheet_;
@@ -183,12 +169,12 @@ TEST_F(HighlightSheetTest, NewCountsTheSlotsDownAndAFullListAsksNothing)
 {
     HighlightPage& page = Open(STRINGS);
     EXPECT_EQ(page.SlotsLeft()->text(), QStringLiteral("4095"));
-    desktop.answers = {"say \"hi\" \xA3\x81", ""};
+    dialogs.answers = {"say \"hi\" \xA3\x81", ""};
     Click(page, PageButton::New);
     EXPECT_EQ(page.SlotsLeft()->text(), QStringLiteral("4094"));
     Click(page, PageButton::New);
     EXPECT_EQ(page.SlotsLeft()->text(), QStringLiteral("4094")) << "an empty answer adds nothing";
-    EXPECT_EQ(desktop.limits, (std::vector<std::size_t>{HIGHLIGHT_ASK_LIMIT, HIGHLIGHT_ASK_LIMIT}));
+    EXPECT_EQ(dialogs.limits, (std::vector<std::size_t>{HIGHLIGHT_ASK_LIMIT, HIGHLIGHT_ASK_LIMIT}));
     Sheet().accept();
     EXPECT_STREQ(lists.StringHighlights.Text(1), "say \"hi\" ??");
 
@@ -196,23 +182,23 @@ TEST_F(HighlightSheetTest, NewCountsTheSlotsDownAndAFullListAsksNothing)
     for (std::size_t i = 0; i < HIGHLIGHT_SLOTS; ++i)
         full.SetText(i, "x");
     lists.NameHighlights = full;
-    HighlightSheet again({settings, lists, sounds, desktop}, nullptr);
+    HighlightSheet again({settings, lists, sounds, dialogs, dialogs}, nullptr);
     again.Tabs()->setCurrentIndex(NAMES);
     EXPECT_EQ(again.Page(NAMES)->SlotsLeft()->text(), QStringLiteral("   0"));
     Click(*again.Page(NAMES), PageButton::New);
-    EXPECT_EQ(desktop.shown.size(), 2u);
+    EXPECT_EQ(dialogs.shown.size(), 2u);
 }
 
 TEST_F(HighlightSheetTest, ChangeStartsFromTheMatchTextAndKeepsTheMarkers)
 {
     lists.StringHighlights.SetText(0, "{Gong}$Mara");
     HighlightPage& page = Open(STRINGS);
-    desktop.answers = {"Orla"};
+    dialogs.answers = {"Orla"};
     const QPoint item = page.List()->visualRect(page.List()->model()->index(0, 0)).center();
     QTest::mouseClick(page.List()->viewport(), Qt::LeftButton, {}, item);
     QTest::mouseDClick(page.List()->viewport(), Qt::LeftButton, {}, item);
-    EXPECT_EQ(desktop.shown, std::vector<std::string>{"Mara"});
-    EXPECT_EQ(desktop.limits.back(), HIGHLIGHT_TEXT_MAX - 7);
+    EXPECT_EQ(dialogs.shown, std::vector<std::string>{"Mara"});
+    EXPECT_EQ(dialogs.limits.back(), HIGHLIGHT_TEXT_MAX - 7);
     QTest::mouseClick(page.Box(HighlightFlag::CaseSensitive), Qt::LeftButton);
     Sheet().accept();
     EXPECT_STREQ(lists.StringHighlights.Text(0), "{Gong}$@Orla");
@@ -231,19 +217,19 @@ TEST_F(HighlightSheetTest, TheSoundChooserTakesWaveFilesAndSaysWhatItCannotTake)
                    {elsewhere.filePath("notes.wav"), "is not a wave sound"},
                    {elsewhere.filePath("Bell.wav"), nullptr}};
     for (const auto& choice : choices) {
-        desktop.messages.clear();
-        desktop.soundFile = QFile::encodeName(choice.file).toStdString();
+        dialogs.messages.clear();
+        dialogs.soundFile = QFile::encodeName(choice.file).toStdString();
         Click(page, PageButton::Browse);
-        ASSERT_EQ(desktop.messages.size(), choice.said ? 1u : 0u);
+        ASSERT_EQ(dialogs.messages.size(), choice.said ? 1u : 0u);
         if (choice.said) {
-            EXPECT_NE(desktop.messages[0].find(choice.said), std::string::npos);
+            EXPECT_NE(dialogs.messages[0].find(choice.said), std::string::npos);
         }
     }
     EXPECT_EQ(page.SoundList()->currentText(), QStringLiteral("Bell"));
     EXPECT_TRUE(page.Button(PageButton::Play)->isEnabled());
     ASSERT_TRUE(QFile::remove(folder.filePath("Bell.wav")));
     Click(page, PageButton::Play);
-    EXPECT_EQ(desktop.messages.size(), 1u) << "a sound gone from the folder is said";
+    EXPECT_EQ(dialogs.messages.size(), 1u) << "a sound gone from the folder is said";
     Sheet().accept();
     EXPECT_STREQ(lists.StringHighlights.Text(0), "{Bell}Mara");
 }
@@ -299,7 +285,7 @@ TEST_F(HighlightSheetTest, TabWalksThePageEnterIsOkAndEscapeIsCancel)
     EXPECT_EQ(Sheet().result(), QDialog::Rejected);
     EXPECT_EQ(lists.StringHighlights.Color(0), 14);
 
-    HighlightSheet again({settings, lists, sounds, desktop}, nullptr);
+    HighlightSheet again({settings, lists, sounds, dialogs, dialogs}, nullptr);
     again.Tabs()->setCurrentIndex(STRINGS);
     again.show();
     QApplication::setActiveWindow(&again);
