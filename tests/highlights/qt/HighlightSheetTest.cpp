@@ -210,21 +210,14 @@ TEST_F(HighlightSheetTest, TheSoundChooserTakesWaveFilesAndSaysWhatItCannotTake)
     WriteFile(elsewhere.filePath("notes.wav"), "plain text");
     WriteFile(elsewhere.filePath("Bell.wav"), QByteArray("RIFF\x24\0\0\0WAVEfmt ", 16));
     HighlightPage& page = Open(STRINGS);
-    const struct {
-        QString file;
-        const char* said;
-    } choices[] = {{elsewhere.filePath("gone.wav"), "does not exist"},
-                   {elsewhere.filePath("notes.wav"), "is not a wave sound"},
-                   {elsewhere.filePath("Bell.wav"), nullptr}};
-    for (const auto& choice : choices) {
-        dialogs.messages.clear();
-        dialogs.soundFile = QFile::encodeName(choice.file).toStdString();
-        Click(page, PageButton::Browse);
-        ASSERT_EQ(dialogs.messages.size(), choice.said ? 1u : 0u);
-        if (choice.said) {
-            EXPECT_NE(dialogs.messages[0].find(choice.said), std::string::npos);
-        }
-    }
+    dialogs.soundFile = QFile::encodeName(elsewhere.filePath("notes.wav")).toStdString();
+    Click(page, PageButton::Browse);
+    ASSERT_EQ(dialogs.messages.size(), 1u);
+    EXPECT_NE(dialogs.messages[0].find("is not a wave sound"), std::string::npos);
+    EXPECT_EQ(page.SoundList()->currentIndex(), 0);
+    dialogs.messages.clear();
+    dialogs.soundFile = QFile::encodeName(elsewhere.filePath("Bell.wav")).toStdString();
+    Click(page, PageButton::Browse);
     EXPECT_EQ(page.SoundList()->currentText(), QStringLiteral("Bell"));
     EXPECT_TRUE(page.Button(PageButton::Play)->isEnabled());
     ASSERT_TRUE(QFile::remove(folder.filePath("Bell.wav")));
