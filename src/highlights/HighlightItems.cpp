@@ -1,5 +1,7 @@
 #include "highlights/HighlightItems.h"
 
+#include <algorithm>
+
 namespace steward {
 
 const SampleRow SAMPLE_ROWS[SAMPLE_ROW_COUNT] = {

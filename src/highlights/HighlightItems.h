@@ -28,6 +28,7 @@ constexpr std::size_t HIGHLIGHT_ASK_LIMIT = 79;
 constexpr int COLOR_CELL_COUNT = 16;
 
 enum class HighlightFlag { EntireLine, NotOnWordBoundary, CaseSensitive };
+constexpr int HIGHLIGHT_FLAG_COUNT = 3;
 
 // The working copy of one page of the highlight sheet: its list items, the selected one, and
 // whether it differs from what was last applied. The stored list changes only in Apply. Every

@@ -22,9 +22,8 @@ constexpr std::array<FixedTextCommand, 19> FIXED_TEXTS = {{
     {40024, "world"},
 }};
 
-constexpr std::array<int, 8> LATER_COMMANDS = {
-    CMD_HIGHLIGHT_STRINGS, CMD_ABOUT,        CMD_OPTIONS,       CMD_MACRO_KEYS,
-    CMD_NEW_CHARACTER,     CMD_HOME_PAGE,    CMD_MESSAGE_BOARD, CMD_COPY_TO_COMMAND_LINE,
+constexpr std::array<int, 5> LATER_COMMANDS = {
+    CMD_ABOUT, CMD_OPTIONS, CMD_NEW_CHARACTER, CMD_HOME_PAGE, CMD_MESSAGE_BOARD,
 };
 
 } // namespace

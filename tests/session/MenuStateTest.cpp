@@ -132,6 +132,8 @@ TEST(MenuState, CommandsOfLaterPartsStayGrey)
     EXPECT_FALSE(After(in, CMD_OPTIONS).Enabled);
     EXPECT_TRUE(After(in, CMD_INFO_GENERAL).Enabled);
     EXPECT_TRUE(After(in, CMD_EXIT).Enabled);
+    for (int sheet : {CMD_HIGHLIGHT_STRINGS, CMD_MACRO_KEYS, CMD_COPY_TO_COMMAND_LINE})
+        EXPECT_TRUE(After(in, sheet).Enabled) << sheet;
 }
 
 } // namespace

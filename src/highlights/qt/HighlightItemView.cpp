@@ -1,5 +1,7 @@
 #include "highlights/qt/HighlightItemView.h"
 
+#include <algorithm>
+
 #include "panels/qt/BitmapImage.h"
 #include "terminal/Palette.h"
 

@@ -1,5 +1,6 @@
 #include "highlights/qt/HighlightPage.h"
 
+#include "base/ByteText.h"
 #include "highlights/SoundFiles.h"
 #include "highlights/qt/ColorGrid.h"
 #include "highlights/qt/HighlightDialogs.h"
@@ -17,6 +18,10 @@
 #include <QListView>
 #include <QPushButton>
 #include <QVBoxLayout>
+
+#include <algorithm>
+#include <iterator>
+#include <utility>
 
 namespace steward {
 
@@ -208,8 +213,9 @@ void HighlightPage::ConnectControls()
 void HighlightPage::Refresh()
 {
     model_->Reload();
-    const int selected = items_.Selected();
-    list_->setCurrentIndex(model_->index(selected, 0));
+    const QModelIndex current = model_->index(items_.Selected(), 0);
+    list_->setCurrentIndex(current);
+    list_->scrollTo(current);
     SelectionChanged();
 }
 
@@ -267,11 +273,12 @@ void HighlightPage::Change()
 {
     if (kind_ == HighlightPageKind::DefaultStrings || !items_.HasSelection())
         return;
+    // The limit leaves room for the item's sound and markers, and never passes the buffer.
+    const std::size_t capacity = items_.AskLimit() + 1;
     char answer[HIGHLIGHT_ASK_LIMIT + 1] = {};
-    const std::string match = items_.Parsed(static_cast<std::size_t>(items_.Selected())).Match;
-    std::snprintf(answer, std::min(sizeof answer, items_.AskLimit() + 1), "%s", match.c_str());
-    links_.Dialogs.AskString(this, ASK_TITLE, answer,
-                             std::min(sizeof answer, items_.AskLimit() + 1));
+    CopyCut(answer, capacity,
+            items_.Parsed(static_cast<std::size_t>(items_.Selected())).Match.c_str());
+    links_.Dialogs.AskString(this, ASK_TITLE, answer, capacity);
     if (items_.Change(answer))
         changed_();
     Refresh();

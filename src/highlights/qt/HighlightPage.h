@@ -33,6 +33,7 @@ struct HighlightSheetLinks {
 enum class HighlightPageKind { DefaultStrings, UserStrings, UserNames };
 
 enum class PageButton { New, Change, Delete, Sort, Play, Browse, Transparent };
+constexpr int PAGE_BUTTON_COUNT = 7;
 
 // One page of the highlight sheet: a list of coloured lines over the colour cells. It works on
 // its own copy of the items; only Apply writes the store.
@@ -80,8 +81,8 @@ class HighlightPage : public QWidget {
     HighlightItems items_;
     HighlightItemModel* model_ = nullptr;
     QListView* list_ = nullptr;
-    QPushButton* buttons_[7] = {};
-    QCheckBox* boxes_[3] = {};
+    QPushButton* buttons_[PAGE_BUTTON_COUNT] = {};
+    QCheckBox* boxes_[HIGHLIGHT_FLAG_COUNT] = {};
     QComboBox* sounds_ = nullptr;
     QLabel* slotsLeft_ = nullptr;
     ColorGrid* grid_ = nullptr;
