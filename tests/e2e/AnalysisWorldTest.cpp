@@ -33,24 +33,6 @@ class OtherPlayer {
 
 class AnalysisWorldTest : public ClientHarness {
   protected:
-    // Every byte that a window holds, colour codes included.
-    static std::string WindowBytes(AnsiWindow* window)
-    {
-        if (!window)
-            return {};
-        TextBuffer& live = window->GetLiveBuffer();
-        std::string bytes;
-        for (auto at = live.GetHeadPos(); at != live.GetWritePos(); at = live.Next(at))
-            bytes.push_back(static_cast<char>(live.ByteAt(at)));
-        return bytes;
-    }
-
-    static bool WaitForBytes(AnsiWindow* window, const std::string& needle)
-    {
-        return QTest::qWaitFor(
-            [&] { return WindowBytes(window).find(needle) != std::string::npos; }, WAIT_MS);
-    }
-
     std::string SoundFile(const char* name) const
     {
         return SoundPath(MakeConfigFiles(folder.path().toStdString())) + "/" + name;

@@ -181,6 +181,24 @@ class ClientHarness : public ::testing::Test {
         return text.data();
     }
 
+    // Every byte that a window holds, colour codes included.
+    static std::string WindowBytes(AnsiWindow* window)
+    {
+        if (!window)
+            return {};
+        TextBuffer& live = window->GetLiveBuffer();
+        std::string bytes;
+        for (auto at = live.GetHeadPos(); at != live.GetWritePos(); at = live.Next(at))
+            bytes.push_back(static_cast<char>(live.ByteAt(at)));
+        return bytes;
+    }
+
+    static bool WaitForBytes(AnsiWindow* window, const std::string& needle)
+    {
+        return QTest::qWaitFor(
+            [&] { return WindowBytes(window).find(needle) != std::string::npos; }, WAIT_MS);
+    }
+
     // The last bytes of the Game window, however much text it holds.
     static std::string GameTail(Client& client, int count)
     {

@@ -32,8 +32,7 @@ class SheetWorldTest : public ClientHarness, public ::testing::WithParamInterfac
         if (round == 1)
             Type(client, "look");
         const std::string red = std::string(ColorOnText(12)) + "salmon" + ColorOffText(12);
-        return QTest::qWaitFor([&] { return WindowBytes(client).find(red) != std::string::npos; },
-                               WAIT_MS);
+        return WaitForBytes(client.State().Windows.GameWindow, red);
     }
 
     bool CtrlJSays(Client& client, int round)
@@ -59,16 +58,6 @@ class SheetWorldTest : public ClientHarness, public ::testing::WithParamInterfac
         });
         client.OnCommand(c.command);
         return edited;
-    }
-
-    // The Game window's bytes, colour codes included.
-    static std::string WindowBytes(Client& client)
-    {
-        TextBuffer& live = client.State().Windows.GameWindow->GetLiveBuffer();
-        std::string bytes;
-        for (auto at = live.GetHeadPos(); at != live.GetWritePos(); at = live.Next(at))
-            bytes.push_back(static_cast<char>(live.ByteAt(at)));
-        return bytes;
     }
 };
 

@@ -200,21 +200,5 @@ TEST(HighlightItems, AFullListTakesNoNewItemAndTheAskLimitLeavesRoomForTheMarker
     EXPECT_FALSE(items.Change(std::string(HIGHLIGHT_TEXT_MAX - 7, 'y')));
 }
 
-TEST(HighlightItems, SampleRowsCarryTheSettingsColoursBothWays)
-{
-    Settings settings;
-    settings.WhispersColor = 0x1E;
-    HighlightItems items;
-    items.OpenSamples(settings);
-    EXPECT_EQ(items.SlotsLeft(), 0);
-    EXPECT_EQ(items.Item(1), "030,Someone whispers, \"This is a whispered message.\"");
-    EXPECT_FALSE(items.New("x"));
-    items.Select(3);
-    items.RightClickCell(1);
-    items.ApplySamples(settings);
-    EXPECT_EQ(settings.CompressedThoughtColor, 0x18);
-    EXPECT_EQ(settings.SaysColor, 10);
-}
-
 } // namespace
 } // namespace steward::testing

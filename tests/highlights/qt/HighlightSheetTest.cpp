@@ -3,6 +3,7 @@
 #include "highlights/qt/ColorGrid.h"
 #include "highlights/qt/HighlightDialogs.h"
 #include "highlights/qt/HighlightItemView.h"
+#include "highlights/qt/QtSoundPlayer.h"
 #include "terminal/Palette.h"
 
 #include <QApplication>
@@ -26,12 +27,6 @@
 namespace steward {
 namespace {
 
-// Finds the files it is told of.
-class FolderPlayer : public SoundPlayer {
-  public:
-    bool PlayFile(const char* path) override { return QFile::exists(QFile::decodeName(path)); }
-};
-
 // The sheet's dialogs answer from lists; every message is kept.
 class SheetDialogs : public HighlightDialogs, public MessageBoxes {
   public:
@@ -52,7 +47,7 @@ class SheetDialogs : public HighlightDialogs, public MessageBoxes {
     }
     std::string ChooseSoundFile(QWidget*, const std::string&) override { return soundFile; }
 
-    FolderPlayer player;
+    QtSoundPlayer player;
     std::vector<std::string> answers;
     std::vector<std::string> shown;
     std::vector<std::size_t> limits;
