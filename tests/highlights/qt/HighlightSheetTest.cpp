@@ -241,9 +241,9 @@ TEST_F(HighlightSheetTest, TheListDrawsTheMatchTextInItsColoursBesideTheIcons)
         }
         return false;
     };
-    const QRgb navy = qRgb(0, 0, 128);
-    EXPECT_TRUE(holds(0, ITEM_ICON_WIDTH, navy)) << "the chooser on the selected item";
-    EXPECT_TRUE(holds(ITEM_ICON_WIDTH, 2 * ITEM_ICON_WIDTH, navy)) << "the speaker";
+    const QRgb silver = qRgb(192, 192, 192);
+    EXPECT_TRUE(holds(0, ITEM_ICON_WIDTH, silver)) << "the chooser on the selected item";
+    EXPECT_TRUE(holds(ITEM_ICON_WIDTH, 2 * ITEM_ICON_WIDTH, silver)) << "the speaker";
     EXPECT_TRUE(holds(ITEM_TEXT_LEFT, drawn.width(), qRgb(255, 0, 0))) << "red letters";
     EXPECT_TRUE(holds(ITEM_TEXT_LEFT, drawn.width(), qRgb(0, 0, 0))) << "on black";
     EXPECT_FALSE(holds(ITEM_ICON_WIDTH, ITEM_TEXT_LEFT, qRgb(255, 0, 0))) << "no marker drawn";
