@@ -1,6 +1,7 @@
 #include "highlights/qt/HighlightPage.h"
 
 #include "base/ByteText.h"
+#include "base/qt/MessageBoxes.h"
 #include "highlights/SoundFiles.h"
 #include "highlights/qt/ColorGrid.h"
 #include "highlights/qt/HighlightDialogs.h"
@@ -245,9 +246,9 @@ void HighlightPage::SelectionChanged()
 void HighlightPage::Refused()
 {
     links_.Messages.ShowMessage(this,
-                               "That does not fit: a highlight holds at most 80 characters, "
-                               "its sound and markers included.",
-                               SHEET_TITLE);
+                                "That does not fit: a highlight holds at most 80 characters, "
+                                "its sound and markers included.",
+                                SHEET_TITLE);
 }
 
 void HighlightPage::ShowSlotsLeft()
