@@ -12,8 +12,8 @@ namespace steward {
 class HighlightDialogs {
   public:
     virtual ~HighlightDialogs() = default;
-    // GETSTR_DIALOG, its field filled with answer: false on Cancel; the answer holds at most
-    // capacity - 1 characters.
+    // Asks for one line of text under the title, its field filled with answer: false on Cancel;
+    // the answer holds at most capacity - 1 characters.
     virtual bool AskString(QWidget* parent, const char* title, char* answer,
                            std::size_t capacity) = 0;
     // The sound chooser, starting in the sound folder: a path, or empty.
