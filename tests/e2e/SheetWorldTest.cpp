@@ -24,6 +24,11 @@ struct SheetCase {
     bool (SheetWorldTest::*shows)(Client& client, int round);
 };
 
+void PrintTo(const SheetCase& c, std::ostream* out)
+{
+    *out << c.name;
+}
+
 class SheetWorldTest : public ClientHarness, public ::testing::WithParamInterface<SheetCase> {
   public:
     bool SalmonIsRed(Client& client, int round)
