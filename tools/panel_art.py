@@ -245,26 +245,42 @@ def net():
     return pic
 
 
-# List icons of the highlight dialogs, each with a mask: black where the picture is.
+# List icons of the highlight dialogs, each with a mask: black where the picture is. Silver
+# inside a black outline, so that they show on a dark list and on a light one.
+ICON_FILL = (192, 192, 192)
+
+
 def speaker(pic):
-    pic.rect(2, 6, 4, 5, (0, 0, 0))
-    pic.fill(lambda x, y: abs(y - 7.5) <= x + 2, (0, 0, 0), (6, 3, 5, 10))
+    pic.rect(2, 6, 4, 5, ICON_FILL)
+    pic.fill(lambda x, y: abs(y - 7.5) <= x + 2, ICON_FILL, (6, 3, 5, 10))
     for r in (3, 5):
         for a in range(-50, 51, 10):
             pic.put(11 + round(r * math.cos(math.radians(a))),
-                    8 + round(r * math.sin(math.radians(a))), (0, 0, 128))
+                    8 + round(r * math.sin(math.radians(a))), ICON_FILL)
 
 
 def pointer(pic):
-    pic.fill(lambda x, y: abs(y - 7.5) <= (x + 1) * 0.6, (0, 0, 128), (3, 2, 10, 12))
-    pic.rect(3, 6, 4, 4, (0, 0, 128))
+    pic.fill(lambda x, y: abs(y - 7.5) <= (x + 1) * 0.6, ICON_FILL, (3, 2, 10, 12))
+    pic.rect(3, 6, 4, 4, ICON_FILL)
+
+
+def icon_outline(pic, background):
+    drawn = [(x, y) for y in range(pic.height) for x in range(pic.width)
+             if pic.get(x, y) != background]
+    for x, y in drawn:
+        for dx, dy in ((1, 0), (-1, 0), (0, 1), (0, -1)):
+            if (0 <= x + dx < pic.width and 0 <= y + dy < pic.height
+                    and pic.get(x + dx, y + dy) == background):
+                pic.put(x + dx, y + dy, (0, 0, 0))
 
 
 def list_icon(draw):
-    pic = Picture(16, 16, (255, 255, 255))
+    white = (255, 255, 255)
+    pic = Picture(16, 16, white)
     draw(pic)
-    mask = Picture(16, 16, (255, 255, 255))
-    mask.pixels = [(255, 255, 255) if p == (255, 255, 255) else (0, 0, 0) for p in pic.pixels]
+    icon_outline(pic, white)
+    mask = Picture(16, 16, white)
+    mask.pixels = [white if p == white else (0, 0, 0) for p in pic.pixels]
     return pic, mask
 
 

@@ -1,5 +1,7 @@
 #include "highlights/HighlightSound.h"
 
+#include "highlights/SoundFiles.h"
+
 #include <cstdio>
 #include <cstring>
 
@@ -12,15 +14,23 @@ bool BuildSoundPath(char (&out)[SOUND_PATH_SIZE], const char* soundPath, const c
     return length >= 0 && static_cast<std::size_t>(length) < sizeof out;
 }
 
-void SoundFolder::PlayHighlightSound(const char* name)
+bool SoundFolder::TryPlay(const char* name)
 {
     char path[SOUND_PATH_SIZE];
     if (!BuildSoundPath(path, soundPath_.c_str(), name))
-        return;
-    if (player_.PlayFile(path) || std::strchr(name, '.'))
-        return;
-    std::memcpy(path + std::strlen(path) - 4, ".wav", 4);
-    player_.PlayFile(path);
+        return false;
+    if (player_.PlayFile(path))
+        return true;
+    const bool dotted = std::strchr(name, '.') != nullptr;
+    if (!dotted) {
+        std::memcpy(path + std::strlen(path) - 4, ".wav", 4);
+        if (player_.PlayFile(path))
+            return true;
+    }
+    // Only a name that was not found costs a look through the folder.
+    const std::string found =
+        FindFileNoCase(soundPath_, std::string(name) + (dotted ? "" : ".wav"));
+    return !found.empty() && found.size() < SOUND_PATH_SIZE && player_.PlayFile(found.c_str());
 }
 
 void PlayStartMusic(HighlightSounds& sounds, bool squelchSounds)

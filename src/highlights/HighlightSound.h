@@ -14,7 +14,8 @@ constexpr std::size_t SOUND_PATH_SIZE = 256;
 // not fit in out.
 bool BuildSoundPath(char (&out)[SOUND_PATH_SIZE], const char* soundPath, const char* name);
 
-// Plays the wave files of SoundPath by name, trying ".wav" when an added ".WAV" finds nothing.
+// Plays the wave files of SoundPath by name, trying ".wav" when an added ".WAV" finds nothing,
+// and at last a file whose name differs only in case.
 class SoundFolder : public HighlightSounds {
   public:
     explicit SoundFolder(SoundPlayer& player) : player_(player) {}
@@ -22,7 +23,9 @@ class SoundFolder : public HighlightSounds {
     void SetSoundPath(const std::string& folder) { soundPath_ = folder; }
     const std::string& SoundPath() const { return soundPath_; }
 
-    void PlayHighlightSound(const char* name) override;
+    void PlayHighlightSound(const char* name) override { TryPlay(name); }
+    // False when no file of that name was found.
+    bool TryPlay(const char* name);
 
   private:
     SoundPlayer& player_;

@@ -2,7 +2,6 @@
 
 #include "base/FrameCommand.h"
 
-#include <algorithm>
 #include <array>
 
 namespace steward {
@@ -22,12 +21,6 @@ constexpr std::array<FixedTextCommand, 19> FIXED_TEXTS = {{
     {40024, "world"},
 }};
 
-constexpr std::array<int, 3> LATER_COMMANDS = {
-    CMD_HIGHLIGHT_STRINGS,
-    CMD_MACRO_KEYS,
-    CMD_COPY_TO_COMMAND_LINE,
-};
-
 } // namespace
 
 const char* FindFixedText(int command)
@@ -36,11 +29,6 @@ const char* FindFixedText(int command)
         if (entry.Command == command)
             return entry.Text;
     return nullptr;
-}
-
-bool IsCommandAvailable(int command)
-{
-    return std::find(LATER_COMMANDS.begin(), LATER_COMMANDS.end(), command) == LATER_COMMANDS.end();
 }
 
 } // namespace steward

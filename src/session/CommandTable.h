@@ -12,8 +12,5 @@ struct FixedTextCommand {
 // are looked up before every other command.
 const char* FindFixedText(int command);
 
-// False for the commands whose work comes with a later part of the program: their menu
-// items are shown grey.
-bool IsCommandAvailable(int command);
 
 } // namespace steward

@@ -2,7 +2,6 @@
 
 #include "base/FrameCommand.h"
 #include "config/Settings.h"
-#include "session/CommandTable.h"
 
 namespace steward {
 
@@ -40,8 +39,6 @@ MenuItemState MenuState::Of(int command) const
     for (int i = 0; i < count_; ++i)
         if (entries_[i].Command == command)
             state = entries_[i].State;
-    if (!IsCommandAvailable(command))
-        state.Enabled = false;
     return state;
 }
 

@@ -33,12 +33,6 @@ class OtherPlayer {
 
 class AnalysisWorldTest : public ClientHarness {
   protected:
-    static bool WaitForBytes(AnsiWindow* window, const std::string& needle)
-    {
-        return QTest::qWaitFor(
-            [&] { return WindowBytes(window).find(needle) != std::string::npos; }, WAIT_MS);
-    }
-
     std::string SoundFile(const char* name) const
     {
         return SoundPath(MakeConfigFiles(folder.path().toStdString())) + "/" + name;

@@ -130,7 +130,7 @@ TEST_F(CharacterWorldTest, CreatingACharacterSavesTheCurrentDataUnderItsNameAndS
     // A maximised window must not hide the menu from the rebuild.
     client->Windows().Maximise(GAME_ROW);
     const QByteArray sentBefore = SentAfterAWhile();
-    desktop.stringAnswer = "Delta  ";
+    desktop.answers = {"Delta  "};
     client->OnCommand(CMD_NEW_CHARACTER);
 
     EXPECT_EQ(desktop.stringTitles, std::vector<std::string>{"Enter New Character Name"});
@@ -160,7 +160,7 @@ TEST_P(CharacterNameRefused, WithAMessageAndNoFileTouched)
     auto client = MakeClient("");
     ASSERT_TRUE(client->Start());
     const QStringList before = QDir(folder.path()).entryList(QDir::Files);
-    desktop.stringAnswer = GetParam().answer;
+    desktop.answers = {GetParam().answer};
     client->OnCommand(CMD_NEW_CHARACTER);
     EXPECT_STREQ(client->State().Profile.CurrentCharacter, "Default");
     ASSERT_EQ(desktop.messages.size(), 1u);
@@ -186,7 +186,7 @@ TEST_F(CharacterWorldTest, AFolderThatCannotBeWrittenIsSaidAndNothingChanges)
     ASSERT_TRUE(client->Start());
     const QString away = folder.path() + "-away";
     ASSERT_TRUE(QDir().rename(folder.path(), away));
-    desktop.stringAnswer = "Epsilon";
+    desktop.answers = {"Epsilon"};
     client->OnCommand(CMD_NEW_CHARACTER);
     ASSERT_TRUE(QDir().rename(away, folder.path()));
     EXPECT_STREQ(client->State().Profile.CurrentCharacter, "Default");

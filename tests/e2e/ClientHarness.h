@@ -65,12 +65,14 @@ class RecordingDesktop : public Desktop {
         return false;
     }
     void Beep() override {}
+    // Answers with the next of answers, or cancels when none is left; keeps each title.
     bool AskString(QWidget*, const char* title, char* answer, std::size_t capacity) override
     {
         stringTitles.emplace_back(title);
-        if (!stringAnswer)
+        if (answers.empty())
             return false;
-        CopyCut(answer, capacity, stringAnswer);
+        std::snprintf(answer, capacity, "%s", answers.front().c_str());
+        answers.erase(answers.begin());
         return true;
     }
     bool AskDragTarget(QWidget*, std::string& target) override
@@ -93,16 +95,16 @@ class RecordingDesktop : public Desktop {
         return recordFile;
     }
     std::string CreateScript(QWidget*, const std::string&) override { return {}; }
+    std::string ChooseSoundFile(QWidget*, const std::string&) override { return {}; }
 
     RecordingSoundPlayer sounds;
     RecordingBrowser browser;
-    // AskString's answer; null is Cancel.
-    const char* stringAnswer = nullptr;
     std::vector<std::string> stringTitles;
     std::string scriptFile;
     std::string recordFile;
     std::string scriptFolder;
     std::string dragTarget;
+    std::vector<std::string> answers;
     ConnectChoice choice = ConnectChoice::Connect;
     std::string answerHost;
     int answerPort = 0;
@@ -196,6 +198,12 @@ class ClientHarness : public ::testing::Test {
         for (auto at = live.GetHeadPos(); at != live.GetWritePos(); at = live.Next(at))
             bytes.push_back(static_cast<char>(live.ByteAt(at)));
         return bytes;
+    }
+
+    static bool WaitForBytes(AnsiWindow* window, const std::string& needle)
+    {
+        return QTest::qWaitFor(
+            [&] { return WindowBytes(window).find(needle) != std::string::npos; }, WAIT_MS);
     }
 
     // The last bytes of the Game window, however much text it holds.

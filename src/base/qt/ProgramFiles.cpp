@@ -1,7 +1,6 @@
 #include "base/qt/ProgramFiles.h"
 
 #include "base/qt/ProgramResources.h"
-#include "highlights/qt/QtSoundPlayer.h"
 
 #include <QDir>
 #include <QFile>
@@ -26,6 +25,12 @@ void InstallProgramFiles(const std::string& folder)
     if (!QFile::exists(notes) && QFile::copy(QStringLiteral(":/") + VERSION_NOTES, notes))
         QFile::setPermissions(notes, READ_ALL_WRITE_OWNER);
     InstallMissingResources(QStringLiteral(":/scripts"), base);
+}
+
+void InstallDefaultSounds(const QString& folder)
+{
+    LoadProgramResources();
+    InstallMissingResources(QStringLiteral(":/sounds"), folder);
 }
 
 void InstallMissingResources(const QString& resourceFolder, const QString& folder)

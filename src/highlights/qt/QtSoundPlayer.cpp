@@ -1,8 +1,5 @@
 #include "highlights/qt/QtSoundPlayer.h"
 
-#include "base/qt/ProgramFiles.h"
-#include "base/qt/ProgramResources.h"
-
 #include <QAudioDevice>
 #include <QDir>
 #include <QFile>
@@ -32,12 +29,6 @@ bool QtSoundPlayer::PlayFile(const char* path)
     effect_->setSource(QUrl::fromLocalFile(file));
     effect_->play();
     return true;
-}
-
-void InstallDefaultSounds(const QString& folder)
-{
-    LoadProgramResources();
-    InstallMissingResources(QStringLiteral(":/sounds"), folder);
 }
 
 } // namespace steward

@@ -23,7 +23,4 @@ class QtSoundPlayer : public SoundPlayer {
     std::unique_ptr<QSoundEffect> effect_;
 };
 
-// Writes the wave files that come with the program into folder where they are missing.
-void InstallDefaultSounds(const QString& folder);
-
 } // namespace steward

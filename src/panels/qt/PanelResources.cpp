@@ -11,13 +11,20 @@ constexpr int BOX_FONT_PIXELS = 11;
 
 } // namespace
 
-PanelResources::PanelResources() : font_("IDB_ALPHABET", ALPHABET_ADVANCES)
+QFont PanelBoxFont()
+{
+    QFont font;
+    font.setPixelSize(BOX_FONT_PIXELS);
+    font.setStretch(QFont::SemiCondensed);
+    font.setBold(true);
+    return font;
+}
+
+PanelResources::PanelResources()
+    : font_("IDB_ALPHABET", ALPHABET_ADVANCES), boxFont_(PanelBoxFont())
 {
     for (int id = FIRST_MAPPED; id <= LAST_MAPPED; ++id)
         mapped_[id - FIRST_MAPPED] = LoadMappedBitmap(id);
-    boxFont_.setPixelSize(BOX_FONT_PIXELS);
-    boxFont_.setStretch(QFont::SemiCondensed);
-    boxFont_.setBold(true);
     boxAscent_ = QFontMetrics(boxFont_).ascent();
 }
 

@@ -7,6 +7,9 @@
 
 namespace steward {
 
+// The bold window font of the panel's text boxes, which the highlight lists share.
+QFont PanelBoxFont();
+
 // What every panel control draws with, loaded once: the gauges' alphabet, the numbered
 // pictures of the BodyFigure already recoloured, and the text boxes' window font.
 class PanelResources {

@@ -91,6 +91,8 @@ class Client : public QObject, private FrameQueue, private RestSender {
     void CopyToHighlights(int command);
     // The macro sheet, then the title, which shows the current set.
     void EditMacros();
+    // The highlight sheet over the Game window's colours.
+    void EditHighlights();
     // Asks whom to drag: OK takes the field as DragTarget, "Stop Dragging" empties it.
     void AskDragTarget();
     // The options sheet; the sounds follow a new Sound Path at once.

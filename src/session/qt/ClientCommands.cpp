@@ -8,6 +8,7 @@
 #include "commands/qt/CommandLine.h"
 #include "commands/qt/MacroSheet.h"
 #include "config/qt/OptionsSheet.h"
+#include "highlights/qt/HighlightSheet.h"
 #include "highlights/qt/QtClipboardReader.h"
 #include "scripts/qt/ScriptControl.h"
 #include "services/WebAddress.h"
@@ -68,6 +69,7 @@ const Client::CommandEntry Client::COMMANDS[] = {
     {CMD_UNEQUIP_SHIELD, [](Client& c) { c.SendCommand(c.session_.Profile.UnequipShield); }},
     {CMD_CONNECT, [](Client& c) { Reconnect(c.session_, c.link_, c.desktop_, c.frame_.get()); }},
     {CMD_MACRO_KEYS, [](Client& c) { c.EditMacros(); }},
+    {CMD_HIGHLIGHT_STRINGS, [](Client& c) { c.EditHighlights(); }},
     {CMD_DRAG_SOMEONE, [](Client& c) { c.AskDragTarget(); }},
     {CMD_STOP_DRAGGING, [](Client& c) { c.keyboard_->State.DragTarget[0] = '\0'; }},
     {CMD_GRAPHICS_AT_TOP, [](Client& c) { c.SetDisplayMode(DISPLAY_GRAPHICS_TOP); }},
@@ -159,6 +161,14 @@ void Client::EditOptions()
         frame_.get(), session_.Profile, session_.Files,
         [this](QWidget* owner, const char* title) { return desktop_.PickFolder(owner, title); });
     sounds_.SetSoundPath(SoundPath(session_.Files));
+}
+
+void Client::EditHighlights()
+{
+    ShowHighlightDialog(frame_.get(),
+                        {session_.Profile.Settings, highlights_, sounds_, desktop_, desktop_},
+                        session_.Windows.GameWindow);
+    frame_->FocusCommandLine();
 }
 
 void Client::AskDragTarget()

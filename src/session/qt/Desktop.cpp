@@ -10,6 +10,7 @@
 #include <QDesktopServices>
 #include <QDialogButtonBox>
 #include <QDir>
+#include <QFile>
 #include <QFileDialog>
 #include <QFormLayout>
 #include <QLineEdit>
@@ -92,7 +93,7 @@ bool QtDesktop::AskString(QWidget* parent, const char* title, char* answer, std:
 {
     if (capacity == 0)
         return false;
-    QString text;
+    QString text = QString::fromLatin1(answer);
     if (!AskLine(parent, QString::fromLatin1(title), QString(), QStringLiteral("Cancel"),
                  static_cast<int>(capacity - 1), text))
         return false;
@@ -136,6 +137,14 @@ std::string QtDesktop::AskRecordFile(QWidget* parent, const std::string& folder)
 std::string QtDesktop::CreateScript(QWidget* parent, const std::string& folder)
 {
     return ScriptCreatorDialog(parent, folder);
+}
+
+std::string QtDesktop::ChooseSoundFile(QWidget* parent, const std::string& folder)
+{
+    const QString path = QFileDialog::getOpenFileName(
+        parent, QStringLiteral("Choose a Sound"), QFile::decodeName(folder.c_str()),
+        QStringLiteral("Wave Sounds (*.wav *.WAV *.Wav);;All Files (*)"));
+    return QFile::encodeName(path).toStdString();
 }
 
 } // namespace steward

@@ -3,6 +3,7 @@
 #include "base/qt/MessageBoxes.h"
 #include "config/LogHost.h"
 #include "highlights/SoundPlayer.h"
+#include "highlights/qt/HighlightDialogs.h"
 #include "highlights/qt/QtSoundPlayer.h"
 #include "scripts/qt/ScriptDialogs.h"
 #include "services/qt/DesktopBrowser.h"
@@ -16,9 +17,9 @@ class QWidget;
 namespace steward {
 
 // Everything the program asks of the person and of the desktop: dialogs, message boxes and
-// the text editor. Tests give a recording double, so that no dialog waits and no program
-// opens on the desktop.
-class Desktop : public MessageBoxes, public ScriptFileDialogs {
+// the text editor, the highlight sheet's questions among them. Tests give a recording double,
+// so that no dialog waits and no program opens on the desktop.
+class Desktop : public MessageBoxes, public ScriptFileDialogs, public HighlightDialogs {
   public:
     virtual ~Desktop() = default;
 
@@ -30,10 +31,6 @@ class Desktop : public MessageBoxes, public ScriptFileDialogs {
     virtual bool RunEditor(const std::string& path) = 0;
     virtual bool AskSaveFileName(QWidget* parent, const SaveFileRequest& request, char* path,
                                  std::size_t capacity) = 0;
-    // Asks for one line of text under the title: false on Cancel; the answer holds at most
-    // capacity - 1 characters.
-    virtual bool AskString(QWidget* parent, const char* title, char* answer,
-                           std::size_t capacity) = 0;
     // Asks whom to drag, the field filled with the target: true with the new target on OK, false
     // when the player chose "Stop Dragging".
     virtual bool AskDragTarget(QWidget* parent, std::string& target) = 0;
@@ -64,6 +61,7 @@ class QtDesktop : public Desktop {
                                  bool forEditing) override;
     std::string AskRecordFile(QWidget* parent, const std::string& folder) override;
     std::string CreateScript(QWidget* parent, const std::string& folder) override;
+    std::string ChooseSoundFile(QWidget* parent, const std::string& folder) override;
 
   private:
     QtSoundPlayer sounds_;

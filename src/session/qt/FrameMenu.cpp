@@ -1,7 +1,6 @@
 #include "session/qt/FrameMenu.h"
 
 #include "base/FrameCommand.h"
-#include "session/CommandTable.h"
 #include "session/MenuBar.h"
 
 #include <QMdiArea>
@@ -66,8 +65,6 @@ FrameMenu::FrameMenu(QMenuBar& bar, QMdiArea& mdi, CommandHandler onCommand, Inp
             }
         }
     }
-    for (auto it = actions_.cbegin(); it != actions_.cend(); ++it)
-        it.value()->setEnabled(IsCommandAvailable(it.key()));
 }
 
 void FrameMenu::Refresh()

@@ -93,6 +93,32 @@ INSTANTIATE_TEST_SUITE_P(Pages, MacroSheetEdit,
                                            EditCase{"KeypadPlus", KEYPAD_TAB, 14, 0, VK_ADD}),
                          [](const auto& info) { return info.param.name; });
 
+struct KeyCase {
+    const char* name;
+    Qt::Key key;
+    const char* stored;
+};
+
+class MacroSheetKey : public MacroSheetTest, public ::testing::WithParamInterface<KeyCase> {};
+
+TEST_P(MacroSheetKey, EnterInAnEditIsOkAndEscapeIsCancel)
+{
+    Sheet().show();
+    QApplication::setActiveWindow(&Sheet());
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&Sheet()));
+    QLineEdit* edit = Open<LetterPage>(ALT_TAB).Edit(1);
+    edit->setFocus();
+    QTest::keyClicks(edit, "typed");
+    QTest::keyClick(edit, GetParam().key);
+    EXPECT_FALSE(Sheet().isVisible());
+    EXPECT_EQ(Macro(KEY_ALT, 'B'), GetParam().stored);
+}
+
+INSTANTIATE_TEST_SUITE_P(Keys, MacroSheetKey,
+                         ::testing::Values(KeyCase{"Enter", Qt::Key_Return, "typed"},
+                                           KeyCase{"Escape", Qt::Key_Escape, ""}),
+                         [](const auto& info) { return info.param.name; });
+
 TEST_F(MacroSheetTest, AKeyTypeChangeStoresTheRowsAtOnce)
 {
     auto& page = Open<FunctionKeyPage>(FKEY_TAB);

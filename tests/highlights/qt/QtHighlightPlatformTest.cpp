@@ -1,3 +1,4 @@
+#include "base/qt/ProgramFiles.h"
 #include "highlights/HighlightSound.h"
 #include "highlights/qt/QtClipboardReader.h"
 #include "highlights/qt/QtSoundPlayer.h"

@@ -13,6 +13,7 @@
 #include "terminal/AnsiWindow.h"
 
 #include <QAction>
+#include <QApplication>
 #include <QClipboard>
 #include <QDate>
 #include <QEventLoop>
@@ -74,6 +75,7 @@ class OfflineDesktop : public Desktop {
     std::string ChooseScriptFile(QWidget*, const std::string&, bool) override { return {}; }
     std::string AskRecordFile(QWidget*, const std::string&) override { return {}; }
     std::string CreateScript(QWidget*, const std::string&) override { return {}; }
+    std::string ChooseSoundFile(QWidget*, const std::string&) override { return {}; }
 
     SilentPlayer sounds;
     test::RecordingBrowser browser;
@@ -434,6 +436,25 @@ TEST_F(ClientCommandsTest, CopyCommandsTakeTheActiveWindowsSelection)
     HighlightList strings;
     strings.Load(File("Default.Highlights").c_str());
     EXPECT_STREQ(strings.Text(0), "a silver coin");
+}
+
+TEST_F(ClientCommandsTest, TheCopyMacroKeyCopiesTheActiveWindowsSelection)
+{
+    FrameWindow& frame = client->Frame();
+    frame.show();
+    QApplication::setActiveWindow(&frame);
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&frame));
+    frame.Mdi().setActiveSubWindow(client->Windows().Child(GAME_ROW));
+    AnsiWindow& game = *client->State().Windows.GameWindow;
+    game.AppendText("a golden key\n");
+    TextBuffer& buffer = game.GetLiveBuffer();
+    buffer.SelectLine(buffer.Prev(buffer.Prev(buffer.GetWritePos())));
+    QGuiApplication::clipboard()->clear();
+    frame.CommandLine()->setFocus();
+
+    QTest::keyClick(frame.CommandLine(), Qt::Key_C, Qt::ControlModifier);
+    EXPECT_EQ(QGuiApplication::clipboard()->text(), QStringLiteral("a golden key"));
+    EXPECT_TRUE(game.HasSelection());
 }
 
 TEST_F(ClientCommandsTest, MenuFollowsTheOfflineState)

@@ -73,7 +73,6 @@ TEST_F(FrameWindowTest, ItemsFollowTheLiveStateWhenRefreshed)
     EXPECT_TRUE(frame->Menu().Action(CMD_RESET_STEWARD_MODE)->isEnabled());
     EXPECT_TRUE(frame->Menu().Action(CMD_FULL_SCREEN)->isChecked());
     EXPECT_FALSE(frame->Menu().Action(CMD_GRAPHICS_AT_TOP)->isChecked());
-    EXPECT_FALSE(frame->Menu().Action(CMD_HIGHLIGHT_STRINGS)->isEnabled());
 }
 
 TEST_F(FrameWindowTest, CloseAsksTheProgram)

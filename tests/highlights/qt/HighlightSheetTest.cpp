@@ -1,0 +1,289 @@
+#include "highlights/qt/HighlightSheet.h"
+#include "base/qt/MessageBoxes.h"
+#include "highlights/qt/ColorGrid.h"
+#include "highlights/qt/HighlightDialogs.h"
+#include "highlights/qt/HighlightItemView.h"
+#include "highlights/qt/QtSoundPlayer.h"
+#include "terminal/Palette.h"
+
+#include <QApplication>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QFile>
+#include <QLabel>
+#include <QListView>
+#include <QPushButton>
+#include <QTabWidget>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <gtest/gtest.h>
+
+#include <cstdio>
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace steward {
+namespace {
+
+// The sheet's dialogs answer from lists; every message is kept.
+class SheetDialogs : public HighlightDialogs, public MessageBoxes {
+  public:
+    void ShowMessage(QWidget*, const char* text, const char*) override
+    {
+        messages.emplace_back(text);
+    }
+    void Beep() override {}
+    bool AskString(QWidget*, const char*, char* answer, std::size_t capacity) override
+    {
+        shown.emplace_back(answer);
+        limits.push_back(capacity - 1);
+        if (answers.empty())
+            return false;
+        std::snprintf(answer, capacity, "%s", answers.front().c_str());
+        answers.erase(answers.begin());
+        return true;
+    }
+    std::string ChooseSoundFile(QWidget*, const std::string&) override { return soundFile; }
+
+    QtSoundPlayer player;
+    std::vector<std::string> answers;
+    std::vector<std::string> shown;
+    std::vector<std::size_t> limits;
+    std::vector<std::string> messages;
+    std::string soundFile;
+};
+
+enum Tab { DEFAULTS, STRINGS, NAMES };
+
+class HighlightSheetTest : public ::testing::Test {
+  protected:
+    void SetUp() override
+    {
+        ASSERT_TRUE(folder.isValid());
+        sounds.SetSoundPath(QFile::encodeName(folder.path()).toStdString());
+        lists.StringHighlights.Add("Mara", 14);
+        lists.NameHighlights.Add("Orla", 14);
+    }
+
+    HighlightSheet& Sheet()
+    {
+        if (!sheet_)
+            sheet_ = std::make_unique<HighlightSheet>(
+                HighlightSheetLinks{settings, lists, sounds, dialogs, dialogs}, nullptr);
+        return *sheet_;
+    }
+    HighlightPage& Open(Tab tab)
+    {
+        Sheet().Tabs()->setCurrentIndex(tab);
+        return *Sheet().Page(tab);
+    }
+    static void ClickCell(HighlightPage& page, int cell, Qt::MouseButton button)
+    {
+        QTest::mouseClick(page.Grid(), button, {}, page.Grid()->CellRect(cell).center());
+    }
+    static void Click(HighlightPage& page, PageButton button)
+    {
+        QTest::mouseClick(page.Button(button), Qt::LeftButton);
+    }
+    void WriteFile(const QString& name, const QByteArray& bytes)
+    {
+        QFile file(name);
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(bytes);
+    }
+
+    QTemporaryDir folder;
+    Settings settings;
+    HighlightLists lists;
+    SheetDialogs dialogs;
+    SoundFolder sounds{dialogs.player};
+
+  private:
+    std::unique_ptr<HighlightSheet> sheet_;
+};
+
+enum class Ending { Ok, Apply, Cancel, ApplyThenCancel };
+
+struct EndingCase {
+    const char* name;
+    Tab tab;
+    Ending ending;
+    bool stored;
+};
+
+class SheetEnding : public HighlightSheetTest, public ::testing::WithParamInterface<EndingCase> {
+  protected:
+    // The colour of the first row of the page's store.
+    unsigned char StoredColor(Tab tab) const
+    {
+        if (tab == DEFAULTS)
+            return settings.SaysColor;
+        return (tab == STRINGS ? lists.StringHighlights : lists.NameHighlights).Color(0);
+    }
+};
+
+TEST_P(SheetEnding, AnEditReachesTheStoreOnlyOnOkOrApply)
+{
+    const EndingCase& c = GetParam();
+    HighlightPage& page = Open(c.tab);
+    const unsigned char before = StoredColor(c.tab);
+    ClickCell(page, 1, Qt::RightButton);
+    EXPECT_EQ(StoredColor(c.tab), before);
+    EXPECT_TRUE(Sheet().ApplyButton()->isEnabled());
+    if (c.ending == Ending::Apply || c.ending == Ending::ApplyThenCancel)
+        QTest::mouseClick(Sheet().ApplyButton(), Qt::LeftButton);
+    if (c.ending == Ending::Ok)
+        Sheet().accept();
+    if (c.ending == Ending::Cancel || c.ending == Ending::ApplyThenCancel)
+        Sheet().reject();
+    EXPECT_EQ(StoredColor(c.tab), c.stored ? (before & 0x0F) | 0x10 : before);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Pages, SheetEnding,
+    ::testing::Values(EndingCase{"DefaultsOk", DEFAULTS, Ending::Ok, true},
+                      EndingCase{"DefaultsCancel", DEFAULTS, Ending::Cancel, false},
+                      EndingCase{"StringsApply", STRINGS, Ending::Apply, true},
+                      EndingCase{"StringsCancel", STRINGS, Ending::Cancel, false},
+                      EndingCase{"NamesOk", NAMES, Ending::Ok, true},
+                      EndingCase{"NamesApplyThenCancel", NAMES, Ending::ApplyThenCancel, true}),
+    [](const auto& info) { return info.param.name; });
+
+TEST_F(HighlightSheetTest, APageNeverOpenedIsNotWritten)
+{
+    lists.NameHighlights.SetText(2, "after a gap");
+    Open(STRINGS);
+    Sheet().accept();
+    EXPECT_STREQ(lists.NameHighlights.Text(1), "") << "an applied names page closes the gap";
+    EXPECT_EQ(Sheet().Page(NAMES), nullptr);
+}
+
+TEST_F(HighlightSheetTest, NewCountsTheSlotsDownAndAFullListAsksNothing)
+{
+    HighlightPage& page = Open(STRINGS);
+    EXPECT_EQ(page.SlotsLeft()->text(), QStringLiteral("4095"));
+    dialogs.answers = {"say \"hi\" \xA3\x81", ""};
+    Click(page, PageButton::New);
+    EXPECT_EQ(page.SlotsLeft()->text(), QStringLiteral("4094"));
+    Click(page, PageButton::New);
+    EXPECT_EQ(page.SlotsLeft()->text(), QStringLiteral("4094")) << "an empty answer adds nothing";
+    EXPECT_EQ(dialogs.limits, (std::vector<std::size_t>{HIGHLIGHT_ASK_LIMIT, HIGHLIGHT_ASK_LIMIT}));
+    Sheet().accept();
+    EXPECT_STREQ(lists.StringHighlights.Text(1), "say \"hi\" ??");
+
+    HighlightList full;
+    for (std::size_t i = 0; i < HIGHLIGHT_SLOTS; ++i)
+        full.SetText(i, "x");
+    lists.NameHighlights = full;
+    HighlightSheet again({settings, lists, sounds, dialogs, dialogs}, nullptr);
+    again.Tabs()->setCurrentIndex(NAMES);
+    EXPECT_EQ(again.Page(NAMES)->SlotsLeft()->text(), QStringLiteral("   0"));
+    Click(*again.Page(NAMES), PageButton::New);
+    EXPECT_EQ(dialogs.shown.size(), 2u);
+}
+
+TEST_F(HighlightSheetTest, ChangeStartsFromTheMatchTextAndKeepsTheMarkers)
+{
+    lists.StringHighlights.SetText(0, "{Gong}$Mara");
+    HighlightPage& page = Open(STRINGS);
+    dialogs.answers = {"Orla"};
+    const QPoint item = page.List()->visualRect(page.List()->model()->index(0, 0)).center();
+    QTest::mouseClick(page.List()->viewport(), Qt::LeftButton, {}, item);
+    QTest::mouseDClick(page.List()->viewport(), Qt::LeftButton, {}, item);
+    EXPECT_EQ(dialogs.shown, std::vector<std::string>{"Mara"});
+    EXPECT_EQ(dialogs.limits.back(), HIGHLIGHT_TEXT_MAX - 7);
+    QTest::mouseClick(page.Box(HighlightFlag::CaseSensitive), Qt::LeftButton);
+    Sheet().accept();
+    EXPECT_STREQ(lists.StringHighlights.Text(0), "{Gong}$@Orla");
+}
+
+TEST_F(HighlightSheetTest, TheSoundChooserTakesWaveFilesAndSaysWhatItCannotTake)
+{
+    QTemporaryDir elsewhere;
+    WriteFile(elsewhere.filePath("notes.wav"), "plain text");
+    WriteFile(elsewhere.filePath("Bell.wav"), QByteArray("RIFF\x24\0\0\0WAVEfmt ", 16));
+    HighlightPage& page = Open(STRINGS);
+    dialogs.soundFile = QFile::encodeName(elsewhere.filePath("notes.wav")).toStdString();
+    Click(page, PageButton::Browse);
+    ASSERT_EQ(dialogs.messages.size(), 1u);
+    EXPECT_NE(dialogs.messages[0].find("is not a wave sound"), std::string::npos);
+    EXPECT_EQ(page.SoundList()->currentIndex(), 0);
+    dialogs.messages.clear();
+    dialogs.soundFile = QFile::encodeName(elsewhere.filePath("Bell.wav")).toStdString();
+    Click(page, PageButton::Browse);
+    EXPECT_EQ(page.SoundList()->currentText(), QStringLiteral("Bell"));
+    EXPECT_TRUE(page.Button(PageButton::Play)->isEnabled());
+    ASSERT_TRUE(QFile::remove(folder.filePath("Bell.wav")));
+    Click(page, PageButton::Play);
+    EXPECT_EQ(dialogs.messages.size(), 1u) << "a sound gone from the folder is said";
+    Sheet().accept();
+    EXPECT_STREQ(lists.StringHighlights.Text(0), "{Bell}Mara");
+}
+
+TEST_F(HighlightSheetTest, TheListDrawsTheMatchTextInItsColoursBesideTheIcons)
+{
+    lists.StringHighlights.SetText(0, "{Gong}$MMMM");
+    lists.StringHighlights.SetColor(0, 0x1C);
+    settings.DefaultBackColor = 0xFFFFFF;
+    HighlightPage& page = Open(STRINGS);
+    Sheet().show();
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(&Sheet()));
+    const QImage drawn = page.List()->viewport()->grab().toImage();
+    const QRect row = page.List()->visualRect(page.List()->model()->index(0, 0));
+    auto holds = [&](int left, int right, QRgb color) {
+        for (int x = left; x < right; ++x) {
+            for (int y = row.top(); y <= row.bottom(); ++y) {
+                if ((drawn.pixel(x, y) & 0xFFFFFF) == (color & 0xFFFFFF))
+                    return true;
+            }
+        }
+        return false;
+    };
+    const QRgb silver = qRgb(192, 192, 192);
+    EXPECT_TRUE(holds(0, ITEM_ICON_WIDTH, silver)) << "the chooser on the selected item";
+    EXPECT_TRUE(holds(ITEM_ICON_WIDTH, 2 * ITEM_ICON_WIDTH, silver)) << "the speaker";
+    EXPECT_TRUE(holds(ITEM_TEXT_LEFT, drawn.width(), qRgb(255, 0, 0))) << "red letters";
+    EXPECT_TRUE(holds(ITEM_TEXT_LEFT, drawn.width(), qRgb(0, 0, 0))) << "on black";
+    EXPECT_FALSE(holds(ITEM_ICON_WIDTH, ITEM_TEXT_LEFT, qRgb(255, 0, 0))) << "no marker drawn";
+}
+
+TEST_F(HighlightSheetTest, TabWalksThePageEnterIsOkAndEscapeIsCancel)
+{
+    HighlightPage& page = Open(STRINGS);
+    Sheet().show();
+    QApplication::setActiveWindow(&Sheet());
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&Sheet()));
+    page.List()->setFocus();
+    const QWidget* expected[] = {page.Button(PageButton::New),
+                                 page.Button(PageButton::Change),
+                                 page.Button(PageButton::Delete),
+                                 page.Button(PageButton::Sort),
+                                 page.SoundList(),
+                                 page.Button(PageButton::Browse),
+                                 page.Box(HighlightFlag::EntireLine)};
+    for (const QWidget* next : expected) {
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+        EXPECT_EQ(QApplication::focusWidget(), next) << next->metaObject()->className();
+    }
+    ClickCell(page, 12, Qt::LeftButton);
+    page.List()->setFocus();
+    QTest::keyClick(page.List(), Qt::Key_Escape);
+    EXPECT_EQ(Sheet().result(), QDialog::Rejected);
+    EXPECT_EQ(lists.StringHighlights.Color(0), 14);
+
+    HighlightSheet again({settings, lists, sounds, dialogs, dialogs}, nullptr);
+    again.Tabs()->setCurrentIndex(STRINGS);
+    again.show();
+    QApplication::setActiveWindow(&again);
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&again));
+    ClickCell(*again.Page(STRINGS), 12, Qt::LeftButton);
+    again.Page(STRINGS)->List()->setFocus();
+    QTest::keyClick(again.Page(STRINGS)->List(), Qt::Key_Return);
+    EXPECT_EQ(again.result(), QDialog::Accepted);
+    EXPECT_EQ(lists.StringHighlights.Color(0), 12);
+}
+
+} // namespace
+} // namespace steward
