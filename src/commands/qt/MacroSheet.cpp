@@ -2,7 +2,7 @@
 
 #include "commands/MacroKeyTypes.h"
 #include "commands/MacroSlots.h"
-#include "services/qt/CenterWindow.h"
+#include "base/qt/CenterWindow.h"
 
 #include <QButtonGroup>
 #include <QComboBox>

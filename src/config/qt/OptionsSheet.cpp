@@ -3,7 +3,7 @@
 #include "base/ByteText.h"
 #include "base/Trace.h"
 #include "config/IniStore.h"
-#include "services/qt/CenterWindow.h"
+#include "base/qt/CenterWindow.h"
 
 #include <QCheckBox>
 #include <QGridLayout>

@@ -1,7 +1,7 @@
 #include "scripts/qt/ScriptDialogs.h"
 
 #include "config/FileHandle.h"
-#include "services/qt/CenterWindow.h"
+#include "base/qt/CenterWindow.h"
 
 #include <QButtonGroup>
 #include <QFile>

@@ -1,6 +1,6 @@
 #include "services/qt/AboutDialog.h"
 
-#include "services/qt/CenterWindow.h"
+#include "base/qt/CenterWindow.h"
 
 #include <QDialogButtonBox>
 #include <QHBoxLayout>

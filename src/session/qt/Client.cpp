@@ -13,6 +13,7 @@
 #include "session/qt/ChildWindowSet.h"
 #include "session/qt/ConnectionChoice.h"
 #include "session/qt/Desktop.h"
+#include "session/qt/FrameDialogs.h"
 #include "session/qt/FramePlacement.h"
 #include "session/qt/FrameWindow.h"
 #include "session/qt/MdiClient.h"
@@ -82,6 +83,9 @@ Client::Client(ClientOptions options, Desktop& desktop)
     characters_ = std::make_unique<CharacterMenu>(
         CharacterMenu::Links{session_, *profile_, *windows_, *frame_, desktop_,
                              [this](int command) { OnCommand(command); }});
+    dialogs_ = std::make_unique<FrameDialogs>(
+        FrameDialogs::Links{*frame_, session_, desktop_, keyboard_->Macros, keyboard_->State,
+                            highlights_, sounds_, *profile_, *keyboardHost_});
     connect(&timer_, &QTimer::timeout, this, [this] { session_.Rest.OnTimer(*this); });
     connect(QAbstractEventDispatcher::instance(), &QAbstractEventDispatcher::awake, this,
             &Client::OnLoopTurn);

@@ -20,6 +20,7 @@
 namespace steward {
 
 class CharacterMenu;
+class FrameDialogs;
 class ChildWindowSet;
 class CommandLine;
 class Desktop;
@@ -86,17 +87,6 @@ class Client : public QObject, private FrameQueue, private RestSender {
     void EnterRestMode(bool silent);
     void SetDisplayMode(std::uint8_t mode);
     void ToggleAutoArrange();
-    // Copy Special: the active window's selection, or else the clipboard's lines, go to the
-    // string or the name highlights.
-    void CopyToHighlights(int command);
-    // The macro sheet, then the title, which shows the current set.
-    void EditMacros();
-    // The highlight sheet over the Game window's colours.
-    void EditHighlights();
-    // Asks whom to drag: OK takes the field as DragTarget, "Stop Dragging" empties it.
-    void AskDragTarget();
-    // The options sheet; the sounds follow a new Sound Path at once.
-    void EditOptions();
 
     struct CommandEntry {
         int Command;
@@ -129,6 +119,7 @@ class Client : public QObject, private FrameQueue, private RestSender {
     std::unique_ptr<KeyFilterQt> keyFilter_;
     std::unique_ptr<QtProfileHost> profile_;
     std::unique_ptr<CharacterMenu> characters_;
+    std::unique_ptr<FrameDialogs> dialogs_;
     std::unique_ptr<ScriptControl> scripts_;
     QTimer timer_;
     // A start that ended before the loop leaves LastChar as it was.

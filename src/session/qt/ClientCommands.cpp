@@ -6,10 +6,6 @@
 #include "base/FrameCommand.h"
 #include "commands/Keyboard.h"
 #include "commands/qt/CommandLine.h"
-#include "commands/qt/MacroSheet.h"
-#include "config/qt/OptionsSheet.h"
-#include "highlights/qt/HighlightSheet.h"
-#include "highlights/qt/QtClipboardReader.h"
 #include "scripts/qt/ScriptControl.h"
 #include "services/WebAddress.h"
 #include "services/qt/AboutDialog.h"
@@ -18,6 +14,7 @@
 #include "session/qt/ChildWindowSet.h"
 #include "session/qt/ConnectionChoice.h"
 #include "session/qt/Desktop.h"
+#include "session/qt/FrameDialogs.h"
 #include "session/qt/FrameWindow.h"
 #include "session/qt/MdiClient.h"
 #include "session/qt/QtKeyboardHost.h"
@@ -56,9 +53,9 @@ const Client::CommandEntry Client::COMMANDS[] = {
     {CMD_CUT, [](Client& c) { c.commandLine_->Cut(); }},
     {CMD_COPY, [](Client& c) { c.keyboardHost_->Copy(); }},
     {CMD_COPY_TO_STRING_HIGHLIGHTS,
-     [](Client& c) { c.CopyToHighlights(CMD_COPY_TO_STRING_HIGHLIGHTS); }},
+     [](Client& c) { c.dialogs_->CopyToHighlights(CMD_COPY_TO_STRING_HIGHLIGHTS); }},
     {CMD_COPY_TO_NAME_HIGHLIGHTS,
-     [](Client& c) { c.CopyToHighlights(CMD_COPY_TO_NAME_HIGHLIGHTS); }},
+     [](Client& c) { c.dialogs_->CopyToHighlights(CMD_COPY_TO_NAME_HIGHLIGHTS); }},
     {CMD_COPY_TO_COMMAND_LINE, [](Client& c) { c.keyboardHost_->CopyToCommandLine(); }},
     {CMD_CLEAR, [](Client& c) { c.commandLine_->Clear(); }},
     {CMD_PASTE, [](Client& c) { c.commandLine_->Paste(); }},
@@ -68,9 +65,9 @@ const Client::CommandEntry Client::COMMANDS[] = {
     {CMD_EQUIP_SHIELD, [](Client& c) { c.SendCommand(c.session_.Profile.EquipShield); }},
     {CMD_UNEQUIP_SHIELD, [](Client& c) { c.SendCommand(c.session_.Profile.UnequipShield); }},
     {CMD_CONNECT, [](Client& c) { Reconnect(c.session_, c.link_, c.desktop_, c.frame_.get()); }},
-    {CMD_MACRO_KEYS, [](Client& c) { c.EditMacros(); }},
-    {CMD_HIGHLIGHT_STRINGS, [](Client& c) { c.EditHighlights(); }},
-    {CMD_DRAG_SOMEONE, [](Client& c) { c.AskDragTarget(); }},
+    {CMD_MACRO_KEYS, [](Client& c) { c.dialogs_->EditMacros(); }},
+    {CMD_HIGHLIGHT_STRINGS, [](Client& c) { c.dialogs_->EditHighlights(); }},
+    {CMD_DRAG_SOMEONE, [](Client& c) { c.dialogs_->AskDragTarget(); }},
     {CMD_STOP_DRAGGING, [](Client& c) { c.keyboard_->State.DragTarget[0] = '\0'; }},
     {CMD_GRAPHICS_AT_TOP, [](Client& c) { c.SetDisplayMode(DISPLAY_GRAPHICS_TOP); }},
     {CMD_GRAPHICS_AT_BOTTOM, [](Client& c) { c.SetDisplayMode(DISPLAY_GRAPHICS_BOTTOM); }},
@@ -83,7 +80,7 @@ const Client::CommandEntry Client::COMMANDS[] = {
     {CMD_EDIT_SCRIPT, [](Client& c) { c.logs_.RunNotepad(c.scripts_->ChooseScriptToEdit()); }},
     {CMD_CREATE_SCRIPT, [](Client& c) { c.logs_.RunNotepad(c.scripts_->CreateScript()); }},
     {CMD_NEW_CHARACTER, [](Client& c) { c.characters_->CreateCharacter(); }},
-    {CMD_OPTIONS, [](Client& c) { c.EditOptions(); }},
+    {CMD_OPTIONS, [](Client& c) { c.dialogs_->EditOptions(); }},
     {CMD_ABOUT, [](Client& c) { ShowAboutDialog(c.frame_.get()); }},
     {CMD_HOME_PAGE, [](Client& c) { OpenUrl(c.desktop_.WebBrowser(), HOME_PAGE_ADDRESS); }},
     {CMD_MESSAGE_BOARD, [](Client& c) { OpenUrl(c.desktop_.WebBrowser(), MESSAGE_BOARD_ADDRESS); }},
@@ -138,46 +135,6 @@ void Client::ToggleAutoArrange()
 {
     session_.Profile.Settings.AutoArrange = !session_.Profile.Settings.AutoArrange;
     windows_->Arrange(false);
-}
-
-void Client::CopyToHighlights(int command)
-{
-    keyboardHost_->WithSelectionCopied([this, command] {
-        QtClipboardReader clipboard;
-        highlights_.CopyToHighlights(command, clipboard);
-    });
-}
-
-void Client::EditMacros()
-{
-    ShowMacroSheet(frame_.get(), keyboard_->Macros);
-    profile_->RefreshTitle();
-    frame_->FocusCommandLine();
-}
-
-void Client::EditOptions()
-{
-    ShowOptions(
-        frame_.get(), session_.Profile, session_.Files,
-        [this](QWidget* owner, const char* title) { return desktop_.PickFolder(owner, title); });
-    sounds_.SetSoundPath(SoundPath(session_.Files));
-}
-
-void Client::EditHighlights()
-{
-    ShowHighlightDialog(frame_.get(),
-                        {session_.Profile.Settings, highlights_, sounds_, desktop_, desktop_},
-                        session_.Windows.GameWindow);
-    frame_->FocusCommandLine();
-}
-
-void Client::AskDragTarget()
-{
-    char(&dragTarget)[DRAG_TARGET_SIZE] = keyboard_->State.DragTarget;
-    std::string target = dragTarget;
-    if (!desktop_.AskDragTarget(frame_.get(), target))
-        target.clear();
-    CopyCut(dragTarget, sizeof dragTarget, target.c_str());
 }
 
 void Client::MakeScriptControl()

@@ -1,6 +1,6 @@
 #include "session/qt/ConnectDialog.h"
 
-#include "services/qt/CenterWindow.h"
+#include "base/qt/CenterWindow.h"
 
 #include "connection/ConnectionString.h"
 

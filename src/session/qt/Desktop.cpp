@@ -3,7 +3,7 @@
 #include "base/ByteText.h"
 
 #include "scripts/qt/ScriptDialogs.h"
-#include "services/qt/CenterWindow.h"
+#include "base/qt/CenterWindow.h"
 #include "session/qt/ExitDialog.h"
 
 #include <QApplication>

@@ -1,4 +1,4 @@
-#include "services/qt/CenterWindow.h"
+#include "base/qt/CenterWindow.h"
 
 #include <QGuiApplication>
 #include <QScreen>

@@ -1,0 +1,65 @@
+#include "session/qt/FrameDialogs.h"
+
+#include "base/ByteText.h"
+#include "commands/qt/MacroSheet.h"
+#include "config/qt/OptionsSheet.h"
+#include "highlights/HighlightLists.h"
+#include "highlights/HighlightSound.h"
+#include "highlights/qt/HighlightSheet.h"
+#include "highlights/qt/QtClipboardReader.h"
+#include "scripts/CommandState.h"
+#include "session/Session.h"
+#include "session/qt/Desktop.h"
+#include "session/qt/FrameWindow.h"
+#include "session/qt/QtKeyboardHost.h"
+#include "session/qt/QtProfileHost.h"
+
+#include <string>
+
+namespace steward {
+
+void FrameDialogs::EditMacros()
+{
+    ShowMacroSheet(&links_.Frame, links_.Macros);
+    links_.Profile.RefreshTitle();
+    links_.Frame.FocusCommandLine();
+}
+
+void FrameDialogs::EditHighlights()
+{
+    Session& session = links_.State;
+    ShowHighlightDialog(&links_.Frame,
+                        {session.Profile.Settings, links_.Highlights, links_.Sounds, links_.Dialogs,
+                         links_.Dialogs},
+                        session.Windows.GameWindow);
+    links_.Frame.FocusCommandLine();
+}
+
+void FrameDialogs::EditOptions()
+{
+    Desktop& dialogs = links_.Dialogs;
+    ShowOptions(
+        &links_.Frame, links_.State.Profile, links_.State.Files,
+        [&dialogs](QWidget* owner, const char* title) { return dialogs.PickFolder(owner, title); });
+    links_.Sounds.SetSoundPath(SoundPath(links_.State.Files));
+}
+
+void FrameDialogs::AskDragTarget()
+{
+    char(&dragTarget)[DRAG_TARGET_SIZE] = links_.Commands.DragTarget;
+    std::string target = dragTarget;
+    if (!links_.Dialogs.AskDragTarget(&links_.Frame, target))
+        target.clear();
+    CopyCut(dragTarget, sizeof dragTarget, target.c_str());
+}
+
+void FrameDialogs::CopyToHighlights(int command)
+{
+    HighlightLists& highlights = links_.Highlights;
+    links_.Keyboard.WithSelectionCopied([&highlights, command] {
+        QtClipboardReader clipboard;
+        highlights.CopyToHighlights(command, clipboard);
+    });
+}
+
+} // namespace steward
