@@ -3,7 +3,7 @@
 #include "config/Settings.h"
 #include "connection/GameSocket.h"
 #include "connection/PacketDump.h"
-#include "highlights/HighlightLists.h"
+#include "highlights/HighlightStore.h"
 #include "panels/StatusPanel.h"
 #include "scripts/ScriptWait.h"
 #include "scripts/Tokenizer.h"
@@ -34,7 +34,7 @@ using bench::NAMES;
 
 // A player's lists: names built from syllables and words of the game, a third of them names,
 // with a mix of sounds and markers; the game's own names and words are among them.
-void FillLists(HighlightLists& lists, std::size_t count)
+void FillLists(HighlightStore& lists, std::size_t count)
 {
     static const char* const SYLLABLES[] = {"ar",  "bel", "cor",  "dan", "el",  "fen", "gar",
                                             "hal", "is",  "jor",  "kel", "lin", "mor", "nor",
@@ -89,7 +89,7 @@ std::size_t TotalBytes(const std::vector<std::string>& lines)
 void BM_ApplyHighlights(benchmark::State& state)
 {
     const std::vector<std::string> lines = bench::PlayLines(STREAM_LINES);
-    HighlightLists lists;
+    HighlightStore lists;
     FillLists(lists, static_cast<std::size_t>(state.range(0)));
     QuietSounds sounds;
     static char buffer[LINE_COPY_SIZE];
@@ -129,7 +129,7 @@ void BM_ReceiveWithHighlights(benchmark::State& state)
     std::string stream;
     for (const std::string& line : bench::PlayLines(STREAM_LINES))
         stream += line;
-    HighlightLists lists;
+    HighlightStore lists;
     FillLists(lists, static_cast<std::size_t>(state.range(0)));
     QuietSounds sounds;
     Settings settings;

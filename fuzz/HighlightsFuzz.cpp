@@ -3,7 +3,7 @@
 #include "FuzzFiles.h"
 
 #include "highlights/HighlightDoubles.h"
-#include "highlights/HighlightLists.h"
+#include "highlights/HighlightStore.h"
 
 #include <cstdint>
 #include <cstring>
@@ -28,7 +28,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const std::size_t first = nul ? static_cast<std::size_t>(nul - data) : size;
     const std::size_t second = nul ? first + 1 : size;
     // Loading clears both lists, so one pair serves every input without carrying anything over.
-    static HighlightLists lists;
+    static HighlightStore lists;
     lists.Load(fuzz::InputFile("Fuzz.Highlights", data, first),
                fuzz::InputFile("Fuzz.Names", data + second, size - second));
     testing::RecordedSounds sounds;

@@ -14,7 +14,7 @@ namespace steward::fuzz {
 namespace {
 
 // The frame's share of a load: the text windows read their state from the profile.
-class WindowParts : public ProfileParts {
+class WindowParts : public ProfileHost {
   public:
     GaugeColors GetGaugeColors(ProfileGauge gauge) override { return colors[gauge]; }
     void SetGaugeColors(ProfileGauge gauge, const GaugeColors& c) override { colors[gauge] = c; }

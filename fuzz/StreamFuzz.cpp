@@ -35,7 +35,7 @@ void Receive(const std::uint8_t* data, std::size_t size)
     testing::FixedClock clock;
     BufferedLog sessionLog;
     sessionLog.OpenNew((ScratchFolder() / "Session.Log").c_str());
-    HighlightLists highlights;
+    HighlightStore highlights;
     highlights.StringHighlights.Add("{Chime}salmon", 12);
     highlights.StringHighlights.Add("$*Obvious", 0x1E);
     highlights.NameHighlights.Add("Mara", 14);

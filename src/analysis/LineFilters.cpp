@@ -2,7 +2,7 @@
 #include "base/ByteText.h"
 
 #include "config/Settings.h"
-#include "highlights/HighlightLists.h"
+#include "highlights/HighlightStore.h"
 #include "panels/StatusPanel.h"
 #include "scripts/ScriptWait.h"
 #include "scripts/Tokenizer.h"

@@ -15,7 +15,7 @@ class BufferedLog;
 class CountdownListener;
 class FrameQueue;
 class Gauge;
-class HighlightLists;
+class HighlightStore;
 class HighlightSounds;
 struct ChildWindows;
 struct Settings;
@@ -46,7 +46,7 @@ class LinePipeline : public GameLineSink {
     struct Parts {
         const Settings& Options;
         BufferedLog& SessionLog;
-        HighlightLists& Highlights;
+        HighlightStore& Highlights;
         HighlightSounds& Sounds;
         const ChildWindows& Windows;
         FrameQueue& Queue;
@@ -88,7 +88,7 @@ class LinePipeline : public GameLineSink {
 
     const Settings& options_;
     BufferedLog& sessionLog_;
-    HighlightLists& highlights_;
+    HighlightStore& highlights_;
     HighlightSounds& sounds_;
     const ChildWindows& windows_;
     FrameQueue& queue_;

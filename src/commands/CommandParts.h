@@ -12,7 +12,7 @@ class KeyboardHost;
 class MacroStore;
 struct Settings;
 
-// Everything the key filter, the macro player and the command road work on.
+// Everything the key filter, the macro player and the command sender work on.
 struct CommandParts {
     CommandLineEdit& Line;
     CommandSink& Sink;

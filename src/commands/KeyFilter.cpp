@@ -2,7 +2,7 @@
 
 #include "commands/CommandHistory.h"
 #include "commands/CommandLineEdit.h"
-#include "commands/CommandRoad.h"
+#include "commands/CommandSender.h"
 #include "commands/KeyDecision.h"
 #include "commands/KeyboardHost.h"
 #include "commands/MacroPlayer.h"
@@ -19,7 +19,6 @@ constexpr char REST_LEAVE_TEXT[] = "\r\nLeaving rest mode.\r\n";
 
 } // namespace
 
-
 void MacroSetTitle(char* out, std::size_t capacity, const char* character, const MacroStore& store)
 {
     int set = store.CurrentMacroSet();
@@ -27,8 +26,8 @@ void MacroSetTitle(char* out, std::size_t capacity, const char* character, const
                   store.MacroSetName(set));
 }
 
-KeyFilter::KeyFilter(const CommandParts& parts, CommandRoad& road, MacroPlayer& player)
-    : parts_(parts), road_(road), player_(player)
+KeyFilter::KeyFilter(const CommandParts& parts, CommandSender& sender, MacroPlayer& player)
+    : parts_(parts), sender_(sender), player_(player)
 {
 }
 
@@ -79,10 +78,10 @@ void KeyFilter::Act(const KeyDecision& decision, KeyModifiers modifiers)
         break;
     case KeyAction::RepeatThenEnterKey:
         parts_.History.RepeatCommand(1, parts_.Sink);
-        road_.PostEnterKey(false);
+        sender_.PostEnterKey(false);
         break;
     case KeyAction::EnterKey:
-        road_.PostEnterKey(true);
+        sender_.PostEnterKey(true);
         break;
     case KeyAction::NextChildWindow:
         parts_.Host.NextChildWindow();

@@ -7,7 +7,7 @@
 
 namespace steward {
 
-class CommandRoad;
+class CommandSender;
 class MacroPlayer;
 class MacroStore;
 struct KeyDecision;
@@ -20,7 +20,7 @@ void MacroSetTitle(char* out, std::size_t capacity, const char* character, const
 // Turns key presses into the keyboard's actions before any widget sees them.
 class KeyFilter {
   public:
-    KeyFilter(const CommandParts& parts, CommandRoad& road, MacroPlayer& player);
+    KeyFilter(const CommandParts& parts, CommandSender& sender, MacroPlayer& player);
 
     // Every key press, modifiers included; true when the key was taken.
     bool KeyDown(int virtualKey, KeyModifiers modifiers);
@@ -34,7 +34,7 @@ class KeyFilter {
     void Escape();
 
     CommandParts parts_;
-    CommandRoad& road_;
+    CommandSender& sender_;
     MacroPlayer& player_;
 };
 

@@ -2,7 +2,7 @@
 
 #include "commands/CommandHistory.h"
 #include "commands/CommandParts.h"
-#include "commands/CommandRoad.h"
+#include "commands/CommandSender.h"
 #include "commands/KeyFilter.h"
 #include "commands/MacroPlayer.h"
 #include "commands/MacroStore.h"
@@ -25,9 +25,9 @@ class Keyboard {
     MacroStore Macros;
     CommandState State;
     CommandParts Parts;
-    CommandRoad Road{Parts};
-    MacroPlayer Player{Parts, Road};
-    KeyFilter Filter{Parts, Road, Player};
+    CommandSender Sender{Parts};
+    MacroPlayer Player{Parts, Sender};
+    KeyFilter Filter{Parts, Sender, Player};
 };
 
 } // namespace steward

@@ -4,7 +4,7 @@
 #include "base/FrameCommand.h"
 #include "base/FrameQueue.h"
 #include "commands/CommandLineEdit.h"
-#include "commands/CommandRoad.h"
+#include "commands/CommandSender.h"
 #include "commands/KeyboardHost.h"
 #include "commands/MacroStore.h"
 #include "commands/ScriptNames.h"
@@ -26,7 +26,8 @@ struct PlayState {
 
 } // namespace
 
-MacroPlayer::MacroPlayer(const CommandParts& parts, CommandRoad& road) : parts_(parts), road_(road)
+MacroPlayer::MacroPlayer(const CommandParts& parts, CommandSender& sender)
+    : parts_(parts), sender_(sender)
 {
 }
 
@@ -153,8 +154,8 @@ void MacroPlayer::RunMacroScript(const char* name)
         char line[MACRO_SLOT_SIZE];
         CopyCut(line, sizeof line, name);
         line[std::strcspn(line, "}")] = 0;
-        road_.SetCommandLine(line, 0);
-        road_.PostEnterKey(false);
+        sender_.SetCommandLine(line, 0);
+        sender_.PostEnterKey(false);
         return;
     }
     SetMacroScript(parts_.State, name);
@@ -166,15 +167,15 @@ void MacroPlayer::SaveLine()
     char text[MACRO_LINE_SIZE];
     parts_.Line.GetText(text, sizeof text);
     parts_.Line.SetText("");
-    road_.RememberCommand(text);
+    sender_.RememberCommand(text);
 }
 
 void MacroPlayer::PressEnter()
 {
     char text[MACRO_LINE_SIZE];
     parts_.Line.GetText(text, sizeof text);
-    road_.SendCommand(text);
-    road_.RememberCommand(text);
+    sender_.SendCommand(text);
+    sender_.RememberCommand(text);
 }
 
 void MacroPlayer::Type(const char* text)

@@ -7,7 +7,7 @@
 
 namespace steward {
 
-class CommandRoad;
+class CommandSender;
 
 // The answer of `\?` holds at most 32 characters.
 constexpr std::size_t MACRO_ANSWER_SIZE = 33;
@@ -15,7 +15,7 @@ constexpr std::size_t MACRO_ANSWER_SIZE = 33;
 // Plays macro texts into the command line as if the player typed them.
 class MacroPlayer {
   public:
-    MacroPlayer(const CommandParts& parts, CommandRoad& road);
+    MacroPlayer(const CommandParts& parts, CommandSender& sender);
 
     // Looks the key up in the MacroStore and plays its text; a key without text does nothing.
     void ExpandMacro(KeyModifiers modifiers, int virtualKey);
@@ -29,7 +29,7 @@ class MacroPlayer {
     void Type(const char* text);
 
     CommandParts parts_;
-    CommandRoad& road_;
+    CommandSender& sender_;
 };
 
 } // namespace steward

@@ -74,7 +74,7 @@ bool ReadSettings(CharacterProfile& profile)
     return true;
 }
 
-void ReadGaugeColors(const std::string& path, ProfileParts& parts)
+void ReadGaugeColors(const std::string& path, ProfileHost& parts)
 {
     for (std::size_t i = 0; i < PROFILE_GAUGE_COUNT; ++i) {
         GaugeColorBytes bytes{};
@@ -83,7 +83,7 @@ void ReadGaugeColors(const std::string& path, ProfileParts& parts)
     }
 }
 
-bool WriteGaugeColors(const std::string& path, ProfileParts& parts)
+bool WriteGaugeColors(const std::string& path, ProfileHost& parts)
 {
     bool written = true;
     for (std::size_t i = 0; i < PROFILE_GAUGE_COUNT; ++i) {
@@ -113,7 +113,7 @@ bool WriteEquipment(const std::string& path, const CharacterProfile& profile)
 
 } // namespace
 
-bool LoadProfile(const ConfigFiles& files, CharacterProfile& profile, ProfileParts& parts,
+bool LoadProfile(const ConfigFiles& files, CharacterProfile& profile, ProfileHost& parts,
                  const char* name, bool createOnly)
 {
     SetCurrentCharacter(profile, files, name);
@@ -136,7 +136,7 @@ bool LoadProfile(const ConfigFiles& files, CharacterProfile& profile, ProfilePar
     return isNew;
 }
 
-bool SaveProfile(const ConfigFiles& files, const CharacterProfile& profile, ProfileParts& parts,
+bool SaveProfile(const ConfigFiles& files, const CharacterProfile& profile, ProfileHost& parts,
                  const char* name)
 {
     if (!name)

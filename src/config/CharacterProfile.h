@@ -1,7 +1,7 @@
 #pragma once
 
 #include "config/ConfigFiles.h"
-#include "config/ProfileParts.h"
+#include "config/ProfileHost.h"
 #include "config/Settings.h"
 
 #include <cstddef>
@@ -37,14 +37,14 @@ struct CharacterProfile {
 // Makes name (null: LastChar of the main ini) the current character and, unless createOnly,
 // reads its profile and hands the other parts theirs. True when the profile was new: missing,
 // or with a Settings value of the wrong length, in which case its file is started afresh.
-bool LoadProfile(const ConfigFiles& files, CharacterProfile& profile, ProfileParts& parts,
+bool LoadProfile(const ConfigFiles& files, CharacterProfile& profile, ProfileHost& parts,
                  const char* name, bool createOnly);
 
 // Writes every file of the profile under name (null: CurrentCharacter); empty equipment
 // commands lose their keys. Each file is replaced whole or not at all; false when any of them
 // could not be written.
 [[nodiscard]] bool SaveProfile(const ConfigFiles& files, const CharacterProfile& profile,
-                               ProfileParts& parts, const char* name);
+                               ProfileHost& parts, const char* name);
 
 // LastChar of the main ini, written at program end.
 [[nodiscard]] bool WriteLastChar(const ConfigFiles& files, const CharacterProfile& profile);

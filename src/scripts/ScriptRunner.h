@@ -25,7 +25,7 @@ constexpr char SCRIPT_ABORTED_TEXT[] = "\r\n[Script aborted.]\r\n";
 struct ScriptRunnerParts {
     // ScriptWait and WaitText, which the line analysis releases.
     ScriptWaitState& Wait;
-    // ScriptName and ScriptParameters, which the command road sets.
+    // ScriptName and ScriptParameters, which the command sender sets.
     CommandState& Names;
     Tokenizer& Words;
     // The "RT:" gauge: no line runs while the round time is above 0.

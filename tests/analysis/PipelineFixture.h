@@ -6,7 +6,7 @@
 #include "config/Settings.h"
 #include "connection/PacketDump.h"
 #include "connection/RecordingSocket.h"
-#include "highlights/HighlightLists.h"
+#include "highlights/HighlightStore.h"
 #include "panels/StatusPanel.h"
 #include "scripts/ScriptWait.h"
 #include "scripts/Tokenizer.h"
@@ -101,7 +101,7 @@ class PipelineTest : public ::testing::Test {
     TempFolder folder;
     std::string logPath = folder.File("Session.Log");
     BufferedLog sessionLog;
-    HighlightLists highlights;
+    HighlightStore highlights;
     ChildWindows windows;
     ScriptWaitState script;
     StatusPanel panel;

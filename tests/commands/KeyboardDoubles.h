@@ -4,7 +4,7 @@
 #include "commands/CommandHistory.h"
 #include "commands/CommandLineEdit.h"
 #include "commands/CommandParts.h"
-#include "commands/CommandRoad.h"
+#include "commands/CommandSender.h"
 #include "commands/CommandSink.h"
 #include "commands/KeyFilter.h"
 #include "commands/Keyboard.h"
@@ -112,13 +112,13 @@ class RecordingQueue : public FrameQueue {
 };
 
 // Serves each posted MM_ENTER_KEY and keeps the other commands.
-inline void ServeEnterKeys(RecordingQueue& queue, CommandRoad& road)
+inline void ServeEnterKeys(RecordingQueue& queue, CommandSender& sender)
 {
     std::vector<int> posted;
     posted.swap(queue.commands);
     for (int command : posted) {
         if (command == MM_ENTER_KEY)
-            road.EnterKey();
+            sender.EnterKey();
         else
             queue.commands.push_back(command);
     }
@@ -181,12 +181,12 @@ struct KeyboardBench {
     CommandHistory& history = keyboard.History;
     MacroStore& macros = keyboard.Macros;
     CommandState& state = keyboard.State;
-    CommandRoad& road = keyboard.Road;
+    CommandSender& sender = keyboard.Sender;
     MacroPlayer& player = keyboard.Player;
     KeyFilter& filter = keyboard.Filter;
 
     // Serves what the keys posted, as the frame's switchboard does for MM_ENTER_KEY.
-    void ServeQueue() { ServeEnterKeys(queue, road); }
+    void ServeQueue() { ServeEnterKeys(queue, sender); }
     void Type(const std::string& text)
     {
         for (char c : text)

@@ -18,7 +18,7 @@ using testing::TempFolder;
 using testing::WriteBytes;
 
 // Records each call of the profile into the rest of the program, and its trace lines, in order.
-class RecordingParts : public ProfileParts, public TraceSink {
+class RecordingParts : public ProfileHost, public TraceSink {
   public:
     RecordingParts() : previous_(SetTraceSink(this)) {}
     ~RecordingParts() override { SetTraceSink(previous_); }

@@ -32,7 +32,7 @@ constexpr std::array<const char*, 5> PROFILE_FILES = {"Rook.Dat", "Rook.Macros",
 using ProfileBytes = std::array<std::string, PROFILE_FILES.size()>;
 
 // The parts of the program that own profile files, saving for real.
-class SavingParts : public ProfileParts {
+class SavingParts : public ProfileHost {
   public:
     GaugeColors GetGaugeColors(ProfileGauge) override { return {}; }
     void SetGaugeColors(ProfileGauge, const GaugeColors&) override {}

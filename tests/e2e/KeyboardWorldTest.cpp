@@ -93,7 +93,7 @@ class KeyboardWorldTest : public ::testing::Test {
     void Click(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier)
     {
         QTest::keyClick(line, key, modifiers);
-        ServeEnterKeys(queue, keyboard.Road);
+        ServeEnterKeys(queue, keyboard.Sender);
     }
     QByteArray Recorded() const
     {

@@ -1,7 +1,7 @@
 #include "HighlightDoubles.h"
 #include "PlainHighlights.h"
-#include "highlights/HighlightLists.h"
 #include "highlights/HighlightMatcher.h"
+#include "highlights/HighlightStore.h"
 
 #include <gtest/gtest.h>
 
@@ -260,7 +260,7 @@ TEST(NameListed, NamesAreSearchedCaseSensitively)
         {{}, "Mara", false},
     };
     for (const auto& c : cases) {
-        HighlightLists lists;
+        HighlightStore lists;
         Fill(lists.NameHighlights, c.entries);
         EXPECT_EQ(lists.IsNameListed(c.name), c.listed) << c.name;
     }

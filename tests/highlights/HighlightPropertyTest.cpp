@@ -1,6 +1,6 @@
 #include "HighlightDoubles.h"
 #include "PlainHighlights.h"
-#include "highlights/HighlightLists.h"
+#include "highlights/HighlightStore.h"
 
 #include <gtest/gtest.h>
 
@@ -120,7 +120,7 @@ std::string Describe(const std::vector<std::string>& texts)
 TEST(HighlightProperty, TheIndexGivesTheBytesAndSoundsOfThePlainForm)
 {
     CaseMaker make(20261123);
-    HighlightLists lists;
+    HighlightStore lists;
     int cases = 0;
     for (int round = 0; round < LISTS; ++round) {
         const auto strings = RandomList(make, lists.StringHighlights, round % 13);

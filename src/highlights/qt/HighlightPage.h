@@ -1,8 +1,8 @@
 #pragma once
 
 #include "highlights/HighlightItems.h"
-#include "highlights/HighlightLists.h"
 #include "highlights/HighlightSound.h"
+#include "highlights/HighlightStore.h"
 
 #include <QWidget>
 
@@ -24,7 +24,7 @@ class HighlightItemModel;
 // What the highlight sheet edits and whom it asks.
 struct HighlightSheetLinks {
     Settings& Options;
-    HighlightLists& Lists;
+    HighlightStore& Lists;
     SoundFolder& Sounds;
     HighlightDialogs& Dialogs;
     MessageBoxes& Messages;

@@ -3,8 +3,8 @@
 #include "analysis/qt/QtLocalClock.h"
 #include "base/FrameQueue.h"
 #include "connection/qt/QtGameSocket.h"
-#include "highlights/HighlightLists.h"
 #include "highlights/HighlightSound.h"
+#include "highlights/HighlightStore.h"
 #include "panels/qt/QtGaugeTimer.h"
 #include "session/GameLink.h"
 #include "session/RestMode.h"
@@ -103,7 +103,7 @@ class Client : public QObject, private FrameQueue, private RestSender {
     Session session_;
     QtGaugeTimer gaugeTimer_;
     QtLocalClock clock_;
-    HighlightLists highlights_;
+    HighlightStore highlights_;
     SoundFolder sounds_;
     GameLink link_;
     // Reports every received block straight to the link.

@@ -44,7 +44,7 @@ const Client::CommandEntry Client::COMMANDS[] = {
     {CMD_TILE_VERTICALLY, [](Client& c) { c.frame_->Mdi().TileVertically(); }},
     {CMD_CASCADE, [](Client& c) { c.frame_->Mdi().Cascade(); }},
     {CMD_ARRANGE, [](Client& c) { c.windows_->Arrange(true); }},
-    {MM_ENTER_KEY, [](Client& c) { c.keyboard_->Road.EnterKey(); }},
+    {MM_ENTER_KEY, [](Client& c) { c.keyboard_->Sender.EnterKey(); }},
     {CMD_RESET_STEWARD_MODE, [](Client& c) { c.ResetStewardMode(); }},
     {CMD_AUTO_LOG, [](Client& c) { c.logs_.ToggleAutoLog(); }},
     {CMD_OPEN_DATED_LOG, [](Client& c) { c.logs_.OpenDatedLog(); }},
@@ -101,7 +101,7 @@ void Client::OnCommand(int command)
 
 void Client::SendCommand(const char* text)
 {
-    keyboard_->Road.SendCommand(text);
+    keyboard_->Sender.SendCommand(text);
 }
 
 bool Client::ServeFixedCommand(int command)
@@ -143,7 +143,7 @@ void Client::MakeScriptControl()
         session_.Script, keyboard_->State, session_.Words, session_.Panel.RT, desktop_, desktop_,
         frame_.get(), [this] { return ScriptPath(session_.Files); },
         [this](const char* text) { link_.PrintToGameWindow(text); },
-        [this](const char* text) { keyboard_->Road.SendScripted(text); },
+        [this](const char* text) { keyboard_->Sender.SendScripted(text); },
         [this](int seconds) { keyboardHost_->PumpFor(seconds); }});
     keyboardHost_->SetScripts(*scripts_);
     link_.SetRecording(scripts_.get());

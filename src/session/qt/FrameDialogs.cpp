@@ -3,8 +3,8 @@
 #include "base/ByteText.h"
 #include "commands/qt/MacroSheet.h"
 #include "config/qt/OptionsSheet.h"
-#include "highlights/HighlightLists.h"
 #include "highlights/HighlightSound.h"
+#include "highlights/HighlightStore.h"
 #include "highlights/qt/HighlightSheet.h"
 #include "highlights/qt/QtClipboardReader.h"
 #include "scripts/CommandState.h"
@@ -55,7 +55,7 @@ void FrameDialogs::AskDragTarget()
 
 void FrameDialogs::CopyToHighlights(int command)
 {
-    HighlightLists& highlights = links_.Highlights;
+    HighlightStore& highlights = links_.Highlights;
     links_.Keyboard.WithSelectionCopied([&highlights, command] {
         QtClipboardReader clipboard;
         highlights.CopyToHighlights(command, clipboard);

@@ -4,7 +4,7 @@ namespace steward {
 
 class Desktop;
 class FrameWindow;
-class HighlightLists;
+class HighlightStore;
 class MacroStore;
 class QtKeyboardHost;
 class QtProfileHost;
@@ -22,7 +22,7 @@ class FrameDialogs {
         Desktop& Dialogs;
         MacroStore& Macros;
         CommandState& Commands;
-        HighlightLists& Highlights;
+        HighlightStore& Highlights;
         SoundFolder& Sounds;
         QtProfileHost& Profile;
         QtKeyboardHost& Keyboard;

@@ -5,7 +5,7 @@
 #include "commands/qt/KeyFilterQt.h"
 #include "config/CharacterProfile.h"
 #include "config/IniStore.h"
-#include "highlights/HighlightLists.h"
+#include "highlights/HighlightStore.h"
 #include "session/qt/ChildWindowSet.h"
 #include "session/qt/FramePlacement.h"
 #include "session/qt/FrameWindow.h"

@@ -1,12 +1,12 @@
 #pragma once
 
-#include "config/ProfileParts.h"
+#include "config/ProfileHost.h"
 
 namespace steward {
 
 class ChildWindowSet;
 class FrameWindow;
-class HighlightLists;
+class HighlightStore;
 class KeyFilterQt;
 class MacroStore;
 struct ConfigFiles;
@@ -14,13 +14,13 @@ struct CharacterProfile;
 
 // The profile host: loads a character's profile into the running program and saves it back,
 // handing each part of the program its share at the fixed step.
-class QtProfileHost : private ProfileParts {
+class QtProfileHost : private ProfileHost {
   public:
     struct Links {
         const ConfigFiles& Files;
         CharacterProfile& Profile;
         StatusPanel& Panel;
-        HighlightLists& Highlights;
+        HighlightStore& Highlights;
         MacroStore& Macros;
         KeyFilterQt& Filter;
         ChildWindowSet& Windows;

@@ -43,7 +43,7 @@ class KeyFilterQtTest : public ::testing::Test {
     {
         QTest::keyClick(QApplication::focusWidget(), key, modifiers);
     }
-    void ServeQueue() { ServeEnterKeys(queue, keyboard.Road); }
+    void ServeQueue() { ServeEnterKeys(queue, keyboard.Sender); }
     std::string Text() const { return line->text().toStdString(); }
 
     QMainWindow window;

@@ -96,7 +96,7 @@ class HighlightSheetTest : public ::testing::Test {
 
     QTemporaryDir folder;
     Settings settings;
-    HighlightLists lists;
+    HighlightStore lists;
     SheetDialogs dialogs;
     SoundFolder sounds{dialogs.player};
 

@@ -1,4 +1,4 @@
-#include "highlights/HighlightLists.h"
+#include "highlights/HighlightStore.h"
 
 #include "base/FrameCommand.h"
 #include "base/Trace.h"
@@ -45,30 +45,30 @@ bool IsListed(const HighlightList& list, const char* name)
 
 } // namespace
 
-void HighlightLists::ApplyHighlights(char* line, std::size_t capacity, bool squelch,
+void HighlightStore::ApplyHighlights(char* line, std::size_t capacity, bool squelch,
                                      HighlightSounds& sounds)
 {
     matcher_.ApplyHighlights(line, capacity, squelch, sounds);
 }
 
-bool HighlightLists::IsNameListed(const char* name) const
+bool HighlightStore::IsNameListed(const char* name) const
 {
     return IsListed(NameHighlights, name);
 }
 
-void HighlightLists::Load(const std::string& highlightsPath, const std::string& namesPath)
+void HighlightStore::Load(const std::string& highlightsPath, const std::string& namesPath)
 {
     LoadList(StringHighlights, highlightsPath);
     LoadList(NameHighlights, namesPath);
 }
 
-bool HighlightLists::Save(const std::string& highlightsPath, const std::string& namesPath) const
+bool HighlightStore::Save(const std::string& highlightsPath, const std::string& namesPath) const
 {
     const bool strings = SaveList(StringHighlights, highlightsPath);
     return SaveList(NameHighlights, namesPath) && strings;
 }
 
-bool HighlightLists::CopyToHighlights(int command, ClipboardReader& clipboard)
+bool HighlightStore::CopyToHighlights(int command, ClipboardReader& clipboard)
 {
     if (command == CMD_COPY_TO_STRING_HIGHLIGHTS)
         AddFromClipboard(StringHighlights, clipboard);

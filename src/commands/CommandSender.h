@@ -14,9 +14,9 @@ constexpr std::size_t MACRO_LINE_SIZE = 1023;
 constexpr int PENDING_ENTER_LIMIT = 16;
 
 // The road of a finished line: MM_ENTER_KEY, the full road to the game and the short one.
-class CommandRoad {
+class CommandSender {
   public:
-    explicit CommandRoad(const CommandParts& parts);
+    explicit CommandSender(const CommandParts& parts);
 
     // Posts MM_ENTER_KEY; remember is its lParam, kept here until the frame serves it.
     void PostEnterKey(bool remember);

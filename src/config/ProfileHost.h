@@ -31,9 +31,9 @@ Gauge& GaugeFor(StatusPanel& panel, ProfileGauge gauge);
 // What loading and saving a profile needs of the rest of the program; the frame implements it.
 // Each call comes at its fixed step of LoadProfile or SaveProfile; a save gives false when its
 // file could not be written.
-class ProfileParts {
+class ProfileHost {
   public:
-    virtual ~ProfileParts() = default;
+    virtual ~ProfileHost() = default;
 
     virtual GaugeColors GetGaugeColors(ProfileGauge gauge) = 0;
     virtual void SetGaugeColors(ProfileGauge gauge, const GaugeColors& colors) = 0;

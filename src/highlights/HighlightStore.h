@@ -14,11 +14,11 @@ namespace steward {
 // Receives the debug trace lines of loading and saving, which the user never sees.
 
 // The two lists of the session, with the one index that the matcher keeps over both.
-class HighlightLists {
+class HighlightStore {
   public:
-    HighlightLists() = default;
-    HighlightLists(const HighlightLists&) = delete;
-    HighlightLists& operator=(const HighlightLists&) = delete;
+    HighlightStore() = default;
+    HighlightStore(const HighlightStore&) = delete;
+    HighlightStore& operator=(const HighlightStore&) = delete;
 
     HighlightList StringHighlights;
     HighlightList NameHighlights;

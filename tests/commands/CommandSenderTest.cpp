@@ -17,7 +17,7 @@ class EnterRoadTest : public ::testing::Test {
     void Enter(const std::string& typed, bool remember = true)
     {
         kb.line.SetText(typed.c_str());
-        kb.road.EnterKey(remember);
+        kb.sender.EnterKey(remember);
     }
     KeyboardBench kb;
 };
@@ -52,7 +52,7 @@ TEST_F(EnterRoadTest, AnEmptyLineIsSent)
 TEST_F(EnterRoadTest, PrefixRunsACommandScript)
 {
     kb.line.SetText(".hunt rat \"big one\"");
-    kb.road.EnterKey(false);
+    kb.sender.EnterKey(false);
     EXPECT_STREQ(kb.state.ScriptName, "hunt.Cmd");
     EXPECT_STREQ(kb.state.ScriptParameters, "rat \"big one\"");
     EXPECT_EQ(kb.queue.commands, std::vector<int>{MM_RUN_SCRIPT});
@@ -108,15 +108,15 @@ TEST_F(EnterRoadTest, DraggingRewritesMovesButHistoryKeepsThePlainMove)
 
 TEST_F(EnterRoadTest, PostedEnterKeysKeepTheirRememberFlagsInOrder)
 {
-    kb.road.PostEnterKey(false);
-    kb.road.PostEnterKey(true);
+    kb.sender.PostEnterKey(false);
+    kb.sender.PostEnterKey(true);
     EXPECT_EQ(kb.queue.commands, (std::vector<int>{MM_ENTER_KEY, MM_ENTER_KEY}));
     kb.line.SetText("first");
-    kb.road.EnterKey();
+    kb.sender.EnterKey();
     kb.line.SetText("second");
-    kb.road.EnterKey();
+    kb.sender.EnterKey();
     kb.line.SetText("third");
-    kb.road.EnterKey();
+    kb.sender.EnterKey();
     EXPECT_EQ(kb.history.Count(), 2);
     EXPECT_STREQ(kb.history.EntryAt(0), "second");
 }
@@ -125,7 +125,7 @@ TEST_F(EnterRoadTest, ScriptedLinesTakeTheShortRoad)
 {
     std::strcpy(kb.state.DragTarget, "bob");
     kb.line.SetText("typed");
-    kb.road.SendScripted("n");
+    kb.sender.SendScripted("n");
     EXPECT_EQ(kb.sink.calls, (Strings{"pending", "echo n", "send n"}));
     EXPECT_EQ(kb.line.text, "typed");
     EXPECT_EQ(kb.line.focused, 1);
@@ -136,7 +136,7 @@ TEST_F(EnterRoadTest, SendingResetsTheBrowsingPlace)
     kb.history.RememberCommand("look", 4);
     kb.history.RememberCommand("kill rat", 4);
     kb.history.HistoryPrevious(kb.line);
-    kb.road.SendCommand("x");
+    kb.sender.SendCommand("x");
     EXPECT_EQ(kb.history.HistoryPosition(), 2);
 }
 

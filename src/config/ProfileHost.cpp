@@ -1,4 +1,4 @@
-#include "config/ProfileParts.h"
+#include "config/ProfileHost.h"
 
 namespace steward {
 

@@ -1,4 +1,4 @@
-#include "highlights/HighlightLists.h"
+#include "highlights/HighlightStore.h"
 #include "HighlightDoubles.h"
 #include "base/FrameCommand.h"
 #include "support/TraceRecorder.h"
@@ -26,7 +26,7 @@ TEST(CopySpecial, EachClipboardLineBecomesAnEntryOfTheCommandsList)
         {"", {}},
     };
     for (const auto& c : cases) {
-        HighlightLists lists;
+        HighlightStore lists;
         lists.NameHighlights.Add("Old", 3);
         FakeClipboard clipboard;
         clipboard.text = c.clip;
@@ -43,7 +43,7 @@ TEST(CopySpecial, EachClipboardLineBecomesAnEntryOfTheCommandsList)
 
 TEST(CopySpecial, NoClipboardTextAddsNothing)
 {
-    HighlightLists lists;
+    HighlightStore lists;
     FakeClipboard clipboard;
     clipboard.text = "Mara";
     clipboard.available = false;
@@ -55,9 +55,9 @@ TEST(CopySpecial, NoClipboardTextAddsNothing)
     EXPECT_STREQ(lists.StringHighlights.Text(0), "Mara");
 }
 
-TEST(HighlightListsSession, StringsRunFirstAndNamesNestInside)
+TEST(HighlightStoreTest, StringsRunFirstAndNamesNestInside)
 {
-    HighlightLists lists;
+    HighlightStore lists;
     lists.StringHighlights.Add("Mara", 1);
     lists.NameHighlights.Add("Mara", 2);
     char line[64] = "Mara waves";
@@ -68,14 +68,14 @@ TEST(HighlightListsSession, StringsRunFirstAndNamesNestInside)
     EXPECT_FALSE(lists.IsNameListed("Tam"));
 }
 
-TEST(HighlightListsSession, LoadAndSaveUseTwoFilesAndTraceEach)
+TEST(HighlightStoreTest, LoadAndSaveUseTwoFilesAndTraceEach)
 {
     TempFolder folder;
     const std::string strings = folder.File("Hero.Highlights");
     const std::string names = folder.File("Hero.Names");
     TraceRecorder trace;
     {
-        HighlightLists lists;
+        HighlightStore lists;
         lists.StringHighlights.Add("{gong}*Attention", 14);
         lists.NameHighlights.Add("Mara", 0x1E);
         ASSERT_TRUE(lists.Save(strings, names));
@@ -87,7 +87,7 @@ TEST(HighlightListsSession, LoadAndSaveUseTwoFilesAndTraceEach)
     std::getline(file, line);
     EXPECT_EQ(line, "030 \"Mara\"");
     trace.Lines.clear();
-    HighlightLists lists;
+    HighlightStore lists;
     lists.NameHighlights.Add("stale", 1);
     lists.Load(strings, names);
     EXPECT_EQ(trace.Lines.front(), "HIGHLIGHTS: Loading from \"" + strings + "\"\n");

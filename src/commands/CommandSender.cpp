@@ -1,4 +1,4 @@
-#include "commands/CommandRoad.h"
+#include "commands/CommandSender.h"
 
 #include "base/ByteText.h"
 #include "base/FrameCommand.h"
@@ -24,9 +24,9 @@ constexpr std::size_t SEND_COPY_SIZE = MACRO_LINE_SIZE + DRAG_TARGET_SIZE + 8;
 
 } // namespace
 
-CommandRoad::CommandRoad(const CommandParts& parts) : parts_(parts) {}
+CommandSender::CommandSender(const CommandParts& parts) : parts_(parts) {}
 
-void CommandRoad::PostEnterKey(bool remember)
+void CommandSender::PostEnterKey(bool remember)
 {
     if (pendingCount_ < PENDING_ENTER_LIMIT) {
         pending_[(pendingFirst_ + pendingCount_) % PENDING_ENTER_LIMIT] = remember;
@@ -35,7 +35,7 @@ void CommandRoad::PostEnterKey(bool remember)
     parts_.Queue.PostCommand(MM_ENTER_KEY);
 }
 
-void CommandRoad::EnterKey()
+void CommandSender::EnterKey()
 {
     bool remember = true;
     if (pendingCount_ > 0) {
@@ -46,7 +46,7 @@ void CommandRoad::EnterKey()
     EnterKey(remember);
 }
 
-void CommandRoad::EnterKey(bool remember)
+void CommandSender::EnterKey(bool remember)
 {
     char text[ENTER_LINE_SIZE];
     parts_.Line.GetText(text, sizeof text);
@@ -68,7 +68,7 @@ void CommandRoad::EnterKey(bool remember)
     Trace("Exiting MM_ENTER_KEY\n");
 }
 
-void CommandRoad::RunCommandScript(const char* text)
+void CommandSender::RunCommandScript(const char* text)
 {
     RememberCommand(text);
     SetCommandScript(parts_.State, text + 1);
@@ -78,7 +78,7 @@ void CommandRoad::RunCommandScript(const char* text)
     parts_.History.ResetHistoryPosition();
 }
 
-void CommandRoad::RewriteGo(char* text) const
+void CommandSender::RewriteGo(char* text) const
 {
     const char* target = parts_.State.DragTarget;
     if (target[0] == 0 || !StartsWithNoCase(text, "GO "))
@@ -88,7 +88,7 @@ void CommandRoad::RewriteGo(char* text) const
     std::memcpy(text, rewritten, std::strlen(rewritten) + 1);
 }
 
-void CommandRoad::SendCommand(const char* text)
+void CommandSender::SendCommand(const char* text)
 {
     char copy[SEND_COPY_SIZE];
     CopyCut(copy, sizeof copy, text);
@@ -102,7 +102,7 @@ void CommandRoad::SendCommand(const char* text)
     parts_.Sink.RecordCommand(copy);
 }
 
-void CommandRoad::SendScripted(const char* text)
+void CommandSender::SendScripted(const char* text)
 {
     parts_.Sink.SetEchoPending();
     parts_.Sink.EchoCommand(text);
@@ -110,13 +110,13 @@ void CommandRoad::SendScripted(const char* text)
     parts_.Line.SetFocus();
 }
 
-void CommandRoad::SetCommandLine(const char* text, int caret)
+void CommandSender::SetCommandLine(const char* text, int caret)
 {
     parts_.Line.SetText(text);
     parts_.Line.SetSelection(caret, caret);
 }
 
-void CommandRoad::RememberCommand(const char* text)
+void CommandSender::RememberCommand(const char* text)
 {
     parts_.History.RememberCommand(text, parts_.Options.MinCommandLength);
 }
