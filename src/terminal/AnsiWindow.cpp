@@ -1,6 +1,7 @@
 #include "terminal/AnsiWindow.h"
 
 #include <cstring>
+#include <new>
 #include <utility>
 
 namespace steward {
@@ -30,7 +31,10 @@ std::unique_ptr<AnsiWindow> AnsiWindow::Create(const char* name, const AnsiWindo
     std::unique_ptr<TextBuffer> view = TextBuffer::CreateTextBuffer(capacity);
     if (!view)
         return nullptr;
-    std::unique_ptr<AnsiWindow> window(new AnsiWindow(parts, std::move(live), std::move(view)));
+    std::unique_ptr<AnsiWindow> window(new (std::nothrow)
+                                           AnsiWindow(parts, std::move(live), std::move(view)));
+    if (!window)
+        return nullptr;
     window->SetName(name);
     window->LoadColors(parts.ProfilePath);
     window->LoadFont(parts.ProfilePath);
