@@ -3,6 +3,7 @@
 #include "config/BufferedLog.h"
 #include "config/CharacterProfile.h"
 #include "config/ConfigFiles.h"
+#include "config/StewardOptions.h"
 #include "connection/PacketDump.h"
 #include "panels/StatusPanel.h"
 #include "scripts/ScriptWait.h"
@@ -26,6 +27,8 @@ struct Session {
     // the equipment commands of the loaded profile.
     ConfigFiles Files;
     CharacterProfile Profile;
+    // The program's own additions, from the main ini.
+    StewardOptions Steward;
     BufferedLog SessionLog;
     steward::PacketDump PacketDump;
 

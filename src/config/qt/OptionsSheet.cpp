@@ -2,8 +2,8 @@
 
 #include "base/ByteText.h"
 #include "base/Trace.h"
-#include "config/IniStore.h"
 #include "base/qt/CenterWindow.h"
+#include "config/IniStore.h"
 
 #include <QCheckBox>
 #include <QGridLayout>
@@ -12,13 +12,14 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QSpinBox>
 #include <QVBoxLayout>
 
 namespace steward {
 
 namespace {
 
-constexpr const char* TAB_TITLES[] = {" Settings ", " Inventory Names ", " Paths "};
+constexpr const char* TAB_TITLES[] = {" Settings ", " Inventory Names ", " Paths ", " Steward "};
 
 struct FlagControl {
     const char* Label;
@@ -158,23 +159,56 @@ void PathsPage::Apply()
     }
 }
 
-OptionsSheet::OptionsSheet(CharacterProfile& profile, const ConfigFiles& files, FolderPicker pick,
-                           QWidget* owner)
+StewardPage::StewardPage(StewardOptions& options, const ConfigFiles& files)
+    : options_(options), files_(files)
+{
+    auto* grid = new QGridLayout(this);
+    for (const StewardOptionRow& row : StewardOptionTable) {
+        const QString label = QString::fromLatin1(row.Label);
+        if (row.Minimum == 0 && row.Maximum == 1) {
+            checks_[row.Option] = new QCheckBox(label, this);
+            checks_[row.Option]->setChecked(options_.IsOn(row.Option));
+            grid->addWidget(checks_[row.Option], row.Option, 0, 1, 2);
+            continue;
+        }
+        auto* number = new QSpinBox(this);
+        number->setRange(row.Minimum, row.Maximum);
+        number->setValue(options_.Get(row.Option));
+        grid->addWidget(new QLabel(label, this), row.Option, 0);
+        grid->addWidget(number, row.Option, 1);
+        numbers_[row.Option] = number;
+    }
+    grid->setRowStretch(STEWARD_OPTION_COUNT, 1);
+}
+
+void StewardPage::Apply()
+{
+    for (const StewardOptionRow& row : StewardOptionTable)
+        options_.Set(row.Option, checks_[row.Option] ? checks_[row.Option]->isChecked()
+                                                     : numbers_[row.Option]->value());
+    // Like the folders, the options hold for this run even when the main ini cannot keep them.
+    if (!options_.Save(files_.MainIni))
+        Trace("Could not write the %s options to \"%s\"\n", STEWARD_SECTION,
+              files_.MainIni.c_str());
+}
+
+OptionsSheet::OptionsSheet(OptionsTarget target, FolderPicker pick, QWidget* owner)
     : TabbedSheet(owner, QStringLiteral("Configuration Options"), TAB_TITLES,
-                  [&profile, &files, pick = std::move(pick)](int tab) -> OptionsPage* {
+                  [target, pick = std::move(pick)](int tab) -> OptionsPage* {
                       if (tab == 0)
-                          return new SettingsPage(profile.Settings);
+                          return new SettingsPage(target.Profile.Settings);
                       if (tab == 1)
-                          return new InventoryPage(profile);
-                      return new PathsPage(files, pick);
+                          return new InventoryPage(target.Profile);
+                      if (tab == 2)
+                          return new PathsPage(target.Files, pick);
+                      return new StewardPage(target.Steward, target.Files);
                   })
 {
 }
 
-bool ShowOptions(QWidget* owner, CharacterProfile& profile, const ConfigFiles& files,
-                 FolderPicker pick)
+bool ShowOptions(QWidget* owner, OptionsTarget target, FolderPicker pick)
 {
-    OptionsSheet sheet(profile, files, std::move(pick), owner);
+    OptionsSheet sheet(target, std::move(pick), owner);
     CenterWindow(sheet);
     return sheet.exec() == QDialog::Accepted;
 }

@@ -3,6 +3,7 @@
 #include "base/qt/TabbedSheet.h"
 #include "config/CharacterProfile.h"
 #include "config/ConfigFiles.h"
+#include "config/StewardOptions.h"
 
 #include <array>
 #include <functional>
@@ -10,6 +11,7 @@
 
 class QCheckBox;
 class QLineEdit;
+class QSpinBox;
 
 namespace steward {
 
@@ -68,17 +70,40 @@ class PathsPage : public OptionsPage {
     std::array<QLineEdit*, PATH_COUNT> edits_{};
 };
 
-// "Configuration Options": three pages, OK and Cancel. The two folders are written to the main
-// ini on OK, the rest stays in memory until the profile is saved.
+// The program's own additions: a check box or a number field per option, written to the main
+// ini on OK.
+class StewardPage : public OptionsPage {
+  public:
+    StewardPage(StewardOptions& options, const ConfigFiles& files);
+    void Apply() override;
+    // The check box of a row from 0 to 1, otherwise null.
+    QCheckBox* Check(StewardOption option) const { return checks_[option]; }
+    // The number field of any other row, otherwise null.
+    QSpinBox* Number(StewardOption option) const { return numbers_[option]; }
+
+  private:
+    StewardOptions& options_;
+    const ConfigFiles& files_;
+    std::array<QCheckBox*, STEWARD_OPTION_COUNT> checks_{};
+    std::array<QSpinBox*, STEWARD_OPTION_COUNT> numbers_{};
+};
+
+// What the options sheet edits.
+struct OptionsTarget {
+    CharacterProfile& Profile;
+    StewardOptions& Steward;
+    const ConfigFiles& Files;
+};
+
+// "Configuration Options": four pages, OK and Cancel. The two folders and the program's own
+// options are written to the main ini on OK, the rest stays in memory until the profile is saved.
 class OptionsSheet : public TabbedSheet {
     Q_OBJECT
   public:
-    OptionsSheet(CharacterProfile& profile, const ConfigFiles& files, FolderPicker pick,
-                 QWidget* owner);
+    OptionsSheet(OptionsTarget target, FolderPicker pick, QWidget* owner);
 };
 
 // Runs the sheet modally, centred on the screen; true on OK.
-bool ShowOptions(QWidget* owner, CharacterProfile& profile, const ConfigFiles& files,
-                 FolderPicker pick);
+bool ShowOptions(QWidget* owner, OptionsTarget target, FolderPicker pick);
 
 } // namespace steward

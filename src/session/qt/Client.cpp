@@ -44,6 +44,7 @@ Client::Client(ClientOptions options, Desktop& desktop)
       socket_(link_), logs_(session_, link_, desktop)
 {
     session_.Files = options_.Files;
+    session_.Steward = StewardOptions::Load(session_.Files.MainIni);
     EnsureProfileFiles(session_.Files);
     sounds_.SetSoundPath(SoundPath(session_.Files));
     for (std::size_t i = 0; i < PROFILE_GAUGE_COUNT; ++i)

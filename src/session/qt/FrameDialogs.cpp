@@ -38,10 +38,11 @@ void FrameDialogs::EditHighlights()
 void FrameDialogs::EditOptions()
 {
     Desktop& dialogs = links_.Dialogs;
+    Session& session = links_.State;
     ShowOptions(
-        &links_.Frame, links_.State.Profile, links_.State.Files,
+        &links_.Frame, {session.Profile, session.Steward, session.Files},
         [&dialogs](QWidget* owner, const char* title) { return dialogs.PickFolder(owner, title); });
-    links_.Sounds.SetSoundPath(SoundPath(links_.State.Files));
+    links_.Sounds.SetSoundPath(SoundPath(session.Files));
 }
 
 void FrameDialogs::AskDragTarget()

@@ -16,7 +16,7 @@
 namespace steward {
 namespace {
 
-enum Tab { SETTINGS_TAB, INVENTORY_TAB, PATHS_TAB };
+enum Tab { SETTINGS_TAB, INVENTORY_TAB, PATHS_TAB, STEWARD_TAB };
 
 class OptionsSheetTest : public ::testing::Test {
   protected:
@@ -39,7 +39,7 @@ class OptionsSheetTest : public ::testing::Test {
     {
         if (!sheet_)
             sheet_ = std::make_unique<OptionsSheet>(
-                profile, files,
+                OptionsTarget{profile, steward, files},
                 [this](QWidget*, const char* title) {
                     pickTitles.emplace_back(title);
                     return picked;
@@ -61,6 +61,7 @@ class OptionsSheetTest : public ::testing::Test {
     QTemporaryDir folder;
     ConfigFiles files;
     CharacterProfile profile;
+    StewardOptions steward;
     std::string picked;
     std::vector<std::string> pickTitles;
 
@@ -188,6 +189,19 @@ TEST_F(OptionsSheetTest, PagesNeverOpenedAndCancelChangeNothing)
     EXPECT_EQ(IniValue("Script Path"), "/kept");
     EXPECT_EQ(Sheet().Page(INVENTORY_TAB), nullptr);
     EXPECT_STREQ(profile.EquipWeapon, "ready saber");
+}
+
+TEST_F(OptionsSheetTest, StewardOptionsGoToTheirOwnSectionOnOkOnly)
+{
+    Open<StewardPage>(STEWARD_TAB).Check(RECONNECT_ON_DROP)->setChecked(true);
+    Sheet().reject();
+    EXPECT_FALSE(steward.IsOn(RECONNECT_ON_DROP));
+    Reopen();
+    Open<StewardPage>(STEWARD_TAB).Check(RECONNECT_ON_DROP)->setChecked(true);
+    Sheet().accept();
+    EXPECT_TRUE(steward.IsOn(RECONNECT_ON_DROP));
+    EXPECT_TRUE(StewardOptions::Load(files.MainIni).IsOn(RECONNECT_ON_DROP));
+    EXPECT_FALSE(StewardOptions::Load(files.MainIni).IsOn(SHOW_LIVE_TAIL));
 }
 
 } // namespace
