@@ -10,12 +10,6 @@ namespace steward {
 
 namespace {
 
-char DumpCharacter(unsigned char byte)
-{
-    // The shown range stops at 'z' on purpose: braces, bar and tilde show as dots.
-    return byte >= 0x20 && byte <= 0x7A ? static_cast<char>(byte) : '.';
-}
-
 // Formats up to DUMP_ROW_BYTES bytes into row; a short row keeps its text part aligned.
 void FormatRow(char (&row)[DUMP_ROW_SIZE], const unsigned char* bytes, std::size_t count)
 {

@@ -19,6 +19,13 @@ static_assert(DUMP_TEXT_COLUMN + DUMP_ROW_BYTES < DUMP_ROW_SIZE);
 constexpr const char PACKET_DUMP_ACTIVE_TEXT[] =
     "\r\n\r\n*******\r\n Packet Dump file is ACTIVE!\r\n*******\r\n";
 
+// The character a row's text part shows for a byte; the range stops at 'z' on purpose, so braces,
+// bar and tilde show as dots.
+constexpr char DumpCharacter(unsigned char byte)
+{
+    return byte >= 0x20 && byte <= 0x7A ? static_cast<char>(byte) : '.';
+}
+
 // The diagnostic trace of received blocks; what DumpPacket writes is its only particularity.
 using PacketDump = BufferedLog;
 

@@ -1,6 +1,7 @@
 #include "base/Trace.h"
 #include "base/qt/ProgramFiles.h"
 #include "config/ConfigFiles.h"
+#include "connection/ReplayFile.h"
 #include "session/CharacterList.h"
 #include "session/qt/Client.h"
 #include "session/qt/Desktop.h"
@@ -22,8 +23,9 @@ constexpr char READ_ONLY_TEXT[] =
     "\r\n\r\n*** The data folder %s cannot be written: this session's settings, macros, "
     "highlights and logs will not be saved.\r\n\r\n";
 
-// The diagnostic options first, then the connection string as it stands.
-steward::ClientOptions ReadCommandLine(const QStringList& arguments)
+// The diagnostic options first, then the connection string as it stands; speed takes the text
+// of --speed, which main reads.
+steward::ClientOptions ReadCommandLine(const QStringList& arguments, QString& speed)
 {
     steward::ClientOptions options;
     int i = 1;
@@ -34,12 +36,29 @@ steward::ClientOptions ReadCommandLine(const QStringList& arguments)
             options.Character = arguments[++i].toLocal8Bit().toStdString();
         } else if (arguments[i] == QLatin1String("--packet-dump") && i + 1 < arguments.size()) {
             options.PacketDumpPath = arguments[++i].toLocal8Bit().toStdString();
+        } else if (arguments[i] == QLatin1String("--replay") && i + 1 < arguments.size()) {
+            options.ReplayPath = arguments[++i].toLocal8Bit().toStdString();
+        } else if (arguments[i] == QLatin1String("--speed") && i + 1 < arguments.size()) {
+            speed = arguments[++i];
         } else {
             break;
         }
     }
     options.ConnectionString = arguments.mid(i).join(' ').toLatin1().toStdString();
     return options;
+}
+
+// Reads the speed into the options; the reason when the replay's options do not go together.
+const char* CheckReplayOptions(steward::ClientOptions& options, const QString& speed)
+{
+    if (options.ReplayPath.empty())
+        return speed.isEmpty() ? nullptr : "--speed goes with --replay FILE";
+    if (!options.ConnectionString.empty())
+        return "--replay plays without a connection: give no connection string with it";
+    if (!speed.isEmpty() &&
+        !steward::ReadReplaySpeed(speed.toLatin1().constData(), options.ReplaySpeed))
+        return "--speed: give a number of 0 or more, such as 2, 0.5 or 0 (as fast as it goes)";
+    return nullptr;
 }
 
 std::string ProgramFolder()
@@ -55,10 +74,15 @@ std::string ProgramFolder()
 int main(int argc, char** argv)
 {
     QApplication app(argc, argv);
-    steward::ClientOptions options = ReadCommandLine(QCoreApplication::arguments());
+    QString speed;
+    steward::ClientOptions options = ReadCommandLine(QCoreApplication::arguments(), speed);
     if (const char* problem = steward::CheckNameCharacters(options.Character.c_str());
         problem && !options.Character.empty()) {
         std::fprintf(stderr, "thornmere-steward: --character: %s\n", problem);
+        return 2;
+    }
+    if (const char* problem = CheckReplayOptions(options, speed)) {
+        std::fprintf(stderr, "thornmere-steward: %s\n", problem);
         return 2;
     }
     const std::string folder = ProgramFolder();

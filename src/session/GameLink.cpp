@@ -11,9 +11,18 @@ GameLink::GameLink(const LinePipeline::Parts& parts, PacketDump& dump, GameSocke
 int GameLink::ConnectToGame(const char* connectionString)
 {
     const int result = connection_.ConnectToGame(connectionString);
-    if (result == CONNECT_OK)
+    if (result == CONNECT_OK) {
         pipeline_.ResetStatusMode();
+        reconnect_.Connected();
+    }
     return result;
+}
+
+void GameLink::SendLine(const char* text)
+{
+    if (IsQuitCommand(text))
+        reconnect_.PlayerQuit();
+    connection_.SendLine(text);
 }
 
 void GameLink::ReceiveBlock(const char* bytes, std::size_t length)

@@ -8,6 +8,7 @@
 #include "connection/PacketDump.h"
 #include "connection/StreamDecoder.h"
 #include "scripts/ScriptRecorder.h"
+#include "session/ReconnectPlan.h"
 #include "terminal/ChildWindows.h"
 
 #include <cstddef>
@@ -22,7 +23,7 @@ class GameLink : public SocketListener, public CommandSink {
     GameLink(const LinePipeline::Parts& parts, PacketDump& dump, GameSocket& socket);
 
     // 0 when connected, else a ConnectResult; a fresh connection asks for the status record
-    // mode again.
+    // mode again, and a later drop may be tried again.
     int ConnectToGame(const char* connectionString);
     void ShutdownConnection() { connection_.ShutdownConnection(); }
     bool IsDisconnected() const { return connection_.IsDisconnected(); }
@@ -30,6 +31,8 @@ class GameLink : public SocketListener, public CommandSink {
     void SetHoldPartialLines(bool hold) { decoder_.SetHoldPartialLines(hold); }
 
     LinePipeline& Pipeline() { return pipeline_; }
+    // Whether and when to connect again after a drop; every sent "quit" reaches it.
+    ReconnectPlan& Reconnect() { return reconnect_; }
     void PrintToGameWindow(const char* text) { pipeline_.PrintToWindow(windows_.GameWindow, text); }
 
     // SocketListener.
@@ -40,7 +43,7 @@ class GameLink : public SocketListener, public CommandSink {
     // CommandSink.
     void EchoCommand(const char* text) override { pipeline_.EchoCommand(text); }
     void SetEchoPending() override { pipeline_.Prompt().EchoPending = true; }
-    void SendLine(const char* text) override { connection_.SendLine(text); }
+    void SendLine(const char* text) override;
     void RecordCommand(const char* text) override
     {
         if (recording_)
@@ -56,6 +59,7 @@ class GameLink : public SocketListener, public CommandSink {
     StreamDecoder decoder_;
     Connection connection_;
     CommandRecording* recording_ = nullptr;
+    ReconnectPlan reconnect_;
 };
 
 } // namespace steward

@@ -14,7 +14,7 @@ void MenuState::Update(const MenuInputs& in)
     Set(CMD_GRAPHICS_AT_TOP, true, in.DisplayMode == DISPLAY_GRAPHICS_TOP);
     Set(CMD_GRAPHICS_AT_BOTTOM, true, in.DisplayMode == DISPLAY_GRAPHICS_BOTTOM);
     Set(CMD_FULL_SCREEN, true, in.DisplayMode == DISPLAY_FULL_SCREEN);
-    Set(CMD_CONNECT, in.Disconnected);
+    Set(CMD_CONNECT, in.Disconnected && !in.Replay);
     Set(CMD_RESET_STEWARD_MODE, !in.Disconnected);
     Set(CMD_CUT, in.CommandLineHasSelection);
     Set(CMD_CLEAR, in.CommandLineHasSelection);

@@ -11,6 +11,7 @@ struct MenuInputs {
     bool LogOpen = false;
     std::uint8_t DisplayMode = 0;
     bool Disconnected = true;
+    bool Replay = false;
     bool CommandLineHasSelection = false;
     bool ActiveChildHasSelection = false;
     bool ClipboardHasText = false;

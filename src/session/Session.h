@@ -34,6 +34,8 @@ struct Session {
 
     // Connection: what "Connect to the Game" connects to again.
     char ConnectionString[CONNECTION_STRING_SIZE] = {};
+    // A recorded session plays instead of a connection, and nothing connects.
+    bool Replay = false;
 
     // Timer and rest mode.
     RestState Rest;

@@ -9,6 +9,7 @@
 #include "panels/qt/StatusPanelView.h"
 #include "scripts/qt/ScriptControl.h"
 #include "session/CharacterList.h"
+#include "session/qt/AutoReconnect.h"
 #include "session/qt/CharacterMenu.h"
 #include "session/qt/ChildWindowSet.h"
 #include "session/qt/ConnectionChoice.h"
@@ -20,6 +21,7 @@
 #include "session/qt/MenuInputsReader.h"
 #include "session/qt/QtKeyboardHost.h"
 #include "session/qt/QtProfileHost.h"
+#include "session/qt/ReplayPlayer.h"
 #include "terminal/AnsiWindow.h"
 
 #include <QAbstractEventDispatcher>
@@ -87,6 +89,9 @@ Client::Client(ClientOptions options, Desktop& desktop)
     dialogs_ = std::make_unique<FrameDialogs>(
         FrameDialogs::Links{*frame_, session_, desktop_, keyboard_->Macros, keyboard_->State,
                             highlights_, sounds_, *profile_, *keyboardHost_});
+    reconnect_ = std::make_unique<AutoReconnect>(link_, session_);
+    replay_ = std::make_unique<ReplayPlayer>(
+        link_, [this](const char* text) { link_.PrintToGameWindow(text); });
     connect(&timer_, &QTimer::timeout, this, [this] { session_.Rest.OnTimer(*this); });
     connect(QAbstractEventDispatcher::instance(), &QAbstractEventDispatcher::awake, this,
             &Client::OnLoopTurn);
@@ -105,7 +110,10 @@ bool Client::Start()
     frame_->SetDisplayMode(session_.Profile.Settings.DisplayMode);
     PlaceFrame(*frame_, session_.Profile.ProfilePath);
     logs_.ShowVersionNotesOnce(*this);
-    if (!ConnectAtStart(options_.ConnectionString, session_, link_, desktop_, frame_.get()))
+    session_.Replay = !options_.ReplayPath.empty();
+    if (session_.Replay)
+        replay_->Start(options_.ReplayPath, options_.ReplaySpeed);
+    else if (!ConnectAtStart(options_.ConnectionString, session_, link_, desktop_, frame_.get()))
         return false;
     timer_.start(FRAME_TIMER_MS);
     if (AnsiWindow* game = session_.Windows.GameWindow) {
@@ -132,6 +140,7 @@ bool Client::OnClose()
             return false;
         SendCommand("quit");
     }
+    reconnect_->Stop();
     if (!profile_->Save() && !terminating_)
         desktop_.ShowMessage(frame_.get(), PROFILE_NOT_SAVED_TEXT, nullptr);
     closed_ = true;
@@ -167,6 +176,8 @@ void Client::OnDropped()
 {
     link_.ShutdownConnection();
     link_.PrintToGameWindow(DROPPED_TEXT);
+    if (!closed_)
+        reconnect_->Dropped();
 }
 
 void Client::OnLoopTurn()

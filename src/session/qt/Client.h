@@ -19,6 +19,7 @@
 
 namespace steward {
 
+class AutoReconnect;
 class CharacterMenu;
 class FrameDialogs;
 class ChildWindowSet;
@@ -29,6 +30,7 @@ class Keyboard;
 class KeyFilterQt;
 class QtKeyboardHost;
 class QtProfileHost;
+class ReplayPlayer;
 class ScriptControl;
 class StatusPanelView;
 
@@ -41,6 +43,9 @@ struct ClientOptions {
     std::string PacketDumpPath;
     // --character NAME: the profile to start with instead of LastChar.
     std::string Character;
+    // --replay FILE: a recorded session plays instead of a connection, at --speed X.
+    std::string ReplayPath;
+    double ReplaySpeed = 1;
 };
 
 // The client: start-up and shutdown, the switchboard of frame commands and the frame's queue.
@@ -83,6 +88,7 @@ class Client : public QObject, private FrameQueue, private RestSender {
 
     // Commands.
     bool ServeFixedCommand(int command);
+    void ConnectByHand();
     void ResetStewardMode();
     void EnterRestMode(bool silent);
     void SetDisplayMode(std::uint8_t mode);
@@ -121,6 +127,8 @@ class Client : public QObject, private FrameQueue, private RestSender {
     std::unique_ptr<CharacterMenu> characters_;
     std::unique_ptr<FrameDialogs> dialogs_;
     std::unique_ptr<ScriptControl> scripts_;
+    std::unique_ptr<AutoReconnect> reconnect_;
+    std::unique_ptr<ReplayPlayer> replay_;
     QTimer timer_;
     // A start that ended before the loop leaves LastChar as it was.
     bool started_ = false;

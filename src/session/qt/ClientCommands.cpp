@@ -10,6 +10,7 @@
 #include "services/WebAddress.h"
 #include "services/qt/AboutDialog.h"
 #include "session/CommandTable.h"
+#include "session/qt/AutoReconnect.h"
 #include "session/qt/CharacterMenu.h"
 #include "session/qt/ChildWindowSet.h"
 #include "session/qt/ConnectionChoice.h"
@@ -64,7 +65,7 @@ const Client::CommandEntry Client::COMMANDS[] = {
     {CMD_UNEQUIP_WEAPON, [](Client& c) { c.SendCommand(c.session_.Profile.UnequipWeapon); }},
     {CMD_EQUIP_SHIELD, [](Client& c) { c.SendCommand(c.session_.Profile.EquipShield); }},
     {CMD_UNEQUIP_SHIELD, [](Client& c) { c.SendCommand(c.session_.Profile.UnequipShield); }},
-    {CMD_CONNECT, [](Client& c) { Reconnect(c.session_, c.link_, c.desktop_, c.frame_.get()); }},
+    {CMD_CONNECT, [](Client& c) { c.ConnectByHand(); }},
     {CMD_MACRO_KEYS, [](Client& c) { c.dialogs_->EditMacros(); }},
     {CMD_HIGHLIGHT_STRINGS, [](Client& c) { c.dialogs_->EditHighlights(); }},
     {CMD_DRAG_SOMEONE, [](Client& c) { c.dialogs_->AskDragTarget(); }},
@@ -117,6 +118,15 @@ void Client::ResetStewardMode()
 {
     SendCommand(STEWARD_ON);
     link_.SetHoldPartialLines(true);
+}
+
+// A replay has no connection to make; any other connect by hand ends the tries after a drop.
+void Client::ConnectByHand()
+{
+    if (session_.Replay)
+        return;
+    reconnect_->Stop();
+    Reconnect(session_, link_, desktop_, frame_.get());
 }
 
 void Client::EnterRestMode(bool silent)

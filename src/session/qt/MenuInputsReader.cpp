@@ -22,6 +22,7 @@ MenuInputs ReadMenuInputs(const MenuSources& sources)
     in.LogOpen = session.SessionLog.IsOpen();
     in.DisplayMode = settings.DisplayMode;
     in.Disconnected = sources.Link.IsDisconnected();
+    in.Replay = session.Replay;
     in.GameWindowOpen = session.Windows.GameWindow != nullptr;
     in.ThoughtWindowOpen = session.Windows.ThoughtWindow != nullptr;
     in.ArrivalWindowOpen = session.Windows.ArrivalWindow != nullptr;
