@@ -127,10 +127,10 @@ std::size_t PacketDumpReader::NextBlock(char (&out)[RECEIVE_CHUNK_MAX])
             continue;
         }
         const Row row = ParseRow(line_, length_);
-        if (!terminated_)
-            problems_.CutRow = true;
-        else if (!row.WellFormed || tooLong_)
+        if (tooLong_ || (terminated_ && !row.WellFormed))
             NoteBrokenRow();
+        else if (!terminated_)
+            problems_.CutRow = true;
         listed_ += row.Count;
         if (length + row.Count > RECEIVE_CHUNK_MAX) {
             std::memcpy(pending_, row.Bytes, row.Count);

@@ -77,13 +77,13 @@ void SessionReplay::Finish()
     playing_ = false;
     const DumpProblems problems = file_.Problems();
     if (problems.BrokenRows > 0)
-        Say("\r\n*** %llu lines of the packet dump are no rows of it (the first is line %llu): "
-            "what could be read of them was played.\r\n",
+        Say("\r\n*** Broken rows in the packet dump: %llu, the first on line %llu; what could "
+            "be read of them was played.\r\n",
             static_cast<unsigned long long>(problems.BrokenRows),
             static_cast<unsigned long long>(problems.FirstBrokenLine));
     if (problems.UnevenBlocks > 0)
-        Say("\r\n*** %llu blocks of the packet dump list another number of bytes than their "
-            "header says: rows were lost when it was written.\r\n",
+        Say("\r\n*** Blocks of the packet dump whose rows do not add up to their header: %llu "
+            "(rows were lost when it was written).\r\n",
             static_cast<unsigned long long>(problems.UnevenBlocks));
     if (problems.CutRow)
         Say("\r\n*** The packet dump ends inside a row: the row was played as far as it "
