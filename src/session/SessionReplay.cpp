@@ -1,7 +1,5 @@
 #include "session/SessionReplay.h"
 
-#include "base/Trace.h"
-
 #include <cstdarg>
 #include <cstdio>
 
@@ -94,8 +92,6 @@ void SessionReplay::Finish()
         Say("\r\n*** Reading %s failed before its end.\r\n", name_);
     Say("\r\n\r\n*** End of the replay: %llu blocks, %llu bytes.\r\n\r\n",
         static_cast<unsigned long long>(blocks_), static_cast<unsigned long long>(bytes_));
-    Trace("The replay of %s ended after %llu blocks\n", name_,
-          static_cast<unsigned long long>(blocks_));
 }
 
 void SessionReplay::Say(const char* format, ...)

@@ -5,10 +5,10 @@
 
 #include <gtest/gtest.h>
 
-#include <cmath>
 #include <random>
 #include <sstream>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace steward {
@@ -126,95 +126,54 @@ TEST(PacketDumpReader, ADumpCutAnywherePlaysEveryHexPairBeforeTheCut)
 
 const std::string ROW_ABC = "61 62 63" + std::string(42, ' ') + "abc";
 
+// The problems in short: broken rows and the first one's line, uneven blocks.
+std::string Told(const DumpProblems& problems)
+{
+    return std::to_string(problems.BrokenRows) + "@" + std::to_string(problems.FirstBrokenLine) +
+           " " + std::to_string(problems.UnevenBlocks);
+}
+
 TEST(PacketDumpReader, TakesWhatCanBeReadOfABrokenDumpAndSaysWhatWasWrong)
 {
     const std::string full = "61 62 63 64 65 66 67 68 69 6A 6B 6C 6D 6E 6F 70   abcdefghijklmnop";
-    ASSERT_EQ(ROW_ABC.size(), 53u);
-    const struct {
-        const char* name;
-        std::string dump;
-        Blocks blocks;
-        std::uint64_t broken;
-        std::uint64_t firstBroken;
-        std::uint64_t uneven;
-    } cases[] = {
-        {"a line that is no row",
-         "\r\n\r\n---- (3 bytes)\r\nhello\r\n" + ROW_ABC + "\r\n",
-         {"abc"},
-         1,
-         4,
-         0},
-        {"a text part that disagrees keeps the hex",
-         "\r\n\r\n---- (3 bytes)\r\n" + ROW_ABC.substr(0, 50) + "xyz\r\n",
-         {"abc"},
-         1,
-         4,
-         0},
-        {"rows lost to a full buffer",
-         "\r\n\r\n---- (20 bytes)\r\n" + full + "\r\n\r\n\r\n",
-         {"abcdefghijklmnop"},
-         0,
-         0,
-         1},
-        {"two rows on one line keep the first",
-         "\r\n\r\n---- (32 bytes)\r\n" + full + full + "\r\n",
-         {"abcdefghijklmnop"},
-         1,
-         4,
-         1},
-        {"line feeds alone",
-         "\n\n---- (3 bytes)\n" + ROW_ABC + "\n\n\n---- (3 bytes)\n" + ROW_ABC + "\n",
-         {"abc", "abc"},
-         0,
-         0,
-         0},
-        {"an empty block is left out",
-         "\r\n\r\n---- (0 bytes)\r\n\r\n\r\n---- (3 bytes)\r\n" + ROW_ABC + "\r\n",
-         {"abc"},
-         0,
-         0,
-         0},
+    const std::string head = "\r\n\r\n---- (3 bytes)\r\n";
+    // clang-format off
+    const struct { const char* name; std::string dump; Blocks blocks; const char* told; } cases[] = {
+        {"a line that is no row", head + "hello\r\n" + ROW_ABC + "\r\n", {"abc"}, "1@4 0"},
+        {"a wrong text part keeps the hex", head + ROW_ABC.substr(0, 50) + "xyz\r\n", {"abc"}, "1@4 0"},
+        {"rows lost to a full buffer", "\r\n\r\n---- (20 bytes)\r\n" + full + "\r\n\r\n\r\n",
+         {"abcdefghijklmnop"}, "0@0 1"},
+        {"two rows on one line keep the first", "\r\n\r\n---- (32 bytes)\r\n" + full + full + "\r\n",
+         {"abcdefghijklmnop"}, "1@4 1"},
+        {"line feeds alone", "\n\n---- (3 bytes)\n" + ROW_ABC + "\n\n\n---- (3 bytes)\n" + ROW_ABC + "\n",
+         {"abc", "abc"}, "0@0 0"},
+        {"an empty block is left out", "\r\n\r\n---- (0 bytes)\r\n" + head + ROW_ABC + "\r\n", {"abc"}, "0@0 0"},
         {"a header with too many digits is no header",
-         "\r\n\r\n---- (99999999999999999999 bytes)\r\n" + ROW_ABC + "\r\n",
-         {"abc"},
-         1,
-         3,
-         0},
+         "\r\n\r\n---- (99999999999999999999 bytes)\r\n" + ROW_ABC + "\r\n", {"abc"}, "1@3 0"},
     };
+    // clang-format on
     for (const auto& c : cases) {
         const Read read = ReadDump(c.dump);
         EXPECT_EQ(read.blocks, c.blocks) << c.name;
-        EXPECT_EQ(read.problems.BrokenRows, c.broken) << c.name;
-        EXPECT_EQ(read.problems.FirstBrokenLine, c.firstBroken) << c.name;
-        EXPECT_EQ(read.problems.UnevenBlocks, c.uneven) << c.name;
+        EXPECT_EQ(Told(read.problems), c.told) << c.name;
     }
 }
 
 TEST(ReplayFile, TellsTheFormatByTheFirstBytesAndCutsRawBytesIntoBlocks)
 {
     TempFolder folder;
-    const struct {
-        const char* name;
-        std::string content;
-        ReplayFormat format;
-        Blocks blocks;
-    } cases[] = {
+    // clang-format off
+    const struct { const char* name; std::string content; ReplayFormat format; Blocks blocks; } cases[] = {
         {"empty", "", ReplayFormat::Empty, {}},
-        {"dump",
-         "\r\n\r\n---- (3 bytes)\r\n" + ROW_ABC + "\r\n",
-         ReplayFormat::PacketDump,
-         {"abc"}},
-        {"text",
-         "Welcome to Thornmere!",
-         ReplayFormat::RawBytes,
-         {"Welco", "me to", " Thor", "nmere", "!"}},
-        {"line ends and no header", "\r\n\r\n-- x", ReplayFormat::RawBytes, {"\r\n\r\n-", "- x"}},
+        {"dump", "\r\n\r\n---- (3 bytes)\r\n" + ROW_ABC + "\r\n", ReplayFormat::PacketDump, {"abc"}},
+        {"text", "Welcome, Tester!", ReplayFormat::RawBytes, {"Welco", "me, T", "ester", "!"}},
+        {"no header", "\r\n\r\n-- x", ReplayFormat::RawBytes, {"\r\n\r\n-", "- x"}},
     };
+    // clang-format on
     for (const auto& c : cases) {
-        const std::string path = folder.File(c.name);
-        WriteBytes(path, c.content);
+        WriteBytes(folder.File(c.name), c.content);
         ReplayFile file;
-        ASSERT_TRUE(file.Open(path.c_str())) << c.name;
+        ASSERT_TRUE(file.Open(folder.File(c.name).c_str())) << c.name;
         EXPECT_EQ(file.Format(), c.format) << c.name;
         Blocks blocks;
         char block[RECEIVE_CHUNK_MAX];
@@ -222,49 +181,25 @@ TEST(ReplayFile, TellsTheFormatByTheFirstBytesAndCutsRawBytesIntoBlocks)
             blocks.emplace_back(block, length);
         EXPECT_EQ(blocks, c.blocks) << c.name;
     }
-    ReplayFile missing;
-    EXPECT_FALSE(missing.Open(folder.File("missing").c_str()));
-    ReplayFile folderItself;
-    EXPECT_FALSE(folderItself.Open(folder.Path().c_str()));
-}
-
-TEST(ReplayFile, GameTextHoldsNoNulAndFewBinaryBytes)
-{
-    const struct {
-        std::string bytes;
-        bool text;
-    } cases[] = {
-        {"You see a rat.\r\n\x1B"
-         "1ab\x07",
-         true},
-        {std::string("a\0b", 3), false},
-        {"\x91\xC3\xFFz", false},
-        {"abcdefg\x81", true},
-    };
-    for (const auto& c : cases)
-        EXPECT_EQ(LooksLikeGameText(c.bytes.data(), c.bytes.size()), c.text) << c.bytes;
+    for (const std::string& unreadable : {folder.File("missing"), folder.Path()})
+        EXPECT_FALSE(ReplayFile().Open(unreadable.c_str())) << unreadable;
 }
 
 TEST(ReplayFile, SpeedDividesTheWaitBetweenBlocks)
 {
-    // The wait in blocks' time at speed 1; the slowest replay still moves.
-    const struct {
-        const char* text;
-        bool valid;
-        double blocks;
-    } cases[] = {
-        {"1", true, 1},     {"2", true, 0.5}, {"0.25", true, 4},  {"0", true, 0},
-        {"1e-9", true, -1}, {"-1", false, 0}, {"fast", false, 0}, {"2x", false, 0},
-        {"inf", false, 0},  {"", false, 0},
-    };
-    for (const auto& c : cases) {
-        double speed = -1;
-        EXPECT_EQ(ReadReplaySpeed(c.text, speed), c.valid) << c.text;
-        if (!c.valid)
-            continue;
-        EXPECT_EQ(ReplayWaitMs(speed),
-                  c.blocks < 0 ? REPLAY_LONGEST_WAIT_MS : std::lround(REPLAY_BLOCK_MS * c.blocks))
-            << c.text;
+    // -1 for a speed refused; the slowest replay still moves.
+    const std::pair<const char*, long> cases[] = {{"1", REPLAY_BLOCK_MS},
+                                                  {"2", REPLAY_BLOCK_MS / 2},
+                                                  {"0.25", REPLAY_BLOCK_MS * 4},
+                                                  {"0", 0},
+                                                  {"1e-9", REPLAY_LONGEST_WAIT_MS},
+                                                  {"-1", -1},
+                                                  {"fast", -1},
+                                                  {"2x", -1},
+                                                  {"inf", -1}};
+    for (const auto& [text, wait] : cases) {
+        double speed = 0;
+        EXPECT_EQ(ReadReplaySpeed(text, speed) ? ReplayWaitMs(speed) : -1, wait) << text;
     }
 }
 

@@ -7,6 +7,7 @@
 
 #include <fstream>
 #include <random>
+#include <utility>
 
 namespace steward::test {
 namespace {
@@ -165,6 +166,22 @@ TEST_F(ReplayWorldTest, BadReplayFilesAreToldInTheGameWindowInBoundedMemory)
     auto missing = ReplayClient(folder.filePath("missing"));
     ASSERT_TRUE(missing->Start());
     EXPECT_TRUE(WaitForGameText(*missing, "/missing cannot be read."));
+}
+
+TEST(ReplayCommandLine, ReplayOptionsThatDoNotGoTogetherEndTheProgramAtOnce)
+{
+    const std::pair<QStringList, const char*> cases[] = {
+        {{"--speed", "2"}, "--speed goes with --replay"},
+        {{"--replay", "x.dump", "--speed", "fast"}, "--speed: give a number of 0 or more"},
+        {{"--replay", "x.dump", "/H127.0.0.1/P34283"}, "give no connection string with it"},
+    };
+    for (const auto& [arguments, told] : cases) {
+        QProcess client;
+        client.start(QStringLiteral(CLIENT_BINARY), arguments);
+        ASSERT_TRUE(client.waitForFinished(WAIT_MS)) << told;
+        EXPECT_EQ(client.exitCode(), 2) << told;
+        EXPECT_TRUE(client.readAllStandardError().contains(told)) << told;
+    }
 }
 
 } // namespace

@@ -1,9 +1,5 @@
 #include "session/ReconnectPlan.h"
 
-#include "analysis/PipelineFixture.h"
-#include "base/FrameCommand.h"
-#include "session/MenuState.h"
-
 #include <gtest/gtest.h>
 
 #include <vector>
@@ -77,26 +73,6 @@ TEST(ReconnectPlan, QuitIsTheFirstWordInAnyCase)
                  {"quitting", false}, {"say quit", false}, {"qui", false}};
     for (const auto& c : cases)
         EXPECT_EQ(IsQuitCommand(c.text), c.quit) << c.text;
-}
-
-using ReconnectLinkTest = testing::PipelineTest;
-
-TEST_F(ReconnectLinkTest, AQuitSentThroughTheLinkIsNotRetriedUntilTheNextConnect)
-{
-    ASSERT_EQ(link.ConnectToGame("/H127.0.0.1/P34283"), CONNECT_OK);
-    link.SendLine("quit");
-    EXPECT_EQ(link.Reconnect().Dropped(true), 0);
-    ASSERT_EQ(link.ConnectToGame("/H127.0.0.1/P34283"), CONNECT_OK);
-    EXPECT_GT(link.Reconnect().Dropped(true), 0);
-}
-
-TEST(ReconnectPlan, AReplayHasNoConnectionToMake)
-{
-    MenuInputs in;
-    in.Replay = true;
-    MenuState state;
-    state.Update(in);
-    EXPECT_FALSE(state.Of(CMD_CONNECT).Enabled);
 }
 
 } // namespace
