@@ -81,6 +81,14 @@ TextBuffer::Position TextBuffer::AdvancePos(Position position, std::int32_t coun
                                  Capacity);
 }
 
+TextBuffer::TextRuns TextBuffer::Runs() const
+{
+    const unsigned char* ring = Storage.get();
+    if (HeadPos <= WritePos)
+        return {ring + HeadPos, WritePos - HeadPos, ring, 0};
+    return {ring + HeadPos, Capacity - HeadPos, ring, WritePos};
+}
+
 void TextBuffer::SetGeometry(std::int32_t leftMargin, std::int32_t width,
                              const CharWidthTable& charWidths)
 {

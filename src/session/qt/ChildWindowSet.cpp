@@ -30,9 +30,13 @@ AnsiWindow* ChildWindowSet::Open(WindowRow row)
         open += Exists(each.Row) ? 1 : 0;
     const char* name = WindowTable[row].Name;
     const Settings& settings = links_.Profile.Settings;
-    AnsiWindowWidget::Parts parts{settings, links_.Profile.ProfilePath.c_str(),
-                                  row == GAME_ROW ? &links_.Pipeline.Prompt() : nullptr, nullptr,
-                                  links_.Services};
+    AnsiWindowWidget::Parts parts{settings,
+                                  links_.Profile.ProfilePath.c_str(),
+                                  row == GAME_ROW ? &links_.Pipeline.Prompt() : nullptr,
+                                  nullptr,
+                                  links_.Services,
+                                  &links_.Steward,
+                                  ScrollbackBytes(links_.Steward.Get(WindowTable[row].Scrollback))};
     std::unique_ptr<AnsiWindowWidget> widget = AnsiWindowWidget::Create(name, parts);
     Published(row) = widget ? &widget->Window() : nullptr;
     if (!widget)

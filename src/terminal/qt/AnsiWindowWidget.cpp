@@ -18,9 +18,9 @@ std::unique_ptr<AnsiWindowWidget> AnsiWindowWidget::Create(const char* name, con
 {
     std::unique_ptr<AnsiWindowWidget> widget(new AnsiWindowWidget(parts));
     widget->setWindowTitle(QString::fromLatin1(name));
-    widget->window_ =
-        AnsiWindow::Create(name, AnsiWindowParts{*widget, parts.Options, parts.ProfilePath,
-                                                 parts.Prompt, parts.Services});
+    widget->window_ = AnsiWindow::Create(
+        name, AnsiWindowParts{*widget, parts.Options, parts.ProfilePath, parts.Prompt,
+                              parts.Services, parts.Steward, parts.ScrollbackBytes});
     if (!widget->window_)
         return nullptr;
     widget->layer_.SetCharWidths(&widget->window_->GetCharWidth());

@@ -50,6 +50,9 @@ class AnsiWindowWidget : public QWidget, public AnsiWindowHost {
         AppearanceDialogs* Dialogs = nullptr;
         // Null leaves the frame, file and editor commands of the popup menu without effect.
         TextWindowServices* Services = nullptr;
+        // Null keeps the standard behaviour.
+        const StewardOptions* Steward = nullptr;
+        std::uint32_t ScrollbackBytes = 0;
     };
 
     // Null when the window's buffers cannot be made.
