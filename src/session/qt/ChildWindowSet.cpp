@@ -141,6 +141,14 @@ AnsiWindow* ChildWindowSet::ActiveWindow() const
     return row < 0 ? nullptr : Window(static_cast<WindowRow>(row));
 }
 
+void ChildWindowSet::FindInActiveWindow()
+{
+    const int active = ActiveRow();
+    QMdiSubWindow* sub = Child(active < 0 ? GAME_ROW : static_cast<WindowRow>(active));
+    if (auto* view = sub ? qobject_cast<AnsiWindowWidget*>(sub->widget()) : nullptr)
+        view->OpenFindBar();
+}
+
 void ChildWindowSet::EndScrollback()
 {
     for (const WindowTableRow& row : WindowTable)

@@ -65,6 +65,8 @@ class ChildWindowSet : public QObject, public ChildWindowHost {
     // The row of the active sub-window, or -1.
     int ActiveRow() const;
     AnsiWindow* ActiveWindow() const;
+    // "Find...": the find bar of the active window, or of the Game window when none is active.
+    void FindInActiveWindow();
     void EndScrollback();
 
     // ChildWindowHost.
