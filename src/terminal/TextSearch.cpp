@@ -3,6 +3,7 @@
 #include "base/ByteText.h"
 #include "base/ColorCode.h"
 
+#include <algorithm>
 #include <array>
 #include <cstring>
 
@@ -99,22 +100,27 @@ std::uint32_t NextCandidate(const unsigned char* run, std::uint32_t from, std::u
     return best;
 }
 
-TextHit FindNewer(const RingText& text, std::string_view needle, std::int32_t from, bool matchCase)
+// The first match that begins in [begin, end), scanning the runs in place.
+TextHit FindFirstIn(const RingText& text, std::string_view needle, std::int32_t begin,
+                    std::int32_t end, const FirstBytes& set, bool matchCase)
 {
-    const FirstBytes set = FirstBytesOf(static_cast<unsigned char>(needle[0]), matchCase);
     const TextBuffer::TextRuns& runs = text.Runs();
     const std::array<const unsigned char*, 2> run = {runs.First, runs.Second};
     const std::array<std::uint32_t, 2> length = {runs.FirstLength, runs.SecondLength};
     std::uint32_t base = 0;
     for (int r = 0; r < 2; ++r) {
-        std::uint32_t at = from > static_cast<std::int32_t>(base) ? from - base : 0;
-        while (at < length[r]) {
-            at = NextCandidate(run[r], at, length[r], set);
-            if (at == length[r])
+        const auto low = static_cast<std::uint32_t>(begin);
+        const auto high = static_cast<std::uint32_t>(end);
+        std::uint32_t at = low > base ? low - base : 0;
+        const std::uint32_t stop = std::min(length[r], high > base ? high - base : 0);
+        while (at < stop) {
+            at = NextCandidate(run[r], at, stop, set);
+            if (at == stop)
                 break;
             const auto start = static_cast<std::int32_t>(base + at);
-            if (const std::int32_t end = MatchAt(text, start, needle, matchCase); end != NO_MATCH)
-                return {start, end};
+            if (const std::int32_t matchEnd = MatchAt(text, start, needle, matchCase);
+                matchEnd != NO_MATCH)
+                return {start, matchEnd};
             ++at;
         }
         base += length[r];
@@ -122,14 +128,22 @@ TextHit FindNewer(const RingText& text, std::string_view needle, std::int32_t fr
     return {};
 }
 
-TextHit FindOlder(const RingText& text, std::string_view needle, std::int32_t from, bool matchCase)
+// Backward in slices, each scanned forward at memchr's speed, so a look back through the whole
+// ring costs no more than a look forward.
+constexpr std::int32_t OLDER_SLICE = 1 << 16;
+
+TextHit FindLastBefore(const RingText& text, std::string_view needle, std::int32_t end,
+                       const FirstBytes& set, bool matchCase)
 {
-    const FirstBytes set = FirstBytesOf(static_cast<unsigned char>(needle[0]), matchCase);
-    for (std::int32_t start = std::min(from, text.Length()) - 1; start >= 0; --start) {
-        if (!set.Table[text.At(start)])
-            continue;
-        if (const std::int32_t end = MatchAt(text, start, needle, matchCase); end != NO_MATCH)
-            return {start, end};
+    for (std::int32_t sliceEnd = end; sliceEnd > 0;) {
+        const std::int32_t sliceStart = std::max(0, sliceEnd - OLDER_SLICE);
+        TextHit last;
+        for (TextHit hit = FindFirstIn(text, needle, sliceStart, sliceEnd, set, matchCase);
+             hit.Found(); hit = FindFirstIn(text, needle, hit.Start + 1, sliceEnd, set, matchCase))
+            last = hit;
+        if (last.Found())
+            return last;
+        sliceEnd = sliceStart;
     }
     return {};
 }
@@ -142,10 +156,11 @@ TextHit FindText(const TextBuffer& buffer, std::string_view needle, std::int32_t
     if (needle.empty())
         return {};
     const RingText text(buffer.Runs());
-    if (from < 0)
-        from = 0;
-    return direction == SearchDirection::Newer ? FindNewer(text, needle, from, matchCase)
-                                               : FindOlder(text, needle, from, matchCase);
+    const FirstBytes set = FirstBytesOf(static_cast<unsigned char>(needle[0]), matchCase);
+    from = std::clamp(from, 0, text.Length());
+    return direction == SearchDirection::Newer
+               ? FindFirstIn(text, needle, from, text.Length(), set, matchCase)
+               : FindLastBefore(text, needle, from, set, matchCase);
 }
 
 } // namespace steward
