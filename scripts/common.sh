@@ -1,7 +1,7 @@
 # Shared by run.sh, test.sh and bench.sh: installs what is missing and builds with Ninja.
 
 PACKAGES=(cmake ninja-build g++ qt6-base-dev qt6-multimedia-dev libgl-dev libgtest-dev libgmock-dev
-          libbenchmark-dev fonts-dejavu-core xvfb xauth xdotool imagemagick)
+          libbenchmark-dev fonts-dejavu-core xvfb xauth xdotool imagemagick python3)
 
 # The libFuzzer programs of fuzz/ need clang; only fuzz.sh and test.sh ask for them.
 FUZZ_PACKAGES=(clang-15 libfuzzer-15-dev)
