@@ -16,6 +16,7 @@ enum StewardOption : int {
     KEEP_COMMAND_HISTORY,
     RECONNECT_ON_DROP,
     SPEAK,
+    SPEAK_HP_BELOW,
     STEWARD_OPTION_COUNT,
 };
 
@@ -36,6 +37,8 @@ constexpr std::array<StewardOptionRow, STEWARD_OPTION_COUNT> StewardOptionTable 
     {KEEP_COMMAND_HISTORY, "KeepHistory", "Keep command history between sessions", 0, 0, 1},
     {RECONNECT_ON_DROP, "Reconnect", "Reconnect when the connection drops", 0, 0, 1},
     {SPEAK, "Speak", "Speak", 0, 0, 1},
+    // Percent of the maximum; 0 never speaks the hit points.
+    {SPEAK_HP_BELOW, "SpeakHpBelow", "Speak when Hp falls below (percent)", 25, 0, 100},
 }};
 
 class StewardOptions {
