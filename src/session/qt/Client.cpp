@@ -27,6 +27,8 @@
 #include <QCoreApplication>
 #include <QThread>
 
+#include <cstdio>
+
 namespace steward {
 
 namespace {
@@ -38,13 +40,15 @@ constexpr char PROFILE_NOT_SAVED_TEXT[] =
 
 Client::Client(ClientOptions options, Desktop& desktop)
     : options_(std::move(options)), desktop_(desktop), sounds_(desktop.Sounds()),
+      speech_(voice_, session_.Steward),
       link_({session_.Profile.Settings, session_.SessionLog, highlights_, sounds_, session_.Windows,
-             *this, session_.Script, session_.Panel, session_.Words, clock_, nullptr},
+             *this, session_.Script, session_.Panel, session_.Words, clock_, nullptr, &speech_},
             session_.PacketDump, socket_),
       socket_(link_), logs_(session_, link_, desktop)
 {
     session_.Files = options_.Files;
     session_.Steward = StewardOptions::Load(session_.Files.MainIni);
+    voice_.SetFinished([this] { speech_.Spoken(); });
     EnsureProfileFiles(session_.Files);
     sounds_.SetSoundPath(SoundPath(session_.Files));
     for (std::size_t i = 0; i < PROFILE_GAUGE_COUNT; ++i)
@@ -86,7 +90,7 @@ Client::Client(ClientOptions options, Desktop& desktop)
                              [this](int command) { OnCommand(command); }});
     dialogs_ = std::make_unique<FrameDialogs>(
         FrameDialogs::Links{*frame_, session_, desktop_, keyboard_->Macros, keyboard_->State,
-                            highlights_, sounds_, *profile_, *keyboardHost_});
+                            highlights_, sounds_, *profile_, *keyboardHost_, voice_});
     connect(&timer_, &QTimer::timeout, this, [this] { session_.Rest.OnTimer(*this); });
     connect(QAbstractEventDispatcher::instance(), &QAbstractEventDispatcher::awake, this,
             &Client::OnLoopTurn);
@@ -115,6 +119,7 @@ bool Client::Start()
     if (!link_.IsDisconnected() && session_.Profile.Settings.AutoLog)
         OnCommand(CMD_OPEN_DATED_LOG);
     AnnouncePacketDump(session_.PacketDump, logs_);
+    KeepSpeakOffWithoutVoice();
     PlayStartMusic(sounds_, session_.Profile.Settings.SquelchSounds != 0);
     frame_->activateWindow();
     characters_->BuildCharacterMenu();
@@ -167,6 +172,17 @@ void Client::OnDropped()
 {
     link_.ShutdownConnection();
     link_.PrintToGameWindow(DROPPED_TEXT);
+}
+
+// The main ini keeps "Speak" on for a machine that has a voice; here it is off for this run.
+void Client::KeepSpeakOffWithoutVoice()
+{
+    if (!session_.Steward.IsOn(SPEAK) || voice_.Available())
+        return;
+    session_.Steward.Set(SPEAK, 0);
+    char text[sizeof NO_VOICE_TEXT + 16];
+    std::snprintf(text, sizeof text, "\r\n*** %s\r\n", NO_VOICE_TEXT);
+    link_.PrintToGameWindow(text);
 }
 
 void Client::OnLoopTurn()
