@@ -68,23 +68,31 @@ std::uint16_t AnsiWindow::GetText(char* out, std::uint16_t room) const
 
 int AnsiWindow::AppendText(const char* text, bool lineFeedFirst)
 {
+    const TextBuffer::Position before = LiveBuffer->GetWritePos();
+    const bool stored = StoreText(text, lineFeedFirst);
+    host_.TextAppended(before);
+    if (!stored || Frozen)
+        return 1;
+    host_.InvalidateRect(false);
+    if (!options_.BufferedUpdates)
+        host_.UpdateWindow();
+    return 1;
+}
+
+bool AnsiWindow::StoreText(const char* text, bool lineFeedFirst)
+{
     const bool track = !Frozen;
     if (lineFeedFirst)
         LiveBuffer->AppendText("\n", track);
     if (prompt_) {
         const PromptAction action = ApplyPromptRule(*prompt_, text);
         if (action == PromptAction::Drop)
-            return 1;
+            return false;
         if (action == PromptAction::BreakThenAppend)
             LiveBuffer->AppendText("\n", track);
     }
     LiveBuffer->AppendText(text, track);
-    if (Frozen)
-        return 1;
-    host_.InvalidateRect(false);
-    if (!options_.BufferedUpdates)
-        host_.UpdateWindow();
-    return 1;
+    return true;
 }
 
 void AnsiWindow::EndScrollback()

@@ -132,6 +132,12 @@ class TextBuffer {
     // The whole text as plain text, as CopyAsText gives it with room for Capacity + 8192
     // bytes, colour codes dropped.
     std::string ExportPlainText() const;
+    // Where a distance from HeadPos lands in the text of ExportPlainText; a distance inside
+    // the blank lines that the export leaves out lands at 0.
+    std::int32_t PlainOffset(std::int32_t offset) const;
+    // The text from position to the end, as ExportPlainText gives it before its closing line
+    // end: what an append that began at position added.
+    std::string PlainTextFrom(Position position) const;
     // Both copies need equal capacities; between different ones nothing is copied and the
     // result is false.
     bool CopyBufferTo(TextBuffer& other) const;
@@ -140,6 +146,8 @@ class TextBuffer {
   private:
     TextBuffer(std::uint32_t capacity, std::unique_ptr<unsigned char[]> storage);
 
+    // Where the plain text begins: the first byte behind the blank lines of a fresh ring.
+    Position PlainStart() const;
     void AppendByte(unsigned char b);
     void Store(unsigned char b);
     void StartLine();

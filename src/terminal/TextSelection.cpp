@@ -21,6 +21,12 @@ bool IsTerminator(unsigned char b)
     return b == HARD_LINE_END || b == SOFT_LINE_END;
 }
 
+// The characters that one byte of the ring becomes in plain text.
+std::int32_t PlainLength(unsigned char b)
+{
+    return IsColorCode(b) ? 0 : b == HARD_LINE_END ? 2 : 1;
+}
+
 // Appends one byte of the ring as plain text.
 void AppendPlain(std::string& text, unsigned char b)
 {
@@ -136,6 +142,26 @@ std::string TextBuffer::ExportPlainText() const
     for (std::size_t i = 0; i < length; ++i)
         if (!IsColorCode(static_cast<unsigned char>(copy[i])))
             text.push_back(copy[i]);
+    return text;
+}
+
+std::int32_t TextBuffer::PlainOffset(std::int32_t offset) const
+{
+    const Position start = PlainStart();
+    std::int64_t plain = 0;
+    Position p = start;
+    for (std::int32_t o = Offset(start); o < offset && p != WritePos; ++o, p = Next(p))
+        plain += PlainLength(Storage[p]);
+    return static_cast<std::int32_t>(std::min<std::int64_t>(plain, INT32_MAX));
+}
+
+std::string TextBuffer::PlainTextFrom(Position position) const
+{
+    const Position start = PlainStart();
+    Position p = Offset(position) < Offset(start) ? start : position % Capacity;
+    std::string text;
+    for (; p != WritePos; p = Next(p))
+        AppendPlain(text, Storage[p]);
     return text;
 }
 

@@ -65,11 +65,15 @@ class AnsiWindowWidget : public QWidget, public AnsiWindowHost {
     void MenuCommand(int id);
     // The popup menu's items for the window as it is now; each action's data is its command.
     void FillPopupMenu(QMenu& menu);
+    // Changes whenever the window's text or its look may have changed, so that a screen
+    // reader's copy of the text is made again.
+    quint64 TextVersion() const { return textVersion_; }
 
     // AnsiWindowHost. The placement is that of the sub-window holding this widget, so the
     // frame can restore it through ReadPlacement with this widget as the target.
     Rect GetClientRect() const override;
     void InvalidateRect(bool erase) override;
+    void TextAppended(TextBuffer::Position from) override;
     void UpdateWindow() override;
     void SetScrollRange(std::int32_t minimum, std::int32_t maximum, bool redraw) override;
     void SetScrollPos(std::int32_t position, bool redraw) override;
@@ -119,6 +123,7 @@ class AnsiWindowWidget : public QWidget, public AnsiWindowHost {
     std::int32_t scrollPos_ = 0;
     QTimer repaintTimer_;
     bool repaintPending_ = false;
+    quint64 textVersion_ = 0;
     // Repeats the last drag step while the pointer stays outside the window.
     QTimer dragScrollTimer_;
     QPoint dragPoint_;

@@ -1,0 +1,56 @@
+#pragma once
+
+#include "terminal/TextBuffer.h"
+
+#include <QAccessibleWidget>
+
+namespace steward {
+
+class AnsiWindowWidget;
+
+// A text window as a screen reader sees it: the whole live text as "Copy All" gives it, the
+// caret at its end, and the selection. The text is the game's, so a screen reader reads it but
+// does not edit it or move the caret or the selection, which the player's mouse alone sets.
+class AnsiWindowAccessible : public QAccessibleWidget, public QAccessibleTextInterface {
+  public:
+    explicit AnsiWindowAccessible(AnsiWindowWidget* widget);
+
+    void* interface_cast(QAccessible::InterfaceType type) override;
+    QString text(QAccessible::Text kind) const override;
+    QAccessible::State state() const override;
+
+    // QAccessibleTextInterface.
+    void selection(int selectionIndex, int* startOffset, int* endOffset) const override;
+    int selectionCount() const override;
+    void addSelection(int, int) override {}
+    void removeSelection(int) override {}
+    void setSelection(int, int, int) override {}
+    int cursorPosition() const override;
+    void setCursorPosition(int) override {}
+    QString text(int startOffset, int endOffset) const override;
+    int characterCount() const override;
+    // Rows are not laid out for single characters; the window reports no character boxes.
+    QRect characterRect(int) const override { return {}; }
+    int offsetAtPoint(const QPoint& point) const override;
+    void scrollToSubstring(int, int) override {}
+    // The text carries no attributes: one run from start to end.
+    QString attributes(int offset, int* startOffset, int* endOffset) const override;
+
+  private:
+    AnsiWindowWidget& Widget() const;
+    // The export, made again only when the window's text has changed.
+    const QString& Text() const;
+    // A plain offset of the displayed buffer, within the text.
+    int Clamped(std::int32_t plain) const;
+
+    mutable QString text_;
+    mutable quint64 version_ = 0;
+    mutable bool made_ = false;
+};
+
+// Makes every AnsiWindowWidget answer with an AnsiWindowAccessible; once per process.
+void InstallAnsiWindowAccessibility();
+// Raises the text-inserted event for what an append that began at from added to the window.
+void AnnounceAppendedText(AnsiWindowWidget& widget, TextBuffer::Position from);
+
+} // namespace steward
