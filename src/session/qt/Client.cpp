@@ -49,6 +49,7 @@ Client::Client(ClientOptions options, Desktop& desktop)
     session_.Files = options_.Files;
     session_.Steward = StewardOptions::Load(session_.Files.MainIni);
     voice_.SetFinished([this] { speech_.Spoken(); });
+    voice_.SetFailed([this] { KeepSpeakOffWithoutVoice(); });
     EnsureProfileFiles(session_.Files);
     sounds_.SetSoundPath(SoundPath(session_.Files));
     for (std::size_t i = 0; i < PROFILE_GAUGE_COUNT; ++i)
