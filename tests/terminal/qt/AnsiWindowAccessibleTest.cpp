@@ -14,18 +14,14 @@
 namespace steward {
 namespace {
 
-struct Inserted {
-    int position;
-    QString text;
-};
-
-std::vector<Inserted> inserted;
+// Position and text of each text-inserted event.
+std::vector<std::pair<int, QString>> inserted;
 
 void RecordInsert(QAccessibleEvent* event)
 {
     if (event->type() == QAccessible::TextInserted) {
         auto* insert = static_cast<QAccessibleTextInsertEvent*>(event);
-        inserted.push_back({insert->changePosition(), insert->textInserted()});
+        inserted.emplace_back(insert->changePosition(), insert->textInserted());
     }
 }
 
@@ -39,30 +35,24 @@ std::string Colored(const char* text)
 
 class AccessibleWindowTest : public ::testing::Test {
   protected:
+    // A screen reader listens: the platform's accessibility is on, the events recorded.
     void SetUp() override
     {
-        // A screen reader listens: the platform's accessibility is on, the events recorded.
         QGuiApplicationPrivate::platformIntegration()->accessibility()->setActive(true);
         QAccessible::installUpdateHandler(RecordInsert);
         Fresh();
     }
     void TearDown() override { QAccessible::installUpdateHandler(nullptr); }
-
     void Fresh()
     {
         inserted.clear();
         widget = AnsiWindowWidget::Create("Thought Window", {settings});
         widget->resize(200, 100);
     }
-
     QAccessibleTextInterface& Text()
     {
-        QAccessibleInterface* accessible = QAccessible::queryAccessibleInterface(widget.get());
-        EXPECT_NE(accessible, nullptr);
-        EXPECT_NE(accessible->textInterface(), nullptr);
-        return *accessible->textInterface();
+        return *QAccessible::queryAccessibleInterface(widget.get())->textInterface();
     }
-    QString Export() { return QString::fromStdString(Live().ExportPlainText()); }
     TextBuffer& Live() { return widget->Window().GetLiveBuffer(); }
 
     Settings settings;
@@ -76,16 +66,11 @@ struct AppendCase {
     QString lastInserted;
 };
 
-std::vector<std::string> ManyLines(int count)
-{
-    std::vector<std::string> lines;
-    for (int i = 0; i < count; ++i)
-        lines.push_back("line " + std::to_string(i) + " of the flood\r\n");
-    return lines;
-}
-
 TEST_F(AccessibleWindowTest, TheTextIsTheExportAndEveryAppendIsAnnouncedWhereItLands)
 {
+    std::vector<std::string> flood;
+    for (int i = 0; i < 1500; ++i)
+        flood.push_back("line " + std::to_string(i) + " of the flood\r\n");
     const AppendCase cases[] = {
         {"lines", {"one\r\n", "two\r\n"}, "two\r\n"},
         {"colour codes left out", {"a ", Colored("red") + "\r\n"}, "red\r\n"},
@@ -94,26 +79,25 @@ TEST_F(AccessibleWindowTest, TheTextIsTheExportAndEveryAppendIsAnnouncedWhereItL
         {"a line that wraps",
          {std::string(80, 'w') + " " + std::string(80, 'v') + "\r\n"},
          QString(80, 'w') + " " + QString(80, 'v') + "\r\n"},
-        {"a ring that drops its oldest text", ManyLines(1500), "line 1499 of the flood\r\n"},
+        {"a ring that drops its oldest text", flood, "line 1499 of the flood\r\n"},
     };
     for (const AppendCase& c : cases) {
         SCOPED_TRACE(c.name);
         Fresh();
         for (const std::string& text : c.appends) {
-            const std::size_t before = inserted.size();
             widget->Window().AppendText(text.c_str());
-            ASSERT_EQ(inserted.size(), before + 1);
-            const Inserted& last = inserted.back();
-            EXPECT_EQ(Text().text(last.position, last.position + last.text.size()), last.text);
+            ASSERT_EQ(inserted.size(), &text - c.appends.data() + 1u);
+            const auto& [position, added] = inserted.back();
+            EXPECT_EQ(Text().text(position, position + added.size()), added);
         }
-        EXPECT_EQ(inserted.back().text, c.lastInserted);
-        EXPECT_EQ(Text().text(0, Text().characterCount()), Export());
-        EXPECT_EQ(Text().cursorPosition(), Export().size());
+        const QString all = QString::fromStdString(Live().ExportPlainText());
+        EXPECT_EQ(inserted.back().second, c.lastInserted);
+        EXPECT_EQ(Text().text(0, Text().characterCount()), all);
+        EXPECT_EQ(Text().cursorPosition(), all.size());
     }
 }
 
 struct SelectionCase {
-    const char* name;
     // Distances from the ring's head; a fresh ring's text starts behind its blank lines.
     std::int32_t start;
     std::int32_t end;
@@ -124,26 +108,21 @@ struct SelectionCase {
 TEST_F(AccessibleWindowTest, TheSelectionIsWhereTheWindowCopiesItFrom)
 {
     widget->Window().AppendText(("one " + Colored("two") + "\r\nthree\r\n").c_str());
-    const std::int32_t text = static_cast<std::int32_t>(INITIAL_LINE_FEEDS) - 1;
+    const std::int32_t text = INITIAL_LINE_FEEDS - 1;
     const SelectionCase cases[] = {
-        {"a word", text, text + 3, nullptr},
-        {"across colour codes", text + 2, text + 8, nullptr},
-        {"across a line end", text + 5, text + 14, nullptr},
-        {"backwards", text + 14, text + 4, nullptr},
-        {"nothing", text + 2, text + 2, nullptr},
-        // The export leaves the blank lines of a fresh ring out.
-        {"from the blank lines", 3, text + 2, "on"},
+        {text, text + 3, nullptr},      {text + 2, text + 8, nullptr},  // across colour codes
+        {text + 5, text + 14, nullptr}, {text + 14, text + 4, nullptr}, // across a line end
+        {text + 2, text + 2, nullptr},  {3, text + 2, "on"}, // the blank lines are not exported
     };
     for (const SelectionCase& c : cases) {
-        SCOPED_TRACE(c.name);
         Live().SetSelection(c.start, c.end);
         const QString heard =
             c.heard ? QString::fromLatin1(c.heard) : QString::fromStdString(Live().SelectionText());
-        ASSERT_EQ(Text().selectionCount(), heard.isEmpty() ? 0 : 1);
+        ASSERT_EQ(Text().selectionCount(), heard.isEmpty() ? 0 : 1) << c.start;
         int start = -1;
         int end = -1;
         Text().selection(0, &start, &end);
-        EXPECT_EQ(Text().text(start, end), heard);
+        EXPECT_EQ(Text().text(start, end), heard) << c.start;
     }
 }
 
