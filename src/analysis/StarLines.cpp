@@ -72,8 +72,9 @@ bool LinePipeline::HandleStarLine(char* line, std::size_t capacity)
         if (EqualNoCase(word, "hit")) {
             SetGaugeValues(panel_.Hp, 0, maximum, current);
             HpChanged();
-        } else if (EqualNoCase(word, "fatigue:"))
+        } else if (EqualNoCase(word, "fatigue:")) {
             SetGaugeValues(panel_.Ftg, 0, maximum, current);
+        }
         return true;
     }
     if (Contains(line, "You are fully healed.")) {
