@@ -43,6 +43,8 @@ enum FrameCommand : int {
     CMD_COPY_TO_NAME_HIGHLIGHTS = 1105,
     CMD_COPY_TO_COMMAND_LINE = 1106,
     CMD_VERSION_NOTES = 1107,
+    // The program's own: the find bar of the active text window.
+    CMD_FIND = 1110,
     CMD_EQUIP_WEAPON = 1806,
     CMD_UNEQUIP_WEAPON = 1807,
     CMD_EQUIP_SHIELD = 1808,

@@ -2,6 +2,7 @@
 
 #include <cstddef>
 #include <memory>
+#include <string>
 
 namespace steward {
 
@@ -13,6 +14,8 @@ constexpr std::size_t HISTORY_CAPACITY = 8192;
 constexpr std::size_t HISTORY_BLOCK_SIZE = HISTORY_CAPACITY + 16;
 // The caret position that puts the caret behind the last character of a recalled entry.
 constexpr int HISTORY_CARET_END = 900;
+// A saved history is read from its last this many bytes: older entries could not be kept.
+constexpr long HISTORY_FILE_TAIL = 8 * static_cast<long>(HISTORY_CAPACITY);
 
 // What the player typed, oldest first, as zero-terminated strings back to back in one block.
 // Without its block (no memory) every operation acts as on an empty history.
@@ -34,6 +37,12 @@ class CommandHistory {
     // Echoes and sends the entry back places before the browsing place.
     void RepeatCommand(int back, CommandSink& sink) const;
     void ResetHistoryPosition();
+
+    // The saved history, one entry per line, oldest first. Loading replaces the entries with
+    // the file's, under the limits and the repeat rule of RememberCommand; a line that is not
+    // printable text is skipped, a long one cut. False, and nothing changed, without a file.
+    bool LoadHistory(const std::string& path);
+    [[nodiscard]] bool SaveHistory(const std::string& path) const;
 
     int HistoryPosition() const { return position_; }
 

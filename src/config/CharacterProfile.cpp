@@ -131,6 +131,7 @@ bool LoadProfile(const ConfigFiles& files, CharacterProfile& profile, ProfileHos
     parts.LoadMacros(ProfileFilePath(files, character, MACROS_EXTENSION));
     parts.LoadHighlights(ProfileFilePath(files, character, HIGHLIGHTS_EXTENSION),
                          ProfileFilePath(files, character, NAMES_EXTENSION));
+    parts.LoadHistory(ProfileFilePath(files, character, HISTORY_EXTENSION));
     parts.SetDefaultMacros(isNew);
     parts.UpdateTitle();
     return isNew;
@@ -151,6 +152,7 @@ bool SaveProfile(const ConfigFiles& files, const CharacterProfile& profile, Prof
     saved = parts.SaveChildWindows(path) && saved;
     saved = dat.Commit() && saved;
     saved = parts.SaveMacros(ProfileFilePath(files, name, MACROS_EXTENSION)) && saved;
+    saved = parts.SaveHistory(ProfileFilePath(files, name, HISTORY_EXTENSION)) && saved;
     return parts.SaveHighlights(ProfileFilePath(files, name, HIGHLIGHTS_EXTENSION),
                                 ProfileFilePath(files, name, NAMES_EXTENSION)) &&
            saved;

@@ -20,6 +20,7 @@ constexpr char PROFILE_EXTENSION[] = ".Dat";
 constexpr char MACROS_EXTENSION[] = ".Macros";
 constexpr char HIGHLIGHTS_EXTENSION[] = ".Highlights";
 constexpr char NAMES_EXTENSION[] = ".Names";
+constexpr char HISTORY_EXTENSION[] = ".History";
 
 // What the client remembers of one character, as loaded from and saved to its .Dat file.
 struct CharacterProfile {

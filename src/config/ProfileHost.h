@@ -49,6 +49,9 @@ class ProfileHost {
                                 const std::string& namesPath) = 0;
     virtual bool SaveHighlights(const std::string& highlightsPath,
                                 const std::string& namesPath) = 0;
+    // The command history, when the player keeps it between sessions.
+    virtual void LoadHistory(const std::string& historyPath) = 0;
+    virtual bool SaveHistory(const std::string& historyPath) = 0;
     // The default macros; a new profile also gets Alt-A.
     virtual void SetDefaultMacros(bool newProfile) = 0;
     // The frame's title names the character.

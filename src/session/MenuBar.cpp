@@ -39,6 +39,8 @@ constexpr std::array EDIT_MENU = {
     Item(CMD_CLEAR, "Clear\tCtrl-Delete"),
     Item(CMD_PASTE, "Paste\tShift-Insert"),
     SEPARATOR,
+    Item(CMD_FIND, "Find..."),
+    SEPARATOR,
     Sub("Copy Special"),
     Item(CMD_COPY_TO_STRING_HIGHLIGHTS, "to String Highlights"),
     Item(CMD_COPY_TO_NAME_HIGHLIGHTS, "to Name Highlights"),

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "config/StewardOptions.h"
+
 #include <array>
 
 namespace steward {
@@ -18,12 +20,14 @@ struct WindowTableRow {
     // Title of the child window and name of its section in the profile.
     const char* Name;
     char Letter;
+    // The option that can give the window a longer scrollback.
+    StewardOption Scrollback;
 };
 
 constexpr std::array<WindowTableRow, WINDOW_ROWS> WindowTable = {{
-    {GAME_ROW, "Game Window", 'g'},
-    {THOUGHT_ROW, "Thought Window", 't'},
-    {ARRIVAL_ROW, "Arrival Window", 'a'},
+    {GAME_ROW, "Game Window", 'g', GAME_SCROLLBACK_KB},
+    {THOUGHT_ROW, "Thought Window", 't', THOUGHT_SCROLLBACK_KB},
+    {ARRIVAL_ROW, "Arrival Window", 'a', ARRIVAL_SCROLLBACK_KB},
 }};
 
 } // namespace steward

@@ -1,5 +1,6 @@
 #include "terminal/AnsiWindow.h"
 
+#include <algorithm>
 #include <cstring>
 #include <new>
 #include <utility>
@@ -24,7 +25,7 @@ std::uint32_t BufferCapacityFor(const char* name)
 
 std::unique_ptr<AnsiWindow> AnsiWindow::Create(const char* name, const AnsiWindowParts& parts)
 {
-    const std::uint32_t capacity = BufferCapacityFor(name);
+    const std::uint32_t capacity = std::max(BufferCapacityFor(name), parts.ScrollbackBytes);
     std::unique_ptr<TextBuffer> live = TextBuffer::CreateTextBuffer(capacity);
     if (!live)
         return nullptr;
@@ -44,7 +45,7 @@ std::unique_ptr<AnsiWindow> AnsiWindow::Create(const char* name, const AnsiWindo
 AnsiWindow::AnsiWindow(const AnsiWindowParts& parts, std::unique_ptr<TextBuffer> live,
                        std::unique_ptr<TextBuffer> view)
     : host_(parts.Host), options_(parts.Options), prompt_(parts.Prompt), services_(parts.Services),
-      LiveBuffer(std::move(live)), ViewBuffer(std::move(view))
+      steward_(parts.Steward), LiveBuffer(std::move(live)), ViewBuffer(std::move(view))
 {
     ClientRect = host_.GetClientRect();
     LiveBuffer->SetBellListener(&host_);
@@ -71,8 +72,13 @@ int AnsiWindow::AppendText(const char* text, bool lineFeedFirst)
     const TextBuffer::Position before = LiveBuffer->GetWritePos();
     const bool stored = StoreText(text, lineFeedFirst);
     host_.TextAppended(before);
-    if (!stored || Frozen)
+    if (!stored)
         return 1;
+    if (Frozen) {
+        if (CurrentSplit().TailRows > 0)
+            host_.InvalidateRect(false);
+        return 1;
+    }
     host_.InvalidateRect(false);
     if (!options_.BufferedUpdates)
         host_.UpdateWindow();

@@ -2,18 +2,22 @@
 
 #include "config/BinaryRecords.h"
 #include "config/Settings.h"
+#include "config/StewardOptions.h"
 #include "terminal/AnsiWindowHost.h"
 #include "terminal/ColorStacks.h"
 #include "terminal/DrawingLayer.h"
 #include "terminal/PromptState.h"
 #include "terminal/ScrollCommand.h"
+#include "terminal/TailSplit.h"
 #include "terminal/TextBuffer.h"
+#include "terminal/TextSearch.h"
 #include "terminal/TextWindowServices.h"
 
 #include <cstddef>
 #include <cstdint>
 #include <memory>
 #include <string>
+#include <string_view>
 
 namespace steward {
 
@@ -40,6 +44,10 @@ struct AnsiWindowParts {
     PromptState* Prompt = nullptr;
     // Null leaves the popup menu's file, editor and frame commands without effect.
     TextWindowServices* Services = nullptr;
+    // The program's own options, read as they change; null keeps the standard behaviour.
+    const StewardOptions* Steward = nullptr;
+    // A larger ring than the window's standard one, in bytes; a smaller one is not taken.
+    std::uint32_t ScrollbackBytes = 0;
 };
 
 // One text window: its two buffers, layout, colours and font measurements, the frozen view of
@@ -117,6 +125,20 @@ class AnsiWindow : public FontTarget {
     void ScrollDownOne(bool repaint);
     void ApplyScrollCommand(int command, std::int32_t thumb);
 
+    // The live tail below a frozen view, when that option is on and the window is high enough.
+    TailSplit CurrentSplit() const;
+    // The top of the bar between the two panes; only meaningful while a tail shows.
+    std::int32_t SplitBarTop() const { return TextTop + CurrentSplit().ViewRows * LineHeight; }
+    // Where the frozen view's rows end: the bar while a tail shows, else the client area's end.
+    std::int32_t ViewBottom() const;
+    // The bar was dragged: the tail keeps this many rows, as far as the window allows.
+    void SetTailRows(std::int32_t rows);
+
+    // Finds needle from the selection of the displayed buffer (or the end, or the start,
+    // without one), scrolling back to show it selected; false, and the view as it was, when
+    // there is none.
+    bool Find(std::string_view needle, SearchDirection direction, bool matchCase);
+
     bool IsFrozen() const { return Frozen; }
     bool IsGameWindow() const { return prompt_ != nullptr; }
     std::int32_t GetTopLine() const { return TopLine; }
@@ -148,6 +170,8 @@ class AnsiWindow : public FontTarget {
     void PrepareScrollBack();
     void ChangeColor(COLORREF& color, bool foregroundRule);
     std::int32_t PaintRow(DrawingLayer& layer, TextBuffer& shown, std::int32_t y, bool active);
+    std::int32_t PaintLiveTail(DrawingLayer& layer, std::int32_t y, std::int32_t rows);
+    void ShowHit(const TextHit& hit);
     void ApplyColorCode(DrawingLayer& layer, unsigned char code, bool selectionSeen);
     void Fill(DrawingLayer& layer, const Rect& rect);
     void RepaintNow();
@@ -156,6 +180,8 @@ class AnsiWindow : public FontTarget {
     const Settings& options_;
     PromptState* prompt_;
     TextWindowServices* services_;
+    const StewardOptions* steward_;
+    std::int32_t wantedTailRows_ = DEFAULT_TAIL_ROWS;
 
     std::unique_ptr<TextBuffer> LiveBuffer;
     std::unique_ptr<TextBuffer> ViewBuffer;

@@ -32,17 +32,44 @@ void AnsiWindow::PaintText(DrawingLayer& layer)
     Stacks.ForeDepth = 0;
     Stacks.BackDepth = 0;
     const bool active = host_.IsActiveChild();
+    const TailSplit split = CurrentSplit();
+    const std::int32_t viewBottom = ViewBottom();
     std::int32_t x = TextLeft;
     std::int32_t y = TextTop;
-    while (y + LineHeight <= ClientRect.bottom) {
+    while (y + LineHeight <= viewBottom) {
         x = PaintRow(layer, shown, y, active);
         y += LineHeight;
+    }
+    if (split.TailRows > 0) {
+        x = PaintLiveTail(layer, y, split.TailRows);
+        y += (SPLIT_BAR_ROWS + split.TailRows) * LineHeight;
     }
     layer.SetTextColor(TextColor);
     layer.SetBkColor(BackColor);
     Fill(layer, {0, y, ClientRect.right, ClientRect.bottom});
-    if (!Frozen && options_.ShowCursor && IsGameWindow())
+    if ((!Frozen || split.TailRows > 0) && options_.ShowCursor && IsGameWindow())
         layer.TextOutA(x, y - LineHeight, "_", 1);
+}
+
+// The bar, a line across the middle of its row, then the last rows of the LiveBuffer; returns
+// the x behind the last row's text. The live end shows no selection: it is not tracked while
+// the view is frozen.
+std::int32_t AnsiWindow::PaintLiveTail(DrawingLayer& layer, std::int32_t y, std::int32_t rows)
+{
+    layer.SetBkColor(BackColor);
+    Fill(layer, {0, y, ClientRect.right, y + LineHeight});
+    const std::int32_t middle = y + LineHeight / 2;
+    layer.SetBkColor(TextColor);
+    Fill(layer, {0, middle - 1, ClientRect.right, middle + 1});
+    layer.SetTextColor(TextColor);
+    layer.SetBkColor(BackColor);
+    Stacks.ForeDepth = 0;
+    Stacks.BackDepth = 0;
+    LiveBuffer->SeekFromEnd(rows);
+    std::int32_t x = TextLeft;
+    for (std::int32_t row = 0; row < rows; ++row)
+        x = PaintRow(layer, *LiveBuffer, y + (SPLIT_BAR_ROWS + row) * LineHeight, false);
+    return x;
 }
 
 // Draws one row and returns the x behind its text.

@@ -1,5 +1,7 @@
 #include "terminal/AnsiWindow.h"
 
+#include <algorithm>
+
 namespace steward {
 
 void AnsiWindow::FreezeView()
@@ -100,6 +102,27 @@ void AnsiWindow::ApplyScrollCommand(int command, std::int32_t thumb)
     }
     if (TopLine != before)
         ClampView(true);
+}
+
+TailSplit AnsiWindow::CurrentSplit() const
+{
+    if (!Frozen || !steward_ || !steward_->IsOn(SHOW_LIVE_TAIL))
+        return {Rows, 0};
+    return SplitRows(Rows, wantedTailRows_);
+}
+
+std::int32_t AnsiWindow::ViewBottom() const
+{
+    const TailSplit split = CurrentSplit();
+    return split.TailRows > 0 ? TextTop + split.ViewRows * LineHeight : ClientRect.bottom;
+}
+
+void AnsiWindow::SetTailRows(std::int32_t rows)
+{
+    const std::int32_t before = CurrentSplit().TailRows;
+    wantedTailRows_ = std::max(rows, MIN_PANE_ROWS);
+    if (CurrentSplit().TailRows != before)
+        host_.InvalidateRect(false);
 }
 
 void AnsiWindow::KeepTopLineAfterResize()

@@ -15,9 +15,10 @@ TextBuffer::Position AnsiWindow::PosFromPoint(std::int32_t x, std::int32_t y)
         shown.SeekFromEnd(Rows);
     if (y < TextTop)
         return shown.GetWalkPos();
-    // A point below the window stands for the last row, so no more than a window's rows are
-    // read.
-    const std::int32_t row = std::min((y - TextTop) / LineHeight, std::max(Rows - 1, 0));
+    // A point below the window (or the frozen pane) stands for the last row, so no more than a
+    // window's rows are read.
+    const std::int32_t row =
+        std::min((y - TextTop) / LineHeight, std::max(CurrentSplit().ViewRows - 1, 0));
     TextBuffer::Position lineStart = shown.GetWalkPos();
     for (std::int32_t i = 0; i <= row; ++i) {
         lineStart = shown.GetWalkPos();
@@ -68,7 +69,7 @@ void AnsiWindow::MouseMove(std::int32_t x, std::int32_t y)
         return;
     if (y < 0)
         ScrollUpOne(false);
-    else if (y > ClientRect.bottom)
+    else if (y > ViewBottom())
         ScrollDownOne(false);
     const TextBuffer::Position p = PosFromPoint(x, y);
     if (p == LastDragPos)

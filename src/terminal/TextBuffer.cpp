@@ -81,6 +81,14 @@ TextBuffer::Position TextBuffer::AdvancePos(Position position, std::int32_t coun
                                  Capacity);
 }
 
+TextBuffer::TextRuns TextBuffer::Runs() const
+{
+    const unsigned char* ring = Storage.get();
+    if (HeadPos <= WritePos)
+        return {ring + HeadPos, WritePos - HeadPos, ring, 0};
+    return {ring + HeadPos, Capacity - HeadPos, ring, WritePos};
+}
+
 void TextBuffer::SetGeometry(std::int32_t leftMargin, std::int32_t width,
                              const CharWidthTable& charWidths)
 {
@@ -242,53 +250,78 @@ TextBuffer::Position TextBuffer::FindAppendBreak()
     return p;
 }
 
+// One pass over the text in the ring's runs, which also turns the old soft line ends back into
+// blanks. The last blank of the row being laid out is
+// remembered with the width of what follows it, so a row that runs over the limit breaks at
+// that blank without walking back, and the text carried to the new row is not walked again.
 void TextBuffer::Rewrap()
 {
     ForgetBreakScan();
-    for (Position p = HeadPos; p != WritePos; p = Next(p)) {
-        if (Storage[p] == SOFT_LINE_END) {
-            Storage[p] = SPACE;
-        }
-    }
-    std::int64_t x = LeftMargin;
-    // Behind noSpace a search has found no space, so a long unbreakable line is walked once.
-    Position noSpace = NO_POSITION;
-    Position stop = NO_POSITION;
-    Position p = HeadPos;
-    while (p != WritePos) {
-        const unsigned char b = Storage[p];
-        if (b == HARD_LINE_END) {
-            x = LeftMargin;
-        } else if (!IsColorCode(b)) {
-            const std::int64_t n = x + CharWidth[b];
-            if (n < WrapLimit) {
-                x = n;
-            } else if (const Position q = FindBreak(p, noSpace, stop); q != p) {
-                // The text moved to the new line is measured again from its first byte.
-                Storage[q] = SOFT_LINE_END;
-                x = LeftMargin;
-                noSpace = NO_POSITION;
-                p = Next(q);
+    const TextRuns runs = Runs();
+    unsigned char* const first = Storage.get() + (runs.First - Storage.get());
+    unsigned char* const second = Storage.get();
+    // Colour codes take no room; as no row ends on a character without width, they can be
+    // measured like the others.
+    CharWidthTable widths = CharWidth;
+    for (int c = COLOR_FIRST; c <= COLOR_LAST; ++c)
+        widths[c] = 0;
+    // Locals, since the stores into the ring could otherwise alias every member.
+    const std::int64_t leftMargin = LeftMargin;
+    const std::int64_t wrapLimit = WrapLimit;
+    std::int64_t x = leftMargin;
+    unsigned char* blank = nullptr;
+    std::int64_t widthAfterBlank = 0;
+    const auto layOut = [&](unsigned char* text, std::uint32_t length) {
+        for (unsigned char* at = text; at != text + length; ++at) {
+            unsigned char b = *at;
+            if (b == HARD_LINE_END) {
+                x = leftMargin;
+                blank = nullptr;
                 continue;
-            } else {
-                noSpace = p;
             }
+            if (b == SOFT_LINE_END) {
+                b = SPACE;
+                *at = b;
+            }
+            const std::int64_t width = widths[b];
+            if (x + width >= wrapLimit && blank) {
+                *blank = SOFT_LINE_END;
+                x = leftMargin + widthAfterBlank;
+                blank = nullptr;
+            }
+            // A character that still does not fit, on a row without a blank, stays unmeasured
+            // until a blank comes to break at.
+            x = x + width < wrapLimit ? x + width : x;
+            const bool isBlank = b == SPACE;
+            blank = isBlank ? at : blank;
+            widthAfterBlank = isBlank ? 0 : widthAfterBlank + width;
         }
-        p = Next(p);
-    }
+    };
+    layOut(first, runs.FirstLength);
+    layOut(second, runs.SecondLength);
 }
+
+namespace {
+
+std::int32_t CountLineEnds(const unsigned char* text, std::uint32_t length)
+{
+    std::uint32_t count = 0;
+    for (std::uint32_t i = 0; i < length; ++i)
+        count += static_cast<std::uint32_t>(text[i] == HARD_LINE_END) |
+                 static_cast<std::uint32_t>(text[i] == SOFT_LINE_END);
+    return static_cast<std::int32_t>(count);
+}
+
+} // namespace
 
 std::int32_t TextBuffer::CountLines() const
 {
     if (HeadPos == WritePos) {
         return 0;
     }
-    std::int32_t count = 0;
-    for (Position p = HeadPos; p != WritePos; p = Next(p)) {
-        if (IsLineEnd(Storage[p])) {
-            ++count;
-        }
-    }
+    const TextRuns runs = Runs();
+    const std::int32_t count =
+        CountLineEnds(runs.First, runs.FirstLength) + CountLineEnds(runs.Second, runs.SecondLength);
     return Storage[Prev(WritePos)] == HARD_LINE_END ? count : count + 1;
 }
 
@@ -378,16 +411,14 @@ char* TextBuffer::ReadLine(char* out, std::int32_t& limit, bool useSelection, bo
 std::int32_t TextBuffer::LineIndexOf(Position position) const
 {
     position = position < Capacity ? position : position % Capacity;
-    std::int32_t count = 0;
-    for (Position p = HeadPos; p != position; p = Next(p)) {
-        if (p == WritePos) {
-            return 0;
-        }
-        if (IsLineEnd(Storage[p])) {
-            ++count;
-        }
+    if (Offset(position) > Offset(WritePos)) {
+        return 0;
     }
-    return count;
+    const unsigned char* ring = Storage.get();
+    if (HeadPos <= position) {
+        return CountLineEnds(ring + HeadPos, position - HeadPos);
+    }
+    return CountLineEnds(ring + HeadPos, Capacity - HeadPos) + CountLineEnds(ring, position);
 }
 
 TextBuffer::Position TextBuffer::PlainStart() const

@@ -87,6 +87,16 @@ class TextBuffer {
     // A count below 1 returns position unchanged.
     Position AdvancePos(Position position, std::int32_t count) const;
 
+    // The text from HeadPos to WritePos as it lies in the ring: one run, or two when it crosses
+    // the seam, oldest first, so that searches can scan the bytes in place.
+    struct TextRuns {
+        const unsigned char* First;
+        std::uint32_t FirstLength;
+        const unsigned char* Second;
+        std::uint32_t SecondLength;
+    };
+    TextRuns Runs() const;
+
     // Called on each resize, before Rewrap; the wrap limit stays MIN_WRAP_WIDTH right of the
     // margin at least.
     void SetGeometry(std::int32_t leftMargin, std::int32_t width, const CharWidthTable& charWidths);

@@ -58,6 +58,12 @@ class RecordingParts : public ProfileHost, public TraceSink {
         calls.push_back("SaveHighlights " + strings + " " + names);
         return true;
     }
+    void LoadHistory(const std::string& path) override { calls.push_back("LoadHistory " + path); }
+    bool SaveHistory(const std::string& path) override
+    {
+        calls.push_back("SaveHistory " + path);
+        return true;
+    }
     void SetDefaultMacros(bool newProfile) override
     {
         calls.push_back(newProfile ? "SetDefaultMacros new" : "SetDefaultMacros");
@@ -106,6 +112,7 @@ TEST_F(ProfileTest, ANewProfileIsLoadedStepByStep)
                                "RestoreChildWindows " + base + ".Dat",
                                "LoadMacros " + base + ".Macros",
                                "LoadHighlights " + base + ".Highlights " + base + ".Names",
+                               "LoadHistory " + base + ".History",
                                "SetDefaultMacros new",
                                "UpdateTitle",
                            }));
@@ -209,6 +216,7 @@ TEST_F(ProfileTest, SavingWritesUnderTheGivenNameInOrder)
         expected.push_back(std::string("GetGaugeColors ") + key);
     expected.push_back("SaveChildWindows " + base + ".Dat");
     expected.push_back("SaveMacros " + base + ".Macros");
+    expected.push_back("SaveHistory " + base + ".History");
     expected.push_back("SaveHighlights " + base + ".Highlights " + base + ".Names");
     EXPECT_EQ(parts.calls, expected);
     EXPECT_EQ(profile.ProfilePath, Dat("Rook"));

@@ -1,3 +1,4 @@
+#include "commands/CommandHistory.h"
 #include "commands/MacroStore.h"
 #include "config/CharacterProfile.h"
 #include "highlights/HighlightList.h"
@@ -27,8 +28,8 @@ using testing::FileSizeLimit;
 using testing::ReadBytes;
 using testing::TempFolder;
 
-constexpr std::array<const char*, 5> PROFILE_FILES = {"Rook.Dat", "Rook.Macros", "Rook.Highlights",
-                                                      "Rook.Names", "Rook.Stw"};
+constexpr std::array<const char*, 6> PROFILE_FILES = {
+    "Rook.Dat", "Rook.Macros", "Rook.Highlights", "Rook.Names", "Rook.History", "Rook.Stw"};
 using ProfileBytes = std::array<std::string, PROFILE_FILES.size()>;
 
 // The parts of the program that own profile files, saving for real.
@@ -50,10 +51,13 @@ class SavingParts : public ProfileHost {
         const bool saved = stringHighlights.Save(strings.c_str());
         return nameHighlights.Save(names.c_str()) && saved;
     }
+    void LoadHistory(const std::string&) override {}
+    bool SaveHistory(const std::string& path) override { return history.SaveHistory(path); }
     void SetDefaultMacros(bool) override {}
     void UpdateTitle() override {}
 
     MacroStore macros;
+    CommandHistory history;
     HighlightList stringHighlights;
     HighlightList nameHighlights;
 };
@@ -74,6 +78,7 @@ struct ProfileState {
             const std::string text = "highlight " + std::to_string(i * (variant + 1));
             parts.stringHighlights.Add(text.c_str(), static_cast<unsigned char>(i));
             parts.nameHighlights.Add(("Name" + text).c_str(), static_cast<unsigned char>(i + 1));
+            parts.history.RememberCommand(("attack " + text).c_str(), 0);
         }
     }
     // The profile, then a recording of the character's walk; false when any file was not saved.

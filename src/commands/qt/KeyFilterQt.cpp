@@ -1,5 +1,6 @@
 #include "commands/qt/KeyFilterQt.h"
 
+#include "base/qt/OwnKeys.h"
 #include "commands/CommandLineEdit.h"
 #include "commands/KeyFilter.h"
 #include "commands/qt/KeyMapQt.h"
@@ -39,8 +40,10 @@ bool KeyFilterQt::eventFilter(QObject* watched, QEvent* event)
 {
     if (!IsKeyEvent(event->type()) || !IsFocusDelivery(watched))
         return false;
-    // Modal dialogs and popup menus run their own keys, as their loops are not filtered.
-    if (QApplication::activeModalWidget() || QApplication::activePopupWidget())
+    // Modal dialogs and popup menus run their own keys, as their loops are not filtered; a
+    // field such as a window's find bar types its own.
+    if (QApplication::activeModalWidget() || QApplication::activePopupWidget() ||
+        watched->property(OWN_KEYS_PROPERTY).toBool())
         return false;
     auto* keyEvent = static_cast<QKeyEvent*>(event);
     const int qtKey = PhysicalKey(keyEvent->key(), keyEvent->modifiers(),

@@ -30,9 +30,13 @@ AnsiWindow* ChildWindowSet::Open(WindowRow row)
         open += Exists(each.Row) ? 1 : 0;
     const char* name = WindowTable[row].Name;
     const Settings& settings = links_.Profile.Settings;
-    AnsiWindowWidget::Parts parts{settings, links_.Profile.ProfilePath.c_str(),
-                                  row == GAME_ROW ? &links_.Pipeline.Prompt() : nullptr, nullptr,
-                                  links_.Services};
+    AnsiWindowWidget::Parts parts{settings,
+                                  links_.Profile.ProfilePath.c_str(),
+                                  row == GAME_ROW ? &links_.Pipeline.Prompt() : nullptr,
+                                  nullptr,
+                                  links_.Services,
+                                  &links_.Steward,
+                                  ScrollbackBytes(links_.Steward.Get(WindowTable[row].Scrollback))};
     std::unique_ptr<AnsiWindowWidget> widget = AnsiWindowWidget::Create(name, parts);
     Published(row) = widget ? &widget->Window() : nullptr;
     if (!widget)
@@ -135,6 +139,14 @@ AnsiWindow* ChildWindowSet::ActiveWindow() const
 {
     const int row = ActiveRow();
     return row < 0 ? nullptr : Window(static_cast<WindowRow>(row));
+}
+
+void ChildWindowSet::FindInActiveWindow()
+{
+    const int active = ActiveRow();
+    QMdiSubWindow* sub = Child(active < 0 ? GAME_ROW : static_cast<WindowRow>(active));
+    if (auto* view = sub ? qobject_cast<AnsiWindowWidget*>(sub->widget()) : nullptr)
+        view->OpenFindBar();
 }
 
 void ChildWindowSet::EndScrollback()

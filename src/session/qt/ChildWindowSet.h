@@ -21,6 +21,7 @@ class AnsiWindowWidget;
 class LinePipeline;
 class MdiClient;
 class TextWindowServices;
+class StewardOptions;
 struct CharacterProfile;
 
 // The child-window registry: one record per row of the WindowTable (its text window and the
@@ -32,6 +33,7 @@ class ChildWindowSet : public QObject, public ChildWindowHost {
         MdiClient& Area;
         ChildWindows& Windows;
         const CharacterProfile& Profile;
+        const StewardOptions& Steward;
         LinePipeline& Pipeline;
         QWidget* CommandLine;
         // The popup menus' commands, dialogs and editor.
@@ -63,6 +65,8 @@ class ChildWindowSet : public QObject, public ChildWindowHost {
     // The row of the active sub-window, or -1.
     int ActiveRow() const;
     AnsiWindow* ActiveWindow() const;
+    // "Find...": the find bar of the active window, or of the Game window when none is active.
+    void FindInActiveWindow();
     void EndScrollback();
 
     // ChildWindowHost.

@@ -72,8 +72,9 @@ Client::Client(ClientOptions options, Desktop& desktop)
                                                    [this](int command) { OnCommand(command); });
     logs_.SetCommandRoute([this](int command) { OnCommand(command); });
     commandLine_ = new CommandLine;
-    windows_ = std::make_unique<ChildWindowSet>(ChildWindowSet::Links{
-        frame_->Mdi(), session_.Windows, session_.Profile, link_.Pipeline(), commandLine_, &logs_});
+    windows_ = std::make_unique<ChildWindowSet>(
+        ChildWindowSet::Links{frame_->Mdi(), session_.Windows, session_.Profile, session_.Steward,
+                              link_.Pipeline(), commandLine_, &logs_});
     frame_->SetCommandLine(commandLine_);
     keyboardHost_ = std::make_unique<QtKeyboardHost>(
         QtKeyboardHost::Links{session_, link_, *windows_, *frame_, desktop_, *commandLine_});
@@ -83,9 +84,9 @@ Client::Client(ClientOptions options, Desktop& desktop)
     keyFilter_ = std::make_unique<KeyFilterQt>(keyboard_->Filter, *commandLine_);
     qApp->installEventFilter(keyFilter_.get());
     MakeScriptControl();
-    profile_ = std::make_unique<QtProfileHost>(
-        QtProfileHost::Links{session_.Files, session_.Profile, session_.Panel, highlights_,
-                             keyboard_->Macros, *keyFilter_, *windows_, *frame_});
+    profile_ = std::make_unique<QtProfileHost>(QtProfileHost::Links{
+        session_.Files, session_.Profile, session_.Panel, highlights_, keyboard_->Macros,
+        keyboard_->History, session_.Steward, *keyFilter_, *windows_, *frame_});
     characters_ = std::make_unique<CharacterMenu>(
         CharacterMenu::Links{session_, *profile_, *windows_, *frame_, desktop_,
                              [this](int command) { OnCommand(command); }});

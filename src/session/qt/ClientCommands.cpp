@@ -59,6 +59,7 @@ const Client::CommandEntry Client::COMMANDS[] = {
     {CMD_COPY_TO_COMMAND_LINE, [](Client& c) { c.keyboardHost_->CopyToCommandLine(); }},
     {CMD_CLEAR, [](Client& c) { c.commandLine_->Clear(); }},
     {CMD_PASTE, [](Client& c) { c.commandLine_->Paste(); }},
+    {CMD_FIND, [](Client& c) { c.windows_->FindInActiveWindow(); }},
     {CMD_VERSION_NOTES, [](Client& c) { c.logs_.RunVersionNotes(); }},
     {CMD_EQUIP_WEAPON, [](Client& c) { c.SendCommand(c.session_.Profile.EquipWeapon); }},
     {CMD_UNEQUIP_WEAPON, [](Client& c) { c.SendCommand(c.session_.Profile.UnequipWeapon); }},

@@ -2,8 +2,8 @@
 
 #include "base/ByteText.h"
 
-#include "scripts/qt/ScriptDialogs.h"
 #include "base/qt/CenterWindow.h"
+#include "scripts/qt/ScriptDialogs.h"
 #include "session/qt/ExitDialog.h"
 
 #include <QApplication>

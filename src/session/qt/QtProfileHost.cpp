@@ -1,10 +1,12 @@
 #include "session/qt/QtProfileHost.h"
 
+#include "commands/CommandHistory.h"
 #include "commands/KeyFilter.h"
 #include "commands/MacroStore.h"
 #include "commands/qt/KeyFilterQt.h"
 #include "config/CharacterProfile.h"
 #include "config/IniStore.h"
+#include "config/StewardOptions.h"
 #include "highlights/HighlightStore.h"
 #include "session/qt/ChildWindowSet.h"
 #include "session/qt/FramePlacement.h"
@@ -57,6 +59,19 @@ void QtProfileHost::LoadMacros(const std::string& macrosPath)
 bool QtProfileHost::SaveMacros(const std::string& macrosPath)
 {
     return links_.Macros.SaveMacros(macrosPath.c_str());
+}
+
+// With the option off the history stays in memory only, and a file from an earlier choice is
+// left alone.
+void QtProfileHost::LoadHistory(const std::string& historyPath)
+{
+    if (links_.Steward.IsOn(KEEP_COMMAND_HISTORY))
+        links_.History.LoadHistory(historyPath);
+}
+
+bool QtProfileHost::SaveHistory(const std::string& historyPath)
+{
+    return !links_.Steward.IsOn(KEEP_COMMAND_HISTORY) || links_.History.SaveHistory(historyPath);
 }
 
 void QtProfileHost::SetDefaultMacros(bool newProfile)

@@ -5,6 +5,8 @@
 namespace steward {
 
 class ChildWindowSet;
+class CommandHistory;
+class StewardOptions;
 class FrameWindow;
 class HighlightStore;
 class KeyFilterQt;
@@ -22,6 +24,8 @@ class QtProfileHost : private ProfileHost {
         StatusPanel& Panel;
         HighlightStore& Highlights;
         MacroStore& Macros;
+        CommandHistory& History;
+        const StewardOptions& Steward;
         KeyFilterQt& Filter;
         ChildWindowSet& Windows;
         FrameWindow& Frame;
@@ -46,6 +50,8 @@ class QtProfileHost : private ProfileHost {
     bool SaveMacros(const std::string& macrosPath) override;
     void LoadHighlights(const std::string& highlightsPath, const std::string& namesPath) override;
     bool SaveHighlights(const std::string& highlightsPath, const std::string& namesPath) override;
+    void LoadHistory(const std::string& historyPath) override;
+    bool SaveHistory(const std::string& historyPath) override;
     void SetDefaultMacros(bool newProfile) override;
     void UpdateTitle() override;
 

@@ -50,6 +50,9 @@ void AnsiWindowWidget::MenuCommand(int id)
     case IDM_EDIT:
         window_->EditAll();
         break;
+    case IDM_FIND:
+        OpenFindBar();
+        break;
     case IDM_RESTORE:
         Frame()->showNormal();
         break;
@@ -94,6 +97,7 @@ void AnsiWindowWidget::FillPopupMenu(QMenu& menu)
     AddItem(menu, "Copy All to File...", IDM_COPY_ALL_TO_FILE);
     menu.addSeparator();
     AddItem(menu, "Edit", IDM_EDIT);
+    AddItem(menu, "Find...", IDM_FIND);
 }
 
 void AnsiWindowWidget::ShowPopupMenu(const QPoint& at)
@@ -124,11 +128,30 @@ void AnsiWindowWidget::mousePressEvent(QMouseEvent* event)
     if (event->button() != Qt::LeftButton)
         return;
     const QPoint at = event->position().toPoint();
+    if (window_->CurrentSplit().TailRows > 0 && at.y() >= window_->SplitBarTop()) {
+        // The bar moves the split; the live tail below it takes no selection.
+        draggingSplit_ = OnSplitBar(at.y());
+        if (draggingSplit_)
+            setCursor(Qt::SplitVCursor);
+        return;
+    }
     window_->LButtonDown(at.x(), at.y(), event->modifiers() & Qt::ShiftModifier);
+}
+
+bool AnsiWindowWidget::OnSplitBar(int y) const
+{
+    const int top = window_->SplitBarTop();
+    return y >= top && y < top + window_->GetLineHeight();
 }
 
 void AnsiWindowWidget::mouseMoveEvent(QMouseEvent* event)
 {
+    if (draggingSplit_) {
+        const int bottom = window_->GetTextTop() + window_->GetRows() * window_->GetLineHeight();
+        const int y = static_cast<int>(event->position().y());
+        window_->SetTailRows((bottom - y) / std::max(1, window_->GetLineHeight()));
+        return;
+    }
     if (!window_->IsDragging())
         return;
     dragPoint_ = event->position().toPoint();
@@ -144,7 +167,7 @@ void AnsiWindowWidget::DragStep()
         return;
     }
     window_->MouseMove(dragPoint_.x(), dragPoint_.y());
-    const bool outside = dragPoint_.y() < 0 || dragPoint_.y() > window_->GetClientRect().bottom;
+    const bool outside = dragPoint_.y() < 0 || dragPoint_.y() > window_->ViewBottom();
     if (!outside)
         dragScrollTimer_.stop();
     else if (!dragScrollTimer_.isActive())
@@ -154,6 +177,10 @@ void AnsiWindowWidget::DragStep()
 void AnsiWindowWidget::mouseReleaseEvent(QMouseEvent* event)
 {
     if (event->button() == Qt::LeftButton) {
+        if (draggingSplit_) {
+            draggingSplit_ = false;
+            setCursor(Qt::IBeamCursor);
+        }
         window_->EndDrag();
         dragScrollTimer_.stop();
     } else if (event->button() == Qt::RightButton) {

@@ -8,6 +8,7 @@
 
 #include <QAccessible>
 #include <QApplication>
+#include <QLineEdit>
 #include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QPainter>
@@ -21,9 +22,9 @@ std::unique_ptr<AnsiWindowWidget> AnsiWindowWidget::Create(const char* name, con
     InstallAnsiWindowAccessibility();
     std::unique_ptr<AnsiWindowWidget> widget(new AnsiWindowWidget(parts));
     widget->setWindowTitle(QString::fromLatin1(name));
-    widget->window_ =
-        AnsiWindow::Create(name, AnsiWindowParts{*widget, parts.Options, parts.ProfilePath,
-                                                 parts.Prompt, parts.Services});
+    widget->window_ = AnsiWindow::Create(
+        name, AnsiWindowParts{*widget, parts.Options, parts.ProfilePath, parts.Prompt,
+                              parts.Services, parts.Steward, parts.ScrollbackBytes});
     if (!widget->window_)
         return nullptr;
     widget->layer_.SetCharWidths(&widget->window_->GetCharWidth());
@@ -52,7 +53,8 @@ AnsiWindowWidget::AnsiWindowWidget(const Parts& parts)
 Rect AnsiWindowWidget::GetClientRect() const
 {
     const int bar = scrollBar_->sizeHint().width();
-    return Rect{0, 0, std::max(0, width() - bar), height()};
+    const int finder = findBar_ && findBar_->isVisible() ? findBar_->sizeHint().height() : 0;
+    return Rect{0, 0, std::max(0, width() - bar), std::max(0, height() - finder)};
 }
 
 void AnsiWindowWidget::InvalidateRect(bool)
@@ -100,8 +102,36 @@ bool AnsiWindowWidget::IsActiveChild() const
     return area && area->activeSubWindow() == subWindow_;
 }
 
+// While the find bar is typed in, it keeps the focus that the window would hand on.
 void AnsiWindowWidget::FocusCommandLine()
 {
+    if (findBar_ && findBar_->Field()->hasFocus())
+        return;
+    if (commandLine_)
+        commandLine_->setFocus();
+}
+
+void AnsiWindowWidget::OpenFindBar()
+{
+    if (!findBar_) {
+        FindBar::Handlers handlers;
+        handlers.Find = [this](const std::string& needle, SearchDirection direction,
+                               bool matchCase) {
+            if (subWindow_ && subWindow_->mdiArea())
+                subWindow_->mdiArea()->setActiveSubWindow(subWindow_);
+            return window_->Find(needle, direction, matchCase);
+        };
+        handlers.Closed = [this] { CloseFindBar(); };
+        findBar_ = new FindBar(std::move(handlers), this);
+    }
+    findBar_->show();
+    resizeEvent(nullptr);
+    findBar_->Open();
+}
+
+void AnsiWindowWidget::CloseFindBar()
+{
+    resizeEvent(nullptr);
     if (commandLine_)
         commandLine_->setFocus();
 }
@@ -208,7 +238,10 @@ void AnsiWindowWidget::paintEvent(QPaintEvent*)
 void AnsiWindowWidget::resizeEvent(QResizeEvent*)
 {
     const int bar = scrollBar_->sizeHint().width();
-    scrollBar_->setGeometry(std::max(0, width() - bar), 0, bar, height());
+    const Rect text = GetClientRect();
+    scrollBar_->setGeometry(std::max(0, width() - bar), 0, bar, text.bottom);
+    if (findBar_)
+        findBar_->setGeometry(0, text.bottom, width(), findBar_->sizeHint().height());
     if (window_)
         window_->Size(subWindow_ && subWindow_->isMinimized());
 }

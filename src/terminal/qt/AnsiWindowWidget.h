@@ -2,6 +2,7 @@
 
 #include "base/qt/AppearanceDialogs.h"
 #include "terminal/AnsiWindow.h"
+#include "terminal/qt/FindBar.h"
 #include "terminal/qt/PainterLayer.h"
 
 #include <QFont>
@@ -27,6 +28,7 @@ constexpr int IDM_EDIT = 1850;
 constexpr int IDM_RESTORE = 1851;
 constexpr int IDM_MAXIMIZE = 1852;
 constexpr int IDM_CLOSE = 1853;
+constexpr int IDM_FIND = 1854;
 
 // While a drag holds the pointer above or below the window, the window scrolls one line this
 // often.
@@ -50,6 +52,9 @@ class AnsiWindowWidget : public QWidget, public AnsiWindowHost {
         AppearanceDialogs* Dialogs = nullptr;
         // Null leaves the frame, file and editor commands of the popup menu without effect.
         TextWindowServices* Services = nullptr;
+        // Null keeps the standard behaviour.
+        const StewardOptions* Steward = nullptr;
+        std::uint32_t ScrollbackBytes = 0;
     };
 
     // Null when the window's buffers cannot be made.
@@ -68,6 +73,9 @@ class AnsiWindowWidget : public QWidget, public AnsiWindowHost {
     // Changes whenever the window's text or its look may have changed, so that a screen
     // reader's copy of the text is made again.
     quint64 TextVersion() const { return textVersion_; }
+    // "Find...": the find bar below the text, its field focused.
+    void OpenFindBar();
+    FindBar* Finder() const { return findBar_; }
 
     // AnsiWindowHost. The placement is that of the sub-window holding this widget, so the
     // frame can restore it through ReadPlacement with this widget as the target.
@@ -110,6 +118,8 @@ class AnsiWindowWidget : public QWidget, public AnsiWindowHost {
     void SubWindowStateChanged(Qt::WindowStates before, Qt::WindowStates now);
     void ShowPopupMenu(const QPoint& at);
     void DragStep();
+    bool OnSplitBar(int y) const;
+    void CloseFindBar();
     // The sub-window holding this widget, or the widget itself outside the text area.
     QWidget* Frame();
 
@@ -128,6 +138,10 @@ class AnsiWindowWidget : public QWidget, public AnsiWindowHost {
     QTimer dragScrollTimer_;
     QPoint dragPoint_;
     QPointer<QWidget> commandLine_;
+    // Made on the first "Find...".
+    FindBar* findBar_ = nullptr;
+    // The bar between a frozen view and its live tail is being dragged.
+    bool draggingSplit_ = false;
     QPointer<QMdiSubWindow> subWindow_;
     QMetaObject::Connection subWindowConnection_;
 };
