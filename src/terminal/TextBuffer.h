@@ -142,9 +142,12 @@ class TextBuffer {
     // The whole text as plain text, as CopyAsText gives it with room for Capacity + 8192
     // bytes, colour codes dropped.
     std::string ExportPlainText() const;
-    // Where a distance from HeadPos lands in the text of ExportPlainText; a distance inside
-    // the blank lines that the export leaves out lands at 0.
-    std::int32_t PlainOffset(std::int32_t offset) const;
+    // Where the text's last `bytes` bytes begin, moved on to the start of a line (unless no line
+    // starts there); where ExportPlainText begins when the text is no longer than that.
+    Position TailStart(std::uint32_t bytes) const;
+    // The plain characters that the text from `from` up to `to` becomes, as ExportPlainText
+    // gives it; 0 when `to` does not lie behind `from`.
+    std::int32_t PlainDistance(Position from, Position to) const;
     // The text from position to the end, as ExportPlainText gives it before its closing line
     // end: what an append that began at position added.
     std::string PlainTextFrom(Position position) const;

@@ -22,7 +22,7 @@ bool IsTerminator(unsigned char b)
 }
 
 // The characters that one byte of the ring becomes in plain text.
-std::int32_t PlainLength(unsigned char b)
+std::int32_t PlainWidth(unsigned char b)
 {
     return IsColorCode(b) ? 0 : b == HARD_LINE_END ? 2 : 1;
 }
@@ -145,22 +145,31 @@ std::string TextBuffer::ExportPlainText() const
     return text;
 }
 
-std::int32_t TextBuffer::PlainOffset(std::int32_t offset) const
+TextBuffer::Position TextBuffer::TailStart(std::uint32_t bytes) const
 {
     const Position start = PlainStart();
+    if (static_cast<std::uint32_t>(Offset(WritePos) - Offset(start)) <= bytes)
+        return start;
+    const Position cut = (WritePos + Capacity - bytes) % Capacity;
+    for (Position p = cut; p != WritePos; p = Next(p))
+        if (Storage[p] == HARD_LINE_END)
+            return Next(p);
+    return cut;
+}
+
+std::int32_t TextBuffer::PlainDistance(Position from, Position to) const
+{
     std::int64_t plain = 0;
-    Position p = start;
-    for (std::int32_t o = Offset(start); o < offset && p != WritePos; ++o, p = Next(p))
-        plain += PlainLength(Storage[p]);
+    Position p = from;
+    for (std::int32_t n = Offset(to) - Offset(from); n > 0 && p != WritePos; --n, p = Next(p))
+        plain += PlainWidth(Storage[p]);
     return static_cast<std::int32_t>(std::min<std::int64_t>(plain, INT32_MAX));
 }
 
 std::string TextBuffer::PlainTextFrom(Position position) const
 {
-    const Position start = PlainStart();
-    Position p = Offset(position) < Offset(start) ? start : position % Capacity;
     std::string text;
-    for (; p != WritePos; p = Next(p))
+    for (Position p = position % Capacity; p != WritePos; p = Next(p))
         AppendPlain(text, Storage[p]);
     return text;
 }

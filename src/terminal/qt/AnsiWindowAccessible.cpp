@@ -61,16 +61,21 @@ const QString& AnsiWindowAccessible::Text() const
 {
     const quint64 version = Widget().TextVersion();
     if (!made_ || version != version_) {
-        text_ = FromBytes(Widget().Window().GetLiveBuffer().ExportPlainText());
+        const TextBuffer& live = Widget().Window().GetLiveBuffer();
+        // Closed by a line end, as the export is.
+        text_ = FromBytes(live.PlainTextFrom(live.TailStart(ACCESSIBLE_TEXT_BYTES)) + "\r\n");
         version_ = version;
         made_ = true;
     }
     return text_;
 }
 
-int AnsiWindowAccessible::Clamped(std::int32_t plain) const
+int AnsiWindowAccessible::OffsetOf(TextBuffer::Position position) const
 {
-    return std::clamp<int>(plain, 0, characterCount());
+    const TextBuffer& shown = Widget().Window().DisplayedBuffer();
+    const std::int32_t plain =
+        shown.PlainDistance(shown.TailStart(ACCESSIBLE_TEXT_BYTES), position);
+    return std::min<int>(plain, characterCount());
 }
 
 void AnsiWindowAccessible::selection(int selectionIndex, int* startOffset, int* endOffset) const
@@ -83,8 +88,8 @@ void AnsiWindowAccessible::selection(int selectionIndex, int* startOffset, int* 
     std::int32_t low = 0;
     std::int32_t high = 0;
     shown.SelectionRange(low, high);
-    *startOffset = Clamped(shown.PlainOffset(low));
-    *endOffset = Clamped(shown.PlainOffset(high));
+    *startOffset = OffsetOf(shown.AdvancePos(shown.GetHeadPos(), low));
+    *endOffset = OffsetOf(shown.AdvancePos(shown.GetHeadPos(), high));
 }
 
 int AnsiWindowAccessible::selectionCount() const
@@ -114,9 +119,7 @@ int AnsiWindowAccessible::offsetAtPoint(const QPoint& point) const
 {
     AnsiWindow& window = Widget().Window();
     const QPoint at = Widget().mapFromGlobal(point);
-    const TextBuffer::Position p = window.PosFromPoint(at.x(), at.y());
-    const TextBuffer& shown = window.DisplayedBuffer();
-    return Clamped(shown.PlainOffset(shown.Offset(p)));
+    return OffsetOf(window.PosFromPoint(at.x(), at.y()));
 }
 
 QString AnsiWindowAccessible::attributes(int, int* startOffset, int* endOffset) const
@@ -138,11 +141,13 @@ void InstallAnsiWindowAccessibility()
 void AnnounceAppendedText(AnsiWindowWidget& widget, TextBuffer::Position from)
 {
     const TextBuffer& live = widget.Window().GetLiveBuffer();
+    const TextBuffer::Position start = live.TailStart(ACCESSIBLE_TEXT_BYTES);
+    if (live.Offset(from) < live.Offset(start))
+        from = start;
     const std::string added = live.PlainTextFrom(from);
     if (added.empty())
         return;
-    QAccessibleTextInsertEvent event(&widget, live.PlainOffset(live.Offset(from)),
-                                     FromBytes(added));
+    QAccessibleTextInsertEvent event(&widget, live.PlainDistance(start, from), FromBytes(added));
     QAccessible::updateAccessibility(&event);
 }
 

@@ -8,9 +8,14 @@ namespace steward {
 
 class AnsiWindowWidget;
 
-// A text window as a screen reader sees it: the whole live text as "Copy All" gives it, the
-// caret at its end, and the selection. The text is the game's, so a screen reader reads it but
-// does not edit it or move the caret or the selection, which the player's mouse alone sets.
+// A screen reader gets the last 256 KB of a window's text: more than a standard ring holds, and
+// little enough to be read again after every append of a long scrollback.
+constexpr std::uint32_t ACCESSIBLE_TEXT_BYTES = 256 * 1024;
+
+// A text window as a screen reader sees it: the live text as "Copy All" gives it (from
+// ACCESSIBLE_TEXT_BYTES before its end), the caret at its end, and the selection. The text is
+// the game's, so a screen reader reads it but does not edit it or move the caret or the
+// selection, which the player's mouse alone sets.
 class AnsiWindowAccessible : public QAccessibleWidget, public QAccessibleTextInterface {
   public:
     explicit AnsiWindowAccessible(AnsiWindowWidget* widget);
@@ -40,8 +45,8 @@ class AnsiWindowAccessible : public QAccessibleWidget, public QAccessibleTextInt
     AnsiWindowWidget& Widget() const;
     // The export, made again only when the window's text has changed.
     const QString& Text() const;
-    // A plain offset of the displayed buffer, within the text.
-    int Clamped(std::int32_t plain) const;
+    // Where a position of the displayed buffer lies in the text.
+    int OffsetOf(TextBuffer::Position position) const;
 
     mutable QString text_;
     mutable quint64 version_ = 0;

@@ -1,3 +1,4 @@
+#include "terminal/qt/AnsiWindowAccessible.h"
 #include "base/ColorCode.h"
 #include "terminal/qt/AnsiWindowWidget.h"
 
@@ -95,6 +96,26 @@ TEST_F(AccessibleWindowTest, TheTextIsTheExportAndEveryAppendIsAnnouncedWhereItL
         EXPECT_EQ(Text().text(0, Text().characterCount()), all);
         EXPECT_EQ(Text().cursorPosition(), all.size());
     }
+}
+
+TEST_F(AccessibleWindowTest, ALongScrollbackGivesItsLastPartFromALineStart)
+{
+    AnsiWindowWidget::Parts parts{settings};
+    parts.ScrollbackBytes = 1 << 20;
+    widget = AnsiWindowWidget::Create("Game Window", parts);
+    std::string block;
+    for (int i = 0; i < 1000; ++i)
+        block += "line " + std::to_string(i) + " of a long scrollback\r\n";
+    for (int i = 0; i < 30; ++i)
+        widget->Window().AppendText(block.c_str());
+    const QString all = QString::fromStdString(Live().ExportPlainText());
+    const QString heard = Text().text(0, Text().characterCount());
+    EXPECT_TRUE(all.endsWith(heard));
+    EXPECT_GT(heard.size(), int{ACCESSIBLE_TEXT_BYTES} * 9 / 10);
+    EXPECT_LE(heard.size(), int{ACCESSIBLE_TEXT_BYTES} * 11 / 10);
+    EXPECT_TRUE(heard.startsWith("line ")) << heard.left(20).toStdString();
+    const auto& [position, added] = inserted.back();
+    EXPECT_EQ(Text().text(position, position + added.size()), added);
 }
 
 struct SelectionCase {
