@@ -4,7 +4,7 @@
 # the accessibility tests switch Qt's accessibility on through qt6-base-private-dev.
 PACKAGES=(cmake ninja-build g++ qt6-base-dev qt6-multimedia-dev qt6-speech-dev qt6-declarative-dev
           qt6-base-private-dev libgl-dev libgtest-dev libgmock-dev libbenchmark-dev
-          fonts-dejavu-core xvfb xauth xdotool imagemagick)
+          fonts-dejavu-core xvfb xauth xdotool imagemagick python3)
 
 # The libFuzzer programs of fuzz/ need clang; only fuzz.sh and test.sh ask for them.
 FUZZ_PACKAGES=(clang-15 libfuzzer-15-dev)

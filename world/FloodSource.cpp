@@ -34,6 +34,8 @@ QByteArray FloodSource::Next(qint64 wanted)
         chunk += EndLine;
         done = true;
     }
+    sentBytes += chunk.size();
+    sentLines += chunk.count('\n');
     return chunk;
 }
 

@@ -14,6 +14,9 @@ class FloodSource {
     // Up to about `wanted` further bytes; the last chunk ends with the end line, then empty.
     QByteArray Next(qint64 wanted);
     bool Done() const { return done; }
+    // Bytes and line ends handed out so far.
+    qint64 SentBytes() const { return sentBytes; }
+    qint64 SentLines() const { return sentLines; }
 
   private:
     QByteArray Line();
@@ -21,4 +24,6 @@ class FloodSource {
     QRandomGenerator random;
     qint64 remaining;
     bool done = false;
+    qint64 sentBytes = 0;
+    qint64 sentLines = 0;
 };

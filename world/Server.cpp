@@ -6,10 +6,31 @@
 
 #include <QTimer>
 
+#include <chrono>
+#include <cstdio>
+
 namespace {
 
 // Flood output is topped up whenever the socket's queue falls below this.
 constexpr qint64 FloodLowWater = 64 * 1024;
+
+// One line on standard output behind the monotonic clock's microseconds, for a measurement
+// that reads this clock too.
+void PrintStamp(const QByteArray& what)
+{
+    const auto now = std::chrono::steady_clock::now().time_since_epoch();
+    std::printf(
+        "%lld %s\n",
+        static_cast<long long>(std::chrono::duration_cast<std::chrono::microseconds>(now).count()),
+        what.constData());
+    std::fflush(stdout);
+}
+
+struct FloodRun {
+    FloodSource source;
+    bool started = false;
+    bool lastStamped = false;
+};
 
 } // namespace
 
@@ -79,13 +100,41 @@ void Server::StartReplay(Connection& connection)
 
 void Server::StartFlood(Connection& connection)
 {
-    connection.stage = Connection::Stage::Passive;
-    auto source = std::make_shared<FloodSource>(options.floodBytes, options.seed);
-    auto topUp = [source](Connection* c) {
-        if (!source->Done() && c->QueuedOutput() < FloodLowWater)
-            c->Send(source->Next(FloodLowWater));
+    const bool readsLines = options.stamp || !options.floodTrigger.isEmpty();
+    // A flooded connection that is listened to never joins the game, so nothing else sends.
+    connection.stage = readsLines ? Connection::Stage::Playing : Connection::Stage::Passive;
+    auto run = std::make_shared<FloodRun>(FloodRun{FloodSource(options.floodBytes, options.seed)});
+    const bool stamp = options.stamp;
+    auto topUp = [run, stamp](Connection* c) {
+        if (!run->started)
+            return;
+        if (!run->source.Done()) {
+            if (c->QueuedOutput() < FloodLowWater) {
+                const bool first = run->source.SentBytes() == 0;
+                c->Send(run->source.Next(FloodLowWater));
+                if (first && stamp)
+                    PrintStamp("first");
+            }
+        } else if (stamp && !run->lastStamped && c->QueuedOutput() == 0) {
+            run->lastStamped = true;
+            PrintStamp("last " + QByteArray::number(run->source.SentBytes()) + ' ' +
+                       QByteArray::number(run->source.SentLines()));
+        }
     };
     connect(&connection, &Connection::Drained, this, topUp);
+    if (readsLines) {
+        const QByteArray trigger = options.floodTrigger.toLatin1();
+        connect(&connection, &Connection::LineReceived, this,
+                [run, stamp, trigger, topUp](Connection* c, const QByteArray& line) {
+                    if (stamp)
+                        PrintStamp("line " + line);
+                    if (!run->started && line == trigger) {
+                        run->started = true;
+                        topUp(c);
+                    }
+                });
+    }
+    run->started = options.floodTrigger.isEmpty();
     topUp(&connection);
 }
 

@@ -26,6 +26,9 @@ bool ParseWorldOptions(const QStringList& arguments, WorldOptions& options, QStr
         {"replay-pause", "Pause MS milliseconds between replay blocks.", "MS"},
         {"record", "Append every byte a client sends to FILE.", "FILE"},
         {"flood", "Send each connection BYTES of game text, then FLOOD-END.", "BYTES"},
+        {"flood-on", "Start a connection's flood when it sends the line TEXT.", "TEXT"},
+        {"stamp", "Print monotonic microseconds for the flood's first and last byte and for "
+                  "each line a flooded connection sends."},
     });
     parser.addHelpOption();
     if (!parser.parse(arguments)) {
@@ -67,5 +70,9 @@ bool ParseWorldOptions(const QStringList& arguments, WorldOptions& options, QStr
             return error = "bad --flood", false;
         options.floodBytes = number;
     }
+    options.floodTrigger = parser.value("flood-on");
+    options.stamp = parser.isSet("stamp");
+    if ((!options.floodTrigger.isEmpty() || options.stamp) && options.floodBytes == 0)
+        return error = "--flood-on and --stamp need --flood", false;
     return true;
 }

@@ -16,7 +16,9 @@ struct WorldOptions {
     int replayPauseMs = 0;
     QString recordFile;
     qint64 floodBytes = 0;
-    QString helpText; // set when --help asked for the usage instead of a server
+    QString floodTrigger; // when set, a connection's flood waits for this line from it
+    bool stamp = false;   // print a monotonic timestamp for the flood's ends and each line in
+    QString helpText;     // set when --help asked for the usage instead of a server
 };
 
 // Reads the command line (program name first); on a bad option returns false with a message.

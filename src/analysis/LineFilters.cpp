@@ -37,8 +37,13 @@ const ExitName ExitNames[] = {
     {"up", 0x200},        {"down", 0x400},      {"out", 0x100},
 };
 
+// Every phrase of the lists above ends so: a line without it, as most are, needs one scan.
+constexpr char SpeechTail[] = ", \"";
+
 bool ContainsAny(const char* text, const char* const* phrases, std::size_t count)
 {
+    if (!Contains(text, SpeechTail))
+        return false;
     for (std::size_t i = 0; i < count; ++i)
         if (Contains(text, phrases[i]))
             return true;

@@ -2,17 +2,21 @@
 
 #include "analysis/LocalClock.h"
 
-#include <QTime>
+#include <ctime>
 
 namespace steward {
 
-// The hour and minute of the system's local time.
+// The hour and minute of the system's local time. Asked for every arrival line, so it reads
+// the time zone once (localtime_r), not at every call as QTime::currentTime does.
 class QtLocalClock : public LocalClock {
   public:
     TimeOfDay Now() const override
     {
-        const QTime now = QTime::currentTime();
-        return {now.hour(), now.minute()};
+        const std::time_t now = std::time(nullptr);
+        std::tm local{};
+        if (!localtime_r(&now, &local))
+            return {};
+        return {local.tm_hour, local.tm_min};
     }
 };
 

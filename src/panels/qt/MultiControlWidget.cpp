@@ -25,12 +25,25 @@ MultiControl::MultiControl(QWidget* parent, std::unique_ptr<ControlHandler> hand
     InstallControlAccessibility();
     setAttribute(Qt::WA_OpaquePaintEvent);
     scratch_.reserve(SCRATCH_CAPACITY);
+    clock_.start();
+    repaintTimer_.setSingleShot(true);
+    connect(&repaintTimer_, &QTimer::timeout, this, [this] {
+        gate_.Drawn(clock_.elapsed());
+        update();
+    });
 }
 
+// A flood of status records changes the gauges many times per turn of the loop; the picture
+// follows once per frame.
 void MultiControl::Repaint()
 {
-    if (handler_->NeedsPaint())
+    if (!handler_->NeedsPaint())
+        return;
+    const std::int64_t wait = gate_.Request(clock_.elapsed());
+    if (wait == 0)
         update();
+    else if (wait > 0)
+        repaintTimer_.start(static_cast<int>(wait));
 }
 
 void MultiControl::Repaint(bool)

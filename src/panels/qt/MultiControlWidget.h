@@ -1,10 +1,13 @@
 #pragma once
 
+#include "base/FrameGate.h"
 #include "base/qt/AppearanceDialogs.h"
 #include "panels/MultiControl.h"
 #include "panels/qt/BitmapImage.h"
 
+#include <QElapsedTimer>
 #include <QString>
+#include <QTimer>
 #include <QWidget>
 
 #include <memory>
@@ -15,7 +18,7 @@ class PanelResources;
 
 // The one window kind of every panel control: it owns its handler with the handler's data and,
 // for the kinds that show a picture of their own, that picture. It paints only when the
-// handler says that the picture changed.
+// handler says that the picture changed, and at most once per display frame.
 class MultiControl : public QWidget, public GaugeView, public PanelView {
     Q_OBJECT
   public:
@@ -45,6 +48,9 @@ class MultiControl : public QWidget, public GaugeView, public PanelView {
     QtAppearanceDialogs qtDialogs_;
     AppearanceDialogs* dialogs_ = &qtDialogs_;
     int id_;
+    FrameGate gate_{DISPLAY_FRAME_MS};
+    QElapsedTimer clock_;
+    QTimer repaintTimer_;
 };
 
 } // namespace steward

@@ -42,9 +42,11 @@ AnsiWindowWidget::AnsiWindowWidget(const Parts& parts)
     connect(scrollBar_, &QScrollBar::actionTriggered, this, &AnsiWindowWidget::ScrollBarAction);
     repaintTimer_.setSingleShot(true);
     repaintTimer_.setInterval(REPAINT_INTERVAL_MS);
+    // Only the rows: the scroll bar and the find bar beside them repaint when they change.
     connect(&repaintTimer_, &QTimer::timeout, this, [this] {
         repaintPending_ = false;
-        update();
+        const Rect text = GetClientRect();
+        update(0, 0, text.right, text.bottom);
     });
     dragScrollTimer_.setInterval(DRAG_SCROLL_INTERVAL_MS);
     connect(&dragScrollTimer_, &QTimer::timeout, this, &AnsiWindowWidget::DragStep);

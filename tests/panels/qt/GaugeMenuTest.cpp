@@ -83,7 +83,7 @@ TEST(GaugeMenuTest, PickedColoursRepaintTheGaugeAndLeaveTheBoxesAlone)
     recorder.answer = QColor(0x65, 0x43, 0x21);
     EXPECT_TRUE(hp->MenuCommand(GAUGE_MENU_BACK_COLOR));
     EXPECT_FALSE(hp->MenuCommand(GAUGE_MENU_BACK_COLOR + 1));
-    QApplication::processEvents();
+    QTest::qWait(2 * DISPLAY_FRAME_MS); // a control paints at most once a frame
 
     EXPECT_EQ(panel.Hp.Colors().BarColor, 0x563412u);
     EXPECT_EQ(panel.Hp.Colors().GaugeBackColor, 0x214365u);

@@ -161,9 +161,9 @@ TEST_F(PanelControlsTest, ARecordPaintsOnlyWhatChanged)
         panel.Gold.SetText("3");
         panel.BodyFigure.SetState(FIGURE_STANDING);
         panel.WeaponIcon.SetState(1);
-        // The gauge's paint gives the value box its text, which paints on the next turn.
-        QApplication::processEvents();
-        QApplication::processEvents();
+        // The gauge's paint gives the value box its text, which paints on the next turn; each
+        // control paints at most once a frame.
+        QTest::qWait(4 * DISPLAY_FRAME_MS);
         if (hp == 40)
             counter.paints.clear();
     }
