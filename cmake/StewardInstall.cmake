@@ -22,4 +22,6 @@ set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
 set(CPACK_DEBIAN_PACKAGE_MAINTAINER "Thornmere Steward developers <steward@localhost>")
 set(CPACK_DEBIAN_PACKAGE_SECTION games)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
+# "Speak" needs a speech engine, which Qt finds as a plugin.
+set(CPACK_DEBIAN_PACKAGE_SUGGESTS "qt6-speech-speechd-plugin | qt6-speech-flite-plugin")
 include(CPack)

@@ -1,6 +1,7 @@
 #include "analysis/LinePipeline.h"
-#include "base/ByteText.h"
 
+#include "analysis/SpeechQueue.h"
+#include "base/ByteText.h"
 #include "config/Settings.h"
 #include "highlights/HighlightStore.h"
 #include "panels/StatusPanel.h"
@@ -169,6 +170,8 @@ bool LinePipeline::CompressThought(const char* line)
     }
     if (compact[0] == '\0')
         return false;
+    if (speech_)
+        speech_->Say(compact);
 
     if (windows_.ThoughtWindow) {
         TrimLineEnd(compact);

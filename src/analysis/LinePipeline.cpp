@@ -28,7 +28,8 @@ LinePipeline::LinePipeline(const Parts& parts)
     : options_(parts.Options), sessionLog_(parts.SessionLog), highlights_(parts.Highlights),
       sounds_(parts.Sounds), windows_(parts.Windows), queue_(parts.Queue), script_(parts.Script),
       panel_(parts.Panel), words_(parts.Words), clock_(parts.Clock), frame_(parts.Frame),
-      ColoredCopy(new char[LINE_COPY_SIZE]()), PlainCopy(new char[LINE_COPY_SIZE]())
+      speech_(parts.Speech), ColoredCopy(new char[LINE_COPY_SIZE]()),
+      PlainCopy(new char[LINE_COPY_SIZE]())
 {
 }
 

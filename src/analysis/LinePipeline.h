@@ -17,6 +17,7 @@ class FrameQueue;
 class Gauge;
 class HighlightStore;
 class HighlightSounds;
+class SpeechQueue;
 struct ChildWindows;
 struct Settings;
 struct ScriptWaitState;
@@ -54,7 +55,8 @@ class LinePipeline : public GameLineSink {
         StatusPanel& Panel;
         Tokenizer& Words; // the program's one word splitter
         const LocalClock& Clock;
-        CountdownListener* Frame; // hears the end of a round time countdown
+        CountdownListener* Frame;      // hears the end of a round time countdown
+        SpeechQueue* Speech = nullptr; // says thoughts, arrivals and low hit points aloud
     };
 
     explicit LinePipeline(const Parts& parts);
@@ -84,6 +86,8 @@ class LinePipeline : public GameLineSink {
 
   private:
     void RouteStarText(char* line, const char* name, const char* built);
+    // The "Hp:" gauge changed.
+    void HpChanged();
     void ParseExits(const char* text);
 
     const Settings& options_;
@@ -97,6 +101,7 @@ class LinePipeline : public GameLineSink {
     Tokenizer& words_;
     const LocalClock& clock_;
     CountdownListener* frame_;
+    SpeechQueue* speech_;
 
     std::unique_ptr<char[]> ColoredCopy;
     std::unique_ptr<char[]> PlainCopy;

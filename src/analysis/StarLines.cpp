@@ -1,4 +1,6 @@
 #include "analysis/LinePipeline.h"
+
+#include "analysis/SpeechQueue.h"
 #include "base/ByteText.h"
 
 #include "config/Settings.h"
@@ -40,6 +42,12 @@ void TrimLineEnd(char* text)
         text[--length] = '\0';
 }
 
+void LinePipeline::HpChanged()
+{
+    if (speech_)
+        speech_->WatchHp(panel_.Hp.GetValue(), panel_.Hp.GetMax());
+}
+
 const char* LinePipeline::ClockText()
 {
     const TimeOfDay now = clock_.Now();
@@ -61,14 +69,17 @@ bool LinePipeline::HandleStarLine(char* line, std::size_t capacity)
         const char* word = words_.NthToken(line, 3);
         if (!word)
             return true;
-        if (EqualNoCase(word, "hit"))
+        if (EqualNoCase(word, "hit")) {
             SetGaugeValues(panel_.Hp, 0, maximum, current);
-        else if (EqualNoCase(word, "fatigue:"))
+            HpChanged();
+        } else if (EqualNoCase(word, "fatigue:")) {
             SetGaugeValues(panel_.Ftg, 0, maximum, current);
+        }
         return true;
     }
     if (Contains(line, "You are fully healed.")) {
         panel_.Hp.Fill();
+        HpChanged();
         AppendCut(line, capacity, ">");
         return false;
     }
@@ -104,6 +115,8 @@ void LinePipeline::RouteStarText(char* line, const char* name, const char* built
 {
     if (options_.OnlyListedArrivals && !highlights_.IsNameListed(name))
         return;
+    if (speech_)
+        speech_->Say(built);
     if (windows_.ArrivalWindow) {
         PrintToWindow(windows_.ArrivalWindow, built);
         return;

@@ -1,5 +1,6 @@
 #include "analysis/LinePipeline.h"
 
+#include "analysis/SpeechQueue.h"
 #include "base/HexDigits.h"
 #include "config/BufferedLog.h"
 #include "config/Settings.h"
@@ -95,6 +96,7 @@ void LinePipeline::ParseStatusRecord(const char* text)
         return;
 
     SetPair(panel_.Hp, text, HP_NOW, HP_MAX);
+    HpChanged();
     SetPair(panel_.Ftg, text, FTG_NOW, FTG_MAX);
     SetPair(panel_.Psi, text, PSI_NOW, PSI_MAX);
     SetPair(panel_.Web, text, WEB_NOW, WEB_MAX);

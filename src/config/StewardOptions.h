@@ -19,6 +19,7 @@ enum StewardOption : int {
     GAME_SCROLLBACK_KB,
     THOUGHT_SCROLLBACK_KB,
     ARRIVAL_SCROLLBACK_KB,
+    SPEAK_HP_BELOW,
     STEWARD_OPTION_COUNT,
 };
 
@@ -48,6 +49,8 @@ constexpr std::array<StewardOptionRow, STEWARD_OPTION_COUNT> StewardOptionTable 
      "Thought window scrollback in KB, from the next start (0: standard)", 0, 0, MAX_SCROLLBACK_KB},
     {ARRIVAL_SCROLLBACK_KB, "ArrivalScrollback",
      "Arrival window scrollback in KB, from the next start (0: standard)", 0, 0, MAX_SCROLLBACK_KB},
+    // Percent of the maximum; 0 never speaks the hit points.
+    {SPEAK_HP_BELOW, "SpeakHpBelow", "Speak when Hp falls below (percent)", 25, 0, 100},
 }};
 
 // The scrollback a window asks for, in bytes; a size below the window's standard one keeps the

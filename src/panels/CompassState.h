@@ -22,6 +22,9 @@ class CompassState {
         return index < COMPASS_ZONES ? ExitStates[index] : EXIT_NONE;
     }
     std::uint32_t LastMasks() const { return lastMasks_; }
+    // The lit exits in the order of the zones, such as "north, up (special)", or "no exits";
+    // cut to size.
+    void ExitsText(char* out, std::size_t size) const;
 
   private:
     ExitState ExitStates[COMPASS_ZONES] = {};

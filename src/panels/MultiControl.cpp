@@ -1,6 +1,7 @@
 #include "panels/MultiControl.h"
 
 #include <algorithm>
+#include <cstdio>
 #include <cstring>
 
 namespace steward {
@@ -56,6 +57,12 @@ int NextControlId()
 {
     static int next = FIRST_CONTROL_ID;
     return next++;
+}
+
+void ControlHandler::AccessibleValue(char* out, std::size_t size) const
+{
+    if (size > 0)
+        out[0] = '\0';
 }
 
 TextBoxHandler::TextBoxHandler(const char* text, std::uint32_t boxColor) : BoxColor(boxColor)
@@ -135,6 +142,16 @@ void GaugeHandler::Paint(PanelCanvas& canvas, int width, int height)
         DrawTextStacked(canvas, font_, {r.left, r.top, r.right + 2, r.bottom}, text,
                         colors.GaugeTextColor);
     }
+}
+
+void GaugeHandler::AccessibleValue(char* out, std::size_t size) const
+{
+    const long scale = (gauge_.GetFlags() & GF_SECONDS) ? 1000 : 1;
+    const long value = gauge_.GetValue() / scale;
+    if (gauge_.GetFlags() & GF_SHOWMAX)
+        std::snprintf(out, size, "%ld of %ld", value, gauge_.GetMax() / scale);
+    else
+        std::snprintf(out, size, "%ld", value);
 }
 
 void CompassHandler::Paint(PanelCanvas& canvas, int, int)

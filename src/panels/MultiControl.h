@@ -5,6 +5,7 @@
 #include "panels/PanelStates.h"
 
 #include <array>
+#include <cstddef>
 #include <cstdint>
 
 namespace steward {
@@ -24,7 +25,14 @@ class ControlHandler {
     virtual bool NeedsPaint() const = 0;
     // The gauge whose popup menu the control shows on a right click; none for other kinds.
     virtual Gauge* MenuGauge() { return nullptr; }
+    // The control's name for a screen reader; empty for a control with nothing to tell.
+    virtual const char* AccessibleName() const { return ""; }
+    // What a screen reader reads as the control's value, written into out; empty for none.
+    virtual void AccessibleValue(char* out, std::size_t size) const;
 };
+
+// A screen reader's value text is cut to this size.
+constexpr std::size_t ACCESSIBLE_VALUE_SIZE = 128;
 
 constexpr std::uint32_t BOX_TEXT_COLOR = 0xEFEFEF;
 constexpr std::uint32_t LABEL_BOX_COLOR = 0x5F5F5F;
@@ -42,6 +50,7 @@ class TextBoxHandler : public ControlHandler {
     void SetColor(std::uint32_t color) { BoxColor = color; }
     void Paint(PanelCanvas& canvas, int width, int height) override;
     bool NeedsPaint() const override;
+    const char* AccessibleName() const override { return text_.Text(); }
 
   private:
     PanelText own_;
@@ -62,6 +71,9 @@ class GaugeHandler : public ControlHandler {
     void Paint(PanelCanvas& canvas, int width, int height) override;
     bool NeedsPaint() const override;
     Gauge* MenuGauge() override { return &gauge_; }
+    const char* AccessibleName() const override { return gauge_.Label(); }
+    // The value, and "of" the maximum where the gauge shows it; seconds for a time gauge.
+    void AccessibleValue(char* out, std::size_t size) const override;
 
   private:
     struct Look {
@@ -88,6 +100,11 @@ class CompassHandler : public ControlHandler {
     explicit CompassHandler(CompassState& compass) : compass_(compass) {}
     void Paint(PanelCanvas& canvas, int width, int height) override;
     bool NeedsPaint() const override;
+    const char* AccessibleName() const override { return "Compass"; }
+    void AccessibleValue(char* out, std::size_t size) const override
+    {
+        compass_.ExitsText(out, size);
+    }
 
   private:
     CompassState& compass_;

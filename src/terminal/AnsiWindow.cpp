@@ -69,17 +69,11 @@ std::uint16_t AnsiWindow::GetText(char* out, std::uint16_t room) const
 
 int AnsiWindow::AppendText(const char* text, bool lineFeedFirst)
 {
-    const bool track = !Frozen;
-    if (lineFeedFirst)
-        LiveBuffer->AppendText("\n", track);
-    if (prompt_) {
-        const PromptAction action = ApplyPromptRule(*prompt_, text);
-        if (action == PromptAction::Drop)
-            return 1;
-        if (action == PromptAction::BreakThenAppend)
-            LiveBuffer->AppendText("\n", track);
-    }
-    LiveBuffer->AppendText(text, track);
+    const TextBuffer::Position before = LiveBuffer->GetWritePos();
+    const bool stored = StoreText(text, lineFeedFirst);
+    host_.TextAppended(before);
+    if (!stored)
+        return 1;
     if (Frozen) {
         if (CurrentSplit().TailRows > 0)
             host_.InvalidateRect(false);
@@ -89,6 +83,22 @@ int AnsiWindow::AppendText(const char* text, bool lineFeedFirst)
     if (!options_.BufferedUpdates)
         host_.UpdateWindow();
     return 1;
+}
+
+bool AnsiWindow::StoreText(const char* text, bool lineFeedFirst)
+{
+    const bool track = !Frozen;
+    if (lineFeedFirst)
+        LiveBuffer->AppendText("\n", track);
+    if (prompt_) {
+        const PromptAction action = ApplyPromptRule(*prompt_, text);
+        if (action == PromptAction::Drop)
+            return false;
+        if (action == PromptAction::BreakThenAppend)
+            LiveBuffer->AppendText("\n", track);
+    }
+    LiveBuffer->AppendText(text, track);
+    return true;
 }
 
 void AnsiWindow::EndScrollback()

@@ -161,6 +161,8 @@ class AnsiWindow : public FontTarget {
     AnsiWindow(const AnsiWindowParts& parts, std::unique_ptr<TextBuffer> live,
                std::unique_ptr<TextBuffer> view);
 
+    // The appends of AppendText; false when the prompt rule dropped the text.
+    bool StoreText(const char* text, bool lineFeedFirst);
     void LoadColors(const char* profilePath);
     void LoadFont(const char* profilePath);
     void Layout();

@@ -28,6 +28,9 @@ class AnsiWindowHost : public BellListener, public PlacementTarget {
     // Asks for a paint later, when the queue is idle; erase also clears the two bands left of
     // and above the rows.
     virtual void InvalidateRect(bool erase) = 0;
+    // The live text grew from position on, which was its write position before the append;
+    // a host without a screen reader to tell has nothing to do.
+    virtual void TextAppended(TextBuffer::Position) {}
     virtual void SetScrollRange(std::int32_t minimum, std::int32_t maximum, bool redraw) = 0;
     virtual void SetScrollPos(std::int32_t position, bool redraw) = 0;
     // Whether this window is the active child of the text area.

@@ -421,6 +421,18 @@ std::int32_t TextBuffer::LineIndexOf(Position position) const
     return CountLineEnds(ring + HeadPos, Capacity - HeadPos) + CountLineEnds(ring, position);
 }
 
+TextBuffer::Position TextBuffer::PlainStart() const
+{
+    Position p = HeadPos;
+    if (!Wrapped) {
+        // The initial blank lines, and whatever followed them without text.
+        while (p != WritePos && Storage[p] == HARD_LINE_END) {
+            p = Next(p);
+        }
+    }
+    return p;
+}
+
 std::size_t TextBuffer::CopyAsText(char* out, std::size_t room) const
 {
     if (room < CLOSING_SIZE) {
@@ -429,13 +441,7 @@ std::size_t TextBuffer::CopyAsText(char* out, std::size_t room) const
         }
         return 0;
     }
-    Position p = HeadPos;
-    if (!Wrapped) {
-        // The initial blank lines, and whatever followed them without text.
-        while (p != WritePos && Storage[p] == HARD_LINE_END) {
-            p = Next(p);
-        }
-    }
+    Position p = PlainStart();
     std::size_t length = 0;
     while (p != WritePos && room - length > CLOSING_SIZE) {
         const unsigned char b = Storage[p];

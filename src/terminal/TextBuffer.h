@@ -142,6 +142,15 @@ class TextBuffer {
     // The whole text as plain text, as CopyAsText gives it with room for Capacity + 8192
     // bytes, colour codes dropped.
     std::string ExportPlainText() const;
+    // Where the text's last `bytes` bytes begin, moved on to the start of a line (unless no line
+    // starts there); where ExportPlainText begins when the text is no longer than that.
+    Position TailStart(std::uint32_t bytes) const;
+    // The plain characters that the text from `from` up to `to` becomes, as ExportPlainText
+    // gives it; 0 when `to` does not lie behind `from`.
+    std::int32_t PlainDistance(Position from, Position to) const;
+    // The text from position to the end, as ExportPlainText gives it before its closing line
+    // end: what an append that began at position added.
+    std::string PlainTextFrom(Position position) const;
     // Both copies need equal capacities; between different ones nothing is copied and the
     // result is false.
     bool CopyBufferTo(TextBuffer& other) const;
@@ -150,6 +159,8 @@ class TextBuffer {
   private:
     TextBuffer(std::uint32_t capacity, std::unique_ptr<unsigned char[]> storage);
 
+    // Where the plain text begins: the first byte behind the blank lines of a fresh ring.
+    Position PlainStart() const;
     void AppendByte(unsigned char b);
     void Store(unsigned char b);
     void StartLine();

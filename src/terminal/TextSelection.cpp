@@ -21,6 +21,12 @@ bool IsTerminator(unsigned char b)
     return b == HARD_LINE_END || b == SOFT_LINE_END;
 }
 
+// The characters that one byte of the ring becomes in plain text.
+std::int32_t PlainWidth(unsigned char b)
+{
+    return IsColorCode(b) ? 0 : b == HARD_LINE_END ? 2 : 1;
+}
+
 // Appends one byte of the ring as plain text.
 void AppendPlain(std::string& text, unsigned char b)
 {
@@ -136,6 +142,35 @@ std::string TextBuffer::ExportPlainText() const
     for (std::size_t i = 0; i < length; ++i)
         if (!IsColorCode(static_cast<unsigned char>(copy[i])))
             text.push_back(copy[i]);
+    return text;
+}
+
+TextBuffer::Position TextBuffer::TailStart(std::uint32_t bytes) const
+{
+    const Position start = PlainStart();
+    if (static_cast<std::uint32_t>(Offset(WritePos) - Offset(start)) <= bytes)
+        return start;
+    const Position cut = (WritePos + Capacity - bytes) % Capacity;
+    for (Position p = cut; p != WritePos; p = Next(p))
+        if (Storage[p] == HARD_LINE_END)
+            return Next(p);
+    return cut;
+}
+
+std::int32_t TextBuffer::PlainDistance(Position from, Position to) const
+{
+    std::int64_t plain = 0;
+    Position p = from;
+    for (std::int32_t n = Offset(to) - Offset(from); n > 0 && p != WritePos; --n, p = Next(p))
+        plain += PlainWidth(Storage[p]);
+    return static_cast<std::int32_t>(std::min<std::int64_t>(plain, INT32_MAX));
+}
+
+std::string TextBuffer::PlainTextFrom(Position position) const
+{
+    std::string text;
+    for (Position p = position % Capacity; p != WritePos; p = Next(p))
+        AppendPlain(text, Storage[p]);
     return text;
 }
 

@@ -18,6 +18,9 @@ QChar Typable(QChar c)
 CommandLine::CommandLine(QWidget* parent) : QLineEdit(parent)
 {
     setObjectName("CommandLine");
+    // A screen reader names the field, which has no label beside it.
+    setAccessibleName(QStringLiteral("Command line"));
+    setAccessibleDescription(QStringLiteral("Type a command for the game and press Enter."));
     setMaxLength(COMMAND_LINE_LIMIT);
     connect(this, &QLineEdit::textEdited, this, &CommandLine::ReplaceUntypable);
 }

@@ -159,16 +159,21 @@ void PathsPage::Apply()
     }
 }
 
-StewardPage::StewardPage(StewardOptions& options, const ConfigFiles& files)
-    : options_(options), files_(files)
+StewardPage::StewardPage(StewardOptions& options, const ConfigFiles& files, OptionGate gate)
+    : options_(options), files_(files), gate_(std::move(gate))
 {
     auto* grid = new QGridLayout(this);
     for (const StewardOptionRow& row : StewardOptionTable) {
         const QString label = QString::fromLatin1(row.Label);
         if (row.Minimum == 0 && row.Maximum == 1) {
-            checks_[row.Option] = new QCheckBox(label, this);
-            checks_[row.Option]->setChecked(options_.IsOn(row.Option));
-            grid->addWidget(checks_[row.Option], row.Option, 0, 1, 2);
+            QCheckBox* check = new QCheckBox(label, this);
+            check->setChecked(options_.IsOn(row.Option));
+            connect(check, &QCheckBox::toggled, this, [this, check, option = row.Option](bool on) {
+                if (on && gate_ && !gate_(option, this))
+                    check->setChecked(false);
+            });
+            grid->addWidget(check, row.Option, 0, 1, 2);
+            checks_[row.Option] = check;
             continue;
         }
         auto* number = new QSpinBox(this);
@@ -192,23 +197,24 @@ void StewardPage::Apply()
               files_.MainIni.c_str());
 }
 
-OptionsSheet::OptionsSheet(OptionsTarget target, FolderPicker pick, QWidget* owner)
-    : TabbedSheet(owner, QStringLiteral("Configuration Options"), TAB_TITLES,
-                  [target, pick = std::move(pick)](int tab) -> OptionsPage* {
-                      if (tab == 0)
-                          return new SettingsPage(target.Profile.Settings);
-                      if (tab == 1)
-                          return new InventoryPage(target.Profile);
-                      if (tab == 2)
-                          return new PathsPage(target.Files, pick);
-                      return new StewardPage(target.Steward, target.Files);
-                  })
+OptionsSheet::OptionsSheet(OptionsTarget target, FolderPicker pick, QWidget* owner, OptionGate gate)
+    : TabbedSheet(
+          owner, QStringLiteral("Configuration Options"), TAB_TITLES,
+          [target, pick = std::move(pick), gate = std::move(gate)](int tab) -> OptionsPage* {
+              if (tab == 0)
+                  return new SettingsPage(target.Profile.Settings);
+              if (tab == 1)
+                  return new InventoryPage(target.Profile);
+              if (tab == 2)
+                  return new PathsPage(target.Files, pick);
+              return new StewardPage(target.Steward, target.Files, gate);
+          })
 {
 }
 
-bool ShowOptions(QWidget* owner, OptionsTarget target, FolderPicker pick)
+bool ShowOptions(QWidget* owner, OptionsTarget target, FolderPicker pick, OptionGate gate)
 {
-    OptionsSheet sheet(target, std::move(pick), owner);
+    OptionsSheet sheet(target, std::move(pick), owner, std::move(gate));
     CenterWindow(sheet);
     return sheet.exec() == QDialog::Accepted;
 }

@@ -70,11 +70,15 @@ class PathsPage : public OptionsPage {
     std::array<QLineEdit*, PATH_COUNT> edits_{};
 };
 
+// Asked when the player ticks an option's check box: false unticks it again, after the gate
+// has told the player why the option cannot be on.
+using OptionGate = std::function<bool(StewardOption option, QWidget* page)>;
+
 // The program's own additions: a check box or a number field per option, written to the main
 // ini on OK.
 class StewardPage : public OptionsPage {
   public:
-    StewardPage(StewardOptions& options, const ConfigFiles& files);
+    StewardPage(StewardOptions& options, const ConfigFiles& files, OptionGate gate = {});
     void Apply() override;
     // The check box of a row from 0 to 1, otherwise null.
     QCheckBox* Check(StewardOption option) const { return checks_[option]; }
@@ -84,6 +88,7 @@ class StewardPage : public OptionsPage {
   private:
     StewardOptions& options_;
     const ConfigFiles& files_;
+    OptionGate gate_;
     std::array<QCheckBox*, STEWARD_OPTION_COUNT> checks_{};
     std::array<QSpinBox*, STEWARD_OPTION_COUNT> numbers_{};
 };
@@ -100,10 +105,10 @@ struct OptionsTarget {
 class OptionsSheet : public TabbedSheet {
     Q_OBJECT
   public:
-    OptionsSheet(OptionsTarget target, FolderPicker pick, QWidget* owner);
+    OptionsSheet(OptionsTarget target, FolderPicker pick, QWidget* owner, OptionGate gate = {});
 };
 
 // Runs the sheet modally, centred on the screen; true on OK.
-bool ShowOptions(QWidget* owner, OptionsTarget target, FolderPicker pick);
+bool ShowOptions(QWidget* owner, OptionsTarget target, FolderPicker pick, OptionGate gate = {});
 
 } // namespace steward

@@ -1,6 +1,7 @@
 #include "panels/qt/MultiControlWidget.h"
 
 #include "base/qt/QtColor.h"
+#include "panels/qt/ControlAccessible.h"
 #include "panels/qt/QtPanelCanvas.h"
 
 #include <QMenu>
@@ -21,6 +22,7 @@ MultiControl::MultiControl(QWidget* parent, std::unique_ptr<ControlHandler> hand
     : QWidget(parent), handler_(std::move(handler)), resources_(resources),
       picture_(pictureName, true), id_(NextControlId())
 {
+    InstallControlAccessibility();
     setAttribute(Qt::WA_OpaquePaintEvent);
     scratch_.reserve(SCRATCH_CAPACITY);
     clock_.start();

@@ -29,6 +29,8 @@
 #include <QCoreApplication>
 #include <QThread>
 
+#include <cstdio>
+
 namespace steward {
 
 namespace {
@@ -40,13 +42,16 @@ constexpr char PROFILE_NOT_SAVED_TEXT[] =
 
 Client::Client(ClientOptions options, Desktop& desktop)
     : options_(std::move(options)), desktop_(desktop), sounds_(desktop.Sounds()),
+      speech_(voice_, session_.Steward),
       link_({session_.Profile.Settings, session_.SessionLog, highlights_, sounds_, session_.Windows,
-             *this, session_.Script, session_.Panel, session_.Words, clock_, nullptr},
+             *this, session_.Script, session_.Panel, session_.Words, clock_, nullptr, &speech_},
             session_.PacketDump, socket_),
       socket_(link_), logs_(session_, link_, desktop)
 {
     session_.Files = options_.Files;
     session_.Steward = StewardOptions::Load(session_.Files.MainIni);
+    voice_.SetFinished([this] { speech_.Spoken(); });
+    voice_.SetFailed([this] { KeepSpeakOffWithoutVoice(); });
     EnsureProfileFiles(session_.Files);
     sounds_.SetSoundPath(SoundPath(session_.Files));
     for (std::size_t i = 0; i < PROFILE_GAUGE_COUNT; ++i)
@@ -89,7 +94,7 @@ Client::Client(ClientOptions options, Desktop& desktop)
                              [this](int command) { OnCommand(command); }});
     dialogs_ = std::make_unique<FrameDialogs>(
         FrameDialogs::Links{*frame_, session_, desktop_, keyboard_->Macros, keyboard_->State,
-                            highlights_, sounds_, *profile_, *keyboardHost_});
+                            highlights_, sounds_, *profile_, *keyboardHost_, voice_});
     reconnect_ = std::make_unique<AutoReconnect>(link_, session_);
     replay_ = std::make_unique<ReplayPlayer>(
         link_, [this](const char* text) { link_.PrintToGameWindow(text); });
@@ -124,6 +129,7 @@ bool Client::Start()
     if (!link_.IsDisconnected() && session_.Profile.Settings.AutoLog)
         OnCommand(CMD_OPEN_DATED_LOG);
     AnnouncePacketDump(session_.PacketDump, logs_);
+    KeepSpeakOffWithoutVoice();
     PlayStartMusic(sounds_, session_.Profile.Settings.SquelchSounds != 0);
     frame_->activateWindow();
     characters_->BuildCharacterMenu();
@@ -179,6 +185,17 @@ void Client::OnDropped()
     link_.PrintToGameWindow(DROPPED_TEXT);
     if (!closed_)
         reconnect_->Dropped();
+}
+
+// The main ini keeps "Speak" on for a machine that has a voice; here it is off for this run.
+void Client::KeepSpeakOffWithoutVoice()
+{
+    if (!session_.Steward.IsOn(SPEAK) || voice_.Available())
+        return;
+    session_.Steward.Set(SPEAK, 0);
+    char text[sizeof NO_VOICE_TEXT + 16];
+    std::snprintf(text, sizeof text, "\r\n*** %s\r\n", NO_VOICE_TEXT);
+    link_.PrintToGameWindow(text);
 }
 
 void Client::OnLoopTurn()

@@ -1,6 +1,8 @@
 #pragma once
 
+#include "analysis/SpeechQueue.h"
 #include "analysis/qt/QtLocalClock.h"
+#include "analysis/qt/QtSpeech.h"
 #include "base/FrameQueue.h"
 #include "connection/qt/QtGameSocket.h"
 #include "highlights/HighlightSound.h"
@@ -84,6 +86,7 @@ class Client : public QObject, private FrameQueue, private RestSender {
     void OnDropped();
     void OnWheel(bool shift, int amount);
     void MakeScriptControl();
+    void KeepSpeakOffWithoutVoice();
     void OnLoopTurn();
 
     // Commands.
@@ -111,6 +114,9 @@ class Client : public QObject, private FrameQueue, private RestSender {
     QtLocalClock clock_;
     HighlightStore highlights_;
     SoundFolder sounds_;
+    // The voice of the "Speak" option, fed by the line analysis.
+    QtSpeech voice_;
+    SpeechQueue speech_;
     GameLink link_;
     // Reports every received block straight to the link.
     QtGameSocket socket_;

@@ -1,5 +1,6 @@
 #include "session/qt/FrameDialogs.h"
 
+#include "analysis/qt/QtSpeech.h"
 #include "base/ByteText.h"
 #include "commands/qt/MacroSheet.h"
 #include "config/qt/OptionsSheet.h"
@@ -39,9 +40,16 @@ void FrameDialogs::EditOptions()
 {
     Desktop& dialogs = links_.Dialogs;
     Session& session = links_.State;
+    SpeechEngine& voice = links_.Voice;
     ShowOptions(
         &links_.Frame, {session.Profile, session.Steward, session.Files},
-        [&dialogs](QWidget* owner, const char* title) { return dialogs.PickFolder(owner, title); });
+        [&dialogs](QWidget* owner, const char* title) { return dialogs.PickFolder(owner, title); },
+        [&dialogs, &voice](StewardOption option, QWidget* page) {
+            if (option != SPEAK || voice.Available())
+                return true;
+            dialogs.ShowMessage(page, NO_VOICE_TEXT, "Speak");
+            return false;
+        });
     links_.Sounds.SetSoundPath(SoundPath(session.Files));
 }
 

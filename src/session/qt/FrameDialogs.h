@@ -9,6 +9,7 @@ class MacroStore;
 class QtKeyboardHost;
 class QtProfileHost;
 class SoundFolder;
+class SpeechEngine;
 struct CommandState;
 struct Session;
 
@@ -26,6 +27,8 @@ class FrameDialogs {
         SoundFolder& Sounds;
         QtProfileHost& Profile;
         QtKeyboardHost& Keyboard;
+        // Asked before "Speak" may be ticked.
+        SpeechEngine& Voice;
     };
 
     explicit FrameDialogs(const Links& links) : links_(links) {}
@@ -34,7 +37,8 @@ class FrameDialogs {
     void EditMacros();
     // The highlight sheet over the Game window's colours.
     void EditHighlights();
-    // The options sheet; the sounds follow a new Sound Path at once.
+    // The options sheet; the sounds follow a new Sound Path at once, and "Speak" stays off
+    // without a voice.
     void EditOptions();
     // Asks whom to drag: OK takes the field as DragTarget, "Stop Dragging" empties it.
     void AskDragTarget();

@@ -3,8 +3,10 @@
 #include "base/Trace.h"
 #include "base/qt/QtColor.h"
 #include "terminal/Wheel.h"
+#include "terminal/qt/AnsiWindowAccessible.h"
 #include "terminal/qt/FontRecord.h"
 
+#include <QAccessible>
 #include <QApplication>
 #include <QLineEdit>
 #include <QMdiArea>
@@ -17,6 +19,7 @@ namespace steward {
 
 std::unique_ptr<AnsiWindowWidget> AnsiWindowWidget::Create(const char* name, const Parts& parts)
 {
+    InstallAnsiWindowAccessibility();
     std::unique_ptr<AnsiWindowWidget> widget(new AnsiWindowWidget(parts));
     widget->setWindowTitle(QString::fromLatin1(name));
     widget->window_ = AnsiWindow::Create(
@@ -58,9 +61,18 @@ Rect AnsiWindowWidget::GetClientRect() const
 
 void AnsiWindowWidget::InvalidateRect(bool)
 {
+    ++textVersion_;
     repaintPending_ = true;
     if (!repaintTimer_.isActive())
         repaintTimer_.start();
+}
+
+// Nothing is made for a screen reader unless one listens.
+void AnsiWindowWidget::TextAppended(TextBuffer::Position from)
+{
+    ++textVersion_;
+    if (QAccessible::isActive())
+        AnnounceAppendedText(*this, from);
 }
 
 void AnsiWindowWidget::UpdateWindow()

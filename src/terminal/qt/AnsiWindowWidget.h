@@ -70,6 +70,9 @@ class AnsiWindowWidget : public QWidget, public AnsiWindowHost {
     void MenuCommand(int id);
     // The popup menu's items for the window as it is now; each action's data is its command.
     void FillPopupMenu(QMenu& menu);
+    // Changes whenever the window's text or its look may have changed, so that a screen
+    // reader's copy of the text is made again.
+    quint64 TextVersion() const { return textVersion_; }
     // "Find...": the find bar below the text, its field focused.
     void OpenFindBar();
     FindBar* Finder() const { return findBar_; }
@@ -78,6 +81,7 @@ class AnsiWindowWidget : public QWidget, public AnsiWindowHost {
     // frame can restore it through ReadPlacement with this widget as the target.
     Rect GetClientRect() const override;
     void InvalidateRect(bool erase) override;
+    void TextAppended(TextBuffer::Position from) override;
     void UpdateWindow() override;
     void SetScrollRange(std::int32_t minimum, std::int32_t maximum, bool redraw) override;
     void SetScrollPos(std::int32_t position, bool redraw) override;
@@ -129,6 +133,7 @@ class AnsiWindowWidget : public QWidget, public AnsiWindowHost {
     std::int32_t scrollPos_ = 0;
     QTimer repaintTimer_;
     bool repaintPending_ = false;
+    quint64 textVersion_ = 0;
     // Repeats the last drag step while the pointer stays outside the window.
     QTimer dragScrollTimer_;
     QPoint dragPoint_;
