@@ -44,6 +44,23 @@ run_suite() {
     [ "$fail" -eq 0 ] || status=1
 }
 
+# ./test.sh --coverage: the suite once, built with gcov's counters, then the line and branch
+# coverage of src/ per file in build/coverage/coverage.txt.
+if [ "${1:-}" = "--coverage" ]; then
+    ensure_packages gcovr || exit 1
+    find "$ROOT/build/coverage" -name '*.gcda' -delete 2>/dev/null
+    run_suite "coverage" "$ROOT/build/coverage" -DCMAKE_BUILD_TYPE=Debug -DSTEWARD_COVERAGE=ON \
+        -DSTEWARD_BENCH=OFF
+    gcovr --root "$ROOT" --filter "$ROOT/src/" --object-directory "$ROOT/build/coverage" -j 2 \
+        --exclude-throw-branches --exclude-unreachable-branches \
+        --json-summary "$ROOT/build/coverage/summary.json" || status=1
+    "$ROOT/tools/coverage_report.py" "$ROOT/build/coverage/summary.json" \
+        >"$ROOT/build/coverage/coverage.txt" || status=1
+    tail -n 1 "$ROOT/build/coverage/coverage.txt"
+    echo "$passed passed, $failed failed"
+    exit $status
+fi
+
 run_suite "release" "$ROOT/build/release" -DCMAKE_BUILD_TYPE=Release
 run_suite "sanitize" "$ROOT/build/sanitize" -DCMAKE_BUILD_TYPE=Debug -DSTEWARD_SANITIZE=ON -DSTEWARD_BENCH=OFF
 # Each fuzz program over its corpus for a few seconds, and over every input that once failed.
