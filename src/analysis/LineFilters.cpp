@@ -151,9 +151,13 @@ const char* LinkChannel(const char* line)
 bool LinePipeline::CompressThought(const char* line)
 {
     constexpr std::size_t pickUpLength = 12;
-    char compact[THOUGHT_BUFFER_SIZE] = {};
-    char name[THOUGHT_BUFFER_SIZE];
+    // Every form of a thought quotes it, so most lines end their test here.
     const char* quote = std::strchr(line, '"');
+    if (!quote)
+        return false;
+    char compact[THOUGHT_BUFFER_SIZE];
+    compact[0] = '\0';
+    char name[THOUGHT_BUFFER_SIZE];
     const bool pickUp = StartsWith(line, "You pick up ");
 
     if (pickUp && Contains(line, "thoughts, \"")) {
