@@ -101,8 +101,12 @@ void TextBuffer::SetGeometry(std::int32_t leftMargin, std::int32_t width,
 void TextBuffer::AppendText(const char* text, bool trackSelection)
 {
     const Position oldHead = HeadPos;
-    for (const char* t = text; t != nullptr && *t != '\0'; ++t) {
-        AppendByte(static_cast<unsigned char>(*t));
+    if (text != nullptr) {
+        const auto* t = reinterpret_cast<const unsigned char*>(text);
+        while (*t != '\0') {
+            const unsigned char* behind = StoreRun(t);
+            t = behind != t ? behind : (AppendByte(*t), t + 1);
+        }
     }
     Storage[WritePos] = WRITE_MARK;
     if (Wrapped) {
@@ -117,6 +121,42 @@ void TextBuffer::AppendText(const char* text, bool trackSelection)
         SelStart = Saturated(std::max<std::int64_t>(SelStart - dropped, 0));
         SelEnd = Saturated(std::max<std::int64_t>(SelEnd - dropped, 0));
     }
+}
+
+namespace {
+
+// A byte that AppendByte would store as a character of the row.
+bool IsPlainCharacter(unsigned char b)
+{
+    return !IsColorCode(b) && b != HARD_LINE_END && b != CARRIAGE_RETURN && b != BELL && b != TAB &&
+           b != '\0';
+}
+
+} // namespace
+
+// The receive path's common case in one loop: plain characters that fit on the row are stored
+// as StoreCharacter would store them one by one. The run stops before the ring's last byte and
+// before scanStop_, which the byte path looks after; it may store nothing.
+const unsigned char* TextBuffer::StoreRun(const unsigned char* t)
+{
+    Position limit = Capacity - 1;
+    if (scanStop_ != NO_POSITION && scanStop_ >= WritePos && scanStop_ < limit) {
+        limit = scanStop_;
+    }
+    unsigned char* const ring = Storage.get();
+    const std::int32_t wrapLimit = WrapLimit;
+    Position at = WritePos;
+    std::int64_t pen = PenX;
+    std::int64_t column = Column;
+    for (; at < limit && IsPlainCharacter(*t) && pen + CharWidth[*t] < wrapLimit; ++t, ++at) {
+        ring[at] = *t;
+        pen += CharWidth[*t];
+        ++column;
+    }
+    WritePos = at;
+    PenX = static_cast<std::int32_t>(pen);
+    Column = Saturated(column);
+    return t;
 }
 
 void TextBuffer::AppendByte(unsigned char b)

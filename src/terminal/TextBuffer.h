@@ -161,6 +161,7 @@ class TextBuffer {
 
     // Where the plain text begins: the first byte behind the blank lines of a fresh ring.
     Position PlainStart() const;
+    const unsigned char* StoreRun(const unsigned char* t);
     void AppendByte(unsigned char b);
     void Store(unsigned char b);
     void StartLine();
