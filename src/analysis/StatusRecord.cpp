@@ -9,6 +9,7 @@
 #include "scripts/ScriptWait.h"
 #include "terminal/ChildWindows.h"
 
+#include <charconv>
 #include <cstdio>
 #include <cstring>
 
@@ -45,6 +46,14 @@ std::int32_t Field(const char* text, int offset, int n)
 void SetPair(Gauge& gauge, const char* text, int now, int max)
 {
     SetGaugeValues(gauge, 0, Field(text, max, 4), Field(text, now, 4));
+}
+
+// The money boxes take the amount in decimal; a status record comes with every prompt, so
+// this stays off printf.
+const char* DecimalText(char (&out)[16], std::uint32_t value)
+{
+    *std::to_chars(out, out + sizeof out - 1, value).ptr = '\0';
+    return out;
 }
 
 std::uint32_t PostureState(char posture)
@@ -101,10 +110,8 @@ void LinePipeline::ParseStatusRecord(const char* text)
     SetPair(panel_.Psi, text, PSI_NOW, PSI_MAX);
     SetPair(panel_.Web, text, WEB_NOW, WEB_MAX);
     char money[16];
-    std::snprintf(money, sizeof money, "%ld", static_cast<long>(ReadHexField(text + SILVER, 8)));
-    panel_.Silver.SetText(money);
-    std::snprintf(money, sizeof money, "%ld", static_cast<long>(ReadHexField(text + GOLD, 8)));
-    panel_.Gold.SetText(money);
+    panel_.Silver.SetText(DecimalText(money, ReadHexField(text + SILVER, 8)));
+    panel_.Gold.SetText(DecimalText(money, ReadHexField(text + GOLD, 8)));
     SetPair(panel_.Weight, text, WEIGHT_NOW, WEIGHT_MAX);
     panel_.BodyFigure.SetState(PostureState(text[POSTURE]));
     panel_.WeaponIcon.SetState(text[WEAPON] == '1' ? 1 : 0);
@@ -114,14 +121,16 @@ void LinePipeline::ParseStatusRecord(const char* text)
         StartRoundTime(roundTime);
 
     char prompt[96];
-    if (options_.ShowStatusPrompt)
+    if (options_.ShowStatusPrompt) {
         std::snprintf(prompt, sizeof prompt, "[%ld/%ld hp, %ld/%ld ftg] %c",
                       static_cast<long>(Field(text, HP_NOW, 4)),
                       static_cast<long>(Field(text, HP_MAX, 4)),
                       static_cast<long>(Field(text, FTG_NOW, 4)),
                       static_cast<long>(Field(text, FTG_MAX, 4)), text[PROMPT_CHAR]);
-    else
-        std::snprintf(prompt, sizeof prompt, "%c", text[PROMPT_CHAR]);
+    } else {
+        prompt[0] = text[PROMPT_CHAR];
+        prompt[1] = '\0';
+    }
     PrintToWindow(windows_.GameWindow, prompt);
     prompt_.PromptPending = true;
     sessionLog_.Write(prompt);
