@@ -1,6 +1,7 @@
 #include "session/qt/FrameWindow.h"
 
 #include "base/FrameCommand.h"
+#include "base/qt/OwnKeys.h"
 #include "config/Settings.h"
 #include "session/qt/FrameMenu.h"
 #include "session/qt/MdiClient.h"
@@ -144,7 +145,7 @@ void FrameWindow::wheelEvent(QWheelEvent* event)
 void FrameWindow::changeEvent(QEvent* event)
 {
     QMainWindow::changeEvent(event);
-    if (event->type() == QEvent::ActivationChange && isActiveWindow())
+    if (event->type() == QEvent::ActivationChange && isActiveWindow() && !FieldKeepsFocus())
         FocusCommandLine();
 }
 
@@ -158,9 +159,17 @@ bool FrameWindow::eventFilter(QObject* watched, QEvent* event)
     return false;
 }
 
+// A field that types its own keys, such as a window's find bar, keeps the focus that a closed
+// menu or a reactivated frame would otherwise hand back to the command line.
+bool FrameWindow::FieldKeepsFocus() const
+{
+    const QWidget* focus = focusWidget();
+    return focus && focus->isVisible() && focus->property(OWN_KEYS_PROPERTY).toBool();
+}
+
 void FrameWindow::ReturnFocus()
 {
-    if (QApplication::activeModalWidget() || QApplication::activePopupWidget())
+    if (QApplication::activeModalWidget() || QApplication::activePopupWidget() || FieldKeepsFocus())
         return;
     QWidget* active = QApplication::activeWindow();
     if (!active || active == this)

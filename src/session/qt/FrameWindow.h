@@ -78,6 +78,7 @@ class FrameWindow : public QMainWindow {
     // After a menu, dialog or popup closed: the command line again, unless another of them is
     // still open or another window of ours is active.
     void ReturnFocus();
+    bool FieldKeepsFocus() const;
 
     Handlers handlers_;
     FrameSurface* surface_;

@@ -259,9 +259,14 @@ void AnsiWindowWidget::wheelEvent(QWheelEvent* event)
     event->accept();
 }
 
+// The text window never keeps the focus: it goes on to the command line, or to the find bar
+// while that is open.
 void AnsiWindowWidget::focusInEvent(QFocusEvent*)
 {
-    FocusCommandLine();
+    if (findBar_ && findBar_->isVisible())
+        findBar_->Field()->setFocus();
+    else
+        FocusCommandLine();
 }
 
 // Qt moves the slider by itself; the window decides where it stands, as the core set it.
