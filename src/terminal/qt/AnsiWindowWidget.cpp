@@ -127,13 +127,20 @@ void AnsiWindowWidget::OpenFindBar()
         findBar_ = new FindBar(std::move(handlers), this);
     }
     findBar_->show();
-    resizeEvent(nullptr);
+    LayOutAroundFindBar();
     findBar_->Open();
+}
+
+// The bar takes rows from the text or gives them back, so the rows move: all is painted anew.
+void AnsiWindowWidget::LayOutAroundFindBar()
+{
+    resizeEvent(nullptr);
+    update();
 }
 
 void AnsiWindowWidget::CloseFindBar()
 {
-    resizeEvent(nullptr);
+    LayOutAroundFindBar();
     if (commandLine_)
         commandLine_->setFocus();
 }

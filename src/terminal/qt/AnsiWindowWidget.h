@@ -119,6 +119,7 @@ class AnsiWindowWidget : public QWidget, public AnsiWindowHost {
     void ShowPopupMenu(const QPoint& at);
     void DragStep();
     bool OnSplitBar(int y) const;
+    void LayOutAroundFindBar();
     void CloseFindBar();
     // The sub-window holding this widget, or the widget itself outside the text area.
     QWidget* Frame();
