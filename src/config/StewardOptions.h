@@ -16,10 +16,10 @@ enum StewardOption : int {
     KEEP_COMMAND_HISTORY,
     RECONNECT_ON_DROP,
     SPEAK,
+    SPEAK_HP_BELOW,
     GAME_SCROLLBACK_KB,
     THOUGHT_SCROLLBACK_KB,
     ARRIVAL_SCROLLBACK_KB,
-    SPEAK_HP_BELOW,
     STEWARD_OPTION_COUNT,
 };
 
@@ -43,14 +43,14 @@ constexpr std::array<StewardOptionRow, STEWARD_OPTION_COUNT> StewardOptionTable 
     {KEEP_COMMAND_HISTORY, "KeepHistory", "Keep command history between sessions", 0, 0, 1},
     {RECONNECT_ON_DROP, "Reconnect", "Reconnect when the connection drops", 0, 0, 1},
     {SPEAK, "Speak", "Speak", 0, 0, 1},
+    // Percent of the maximum; 0 never speaks the hit points.
+    {SPEAK_HP_BELOW, "SpeakHpBelow", "Speak when Hp falls below (percent)", 25, 0, 100},
     {GAME_SCROLLBACK_KB, "GameScrollback",
      "Game window scrollback in KB, from the next start (0: standard)", 0, 0, MAX_SCROLLBACK_KB},
     {THOUGHT_SCROLLBACK_KB, "ThoughtScrollback",
      "Thought window scrollback in KB, from the next start (0: standard)", 0, 0, MAX_SCROLLBACK_KB},
     {ARRIVAL_SCROLLBACK_KB, "ArrivalScrollback",
      "Arrival window scrollback in KB, from the next start (0: standard)", 0, 0, MAX_SCROLLBACK_KB},
-    // Percent of the maximum; 0 never speaks the hit points.
-    {SPEAK_HP_BELOW, "SpeakHpBelow", "Speak when Hp falls below (percent)", 25, 0, 100},
 }};
 
 // The scrollback a window asks for, in bytes; a size below the window's standard one keeps the
