@@ -36,6 +36,8 @@ class WindowParts : public ProfileHost {
     bool SaveMacros(const std::string&) override { return true; }
     void LoadHighlights(const std::string&, const std::string&) override {}
     bool SaveHighlights(const std::string&, const std::string&) override { return true; }
+    void LoadHistory(const std::string&) override {}
+    bool SaveHistory(const std::string&) override { return true; }
     void SetDefaultMacros(bool) override {}
     void UpdateTitle() override {}
 

@@ -6,36 +6,34 @@
 #include "config/FileHandle.h"
 
 #include <cstdio>
-#include <cstring>
 
 namespace steward {
 namespace {
 
-// The command line never holds other bytes, so a line with any is no command.
-bool IsCommandText(const char* line)
+// Reads one line, cut to the buffer, without its end (LF or CR LF); command says whether every
+// byte of it is printable text, as the command line only ever holds. False at the file's end.
+bool ReadHistoryLine(std::FILE* file, char* line, std::size_t size, bool& command)
 {
-    for (const unsigned char* p = reinterpret_cast<const unsigned char*>(line); *p; ++p)
-        if (*p < 0x20 || *p > 0x7E)
-            return false;
-    return true;
-}
-
-// Drops the line end; a line longer than the buffer is read on into the void, so that the rest
-// of it is not taken for a line of its own.
-bool ReadHistoryLine(std::FILE* file, char* line, std::size_t size)
-{
-    if (!std::fgets(line, static_cast<int>(size), file))
-        return false;
-    std::size_t length = std::strlen(line);
-    const bool whole = length > 0 && line[length - 1] == '\n';
-    if (!whole) {
-        int c;
-        while ((c = std::fgetc(file)) != EOF && c != '\n') {
+    std::size_t length = 0;
+    bool read = false;
+    command = true;
+    for (int c = std::fgetc(file); c != EOF; c = std::fgetc(file)) {
+        read = true;
+        if (c == '\n')
+            break;
+        if (c == '\r') {
+            const int next = std::fgetc(file);
+            if (next == '\n' || next == EOF)
+                break;
+            std::ungetc(next, file);
         }
+        if (c < 0x20 || c > 0x7E)
+            command = false;
+        if (length + 1 < size)
+            line[length++] = static_cast<char>(c);
     }
-    while (length > 0 && (line[length - 1] == '\n' || line[length - 1] == '\r'))
-        line[--length] = '\0';
-    return true;
+    line[length] = '\0';
+    return read;
 }
 
 } // namespace
@@ -50,12 +48,13 @@ bool CommandHistory::LoadHistory(const std::string& path)
         RemoveAt(Count() - 1);
     char line[COMMAND_LINE_LIMIT + 1];
     // A long file is read from its tail, behind the first line end found there.
+    bool command = true;
     if (std::fseek(file.get(), -HISTORY_FILE_TAIL, SEEK_END) == 0)
-        ReadHistoryLine(file.get(), line, sizeof line);
+        ReadHistoryLine(file.get(), line, sizeof line, command);
     else
         std::rewind(file.get());
-    while (ReadHistoryLine(file.get(), line, sizeof line))
-        if (IsCommandText(line))
+    while (ReadHistoryLine(file.get(), line, sizeof line, command))
+        if (command)
             RememberCommand(line, 0);
     ResetHistoryPosition();
     return true;

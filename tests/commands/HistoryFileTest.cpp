@@ -50,6 +50,7 @@ TEST(HistoryFile, DamagedFilesLoadWhatTheyCan)
         {"empty", "", {}},
         {"line feeds alone and no last line end", "look\nnorth\nwest", {"look", "north", "west"}},
         {"binary lines skipped", "look\n\x01\x02\xff\x80garbage\nnorth\r\n", {"look", "north"}},
+        {"a NUL spoils its own line only", std::string("lo\0ok\r\nnorth\r\n", 14), {"north"}},
         {"a long line cut to the command line's limit",
          longLine + "\r\nlook\r\n",
          {std::string(COMMAND_LINE_LIMIT, 'x'), "look"}},
