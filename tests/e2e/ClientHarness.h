@@ -236,6 +236,17 @@ class ClientHarness : public ::testing::Test {
         return QTest::qWaitFor([&] { return Sent().contains(needle); }, WAIT_MS);
     }
 
+    // After a second connection the world asks the name again, and once it is given the client
+    // asks for the status records a second time.
+    void ExpectStatusRecordsAskedAgain(Client& client)
+    {
+        ASSERT_TRUE(QTest::qWaitFor([&] { return Sent().count("Tester\n\r") == 1; }, WAIT_MS));
+        Type(client, "Tester");
+        EXPECT_TRUE(
+            QTest::qWaitFor([&] { return Sent().count("Set Steward On\n\r") == 2; }, WAIT_MS))
+            << Sent().toStdString();
+    }
+
     static void Type(Client& client, const char* text)
     {
         FrameWindow& frame = client.Frame();

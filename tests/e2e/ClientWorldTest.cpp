@@ -132,10 +132,7 @@ TEST_F(ClientWorldTest, ReconnectAsksForStatusRecordsAgain)
     client->OnCommand(CMD_CONNECT);
     EXPECT_FALSE(client->IsDisconnected());
     EXPECT_TRUE(desktop.messages.empty());
-    ASSERT_TRUE(QTest::qWaitFor([&] { return Sent().count("Tester\n\r") == 1; }, WAIT_MS));
-    Type(*client, "Tester");
-    EXPECT_TRUE(QTest::qWaitFor([&] { return Sent().count("Set Steward On\n\r") == 2; }, WAIT_MS))
-        << Sent().toStdString();
+    ExpectStatusRecordsAskedAgain(*client);
 }
 
 TEST_F(ClientWorldTest, PacketDumpListsTheReceivedBlocks)

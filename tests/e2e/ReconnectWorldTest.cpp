@@ -42,10 +42,7 @@ TEST_F(ReconnectWorldTest, WithTheOptionOnAClientDroppedByTheWorldComesBackAndAs
     ASSERT_TRUE(WaitForGameText(*client, "*** Reconnected to the game."));
     EXPECT_FALSE(client->IsDisconnected());
     EXPECT_TRUE(desktop.messages.empty());
-    ASSERT_TRUE(QTest::qWaitFor([&] { return Sent().count("Tester\n\r") == 1; }, WAIT_MS));
-    Type(*client, "Tester");
-    EXPECT_TRUE(QTest::qWaitFor([&] { return Sent().count("Set Steward On\n\r") == 2; }, WAIT_MS))
-        << Sent().toStdString();
+    ExpectStatusRecordsAskedAgain(*client);
 }
 
 TEST_F(ReconnectWorldTest, NothingIsTriedWithTheOptionOffAfterTheQuitOrAfterAConnectByHand)
