@@ -1,9 +1,8 @@
 #include "ClientHarness.h"
 #include "base/FrameCommand.h"
+#include "support/RunLoopUntil.h"
 
-#include <QEventLoop>
 #include <QTcpSocket>
-#include <QTimer>
 
 #include <fstream>
 #include <random>
@@ -27,21 +26,6 @@ class ReplayWorldTest : public ClientHarness {
         options.ReplayPath = path.toStdString();
         options.ReplaySpeed = 0;
         return std::make_unique<Client>(std::move(options), desktop);
-    }
-
-    // The program's own loop, which turns as fast as the replay asks, unlike a test's waiting.
-    template <typename Predicate> static bool RunUntil(Predicate done, int timeoutMs)
-    {
-        QEventLoop loop;
-        QTimer check;
-        QObject::connect(&check, &QTimer::timeout, [&] {
-            if (done())
-                loop.quit();
-        });
-        check.start(20);
-        QTimer::singleShot(timeoutMs, &loop, &QEventLoop::quit);
-        loop.exec();
-        return done();
     }
 
     static std::vector<std::int32_t> Gauges(Client& client)
@@ -106,8 +90,8 @@ TEST_F(ReplayWorldTest, AReplayedDumpLeavesTheGameWindowAndTheGaugesAsTheLiveRun
     AnsiWindow* game = replay->State().Windows.GameWindow;
     const std::size_t start = WindowBytes(game).size();
     replay->OnCommand(CMD_CONNECT);
-    ASSERT_TRUE(
-        RunUntil([&] { return WindowBytes(game).find(END_TEXT) != std::string::npos; }, WAIT_MS));
+    ASSERT_TRUE(steward::testing::RunLoopUntil(
+        [&] { return WindowBytes(game).find(END_TEXT) != std::string::npos; }, WAIT_MS));
     const std::string bytes = WindowBytes(game);
     EXPECT_EQ(bytes.substr(start, bytes.rfind(END_TEXT) - start), live);
     EXPECT_EQ(Gauges(*replay), liveGauges);
@@ -155,8 +139,8 @@ TEST_F(ReplayWorldTest, BadReplayFilesAreToldInTheGameWindowInBoundedMemory)
         ASSERT_TRUE(client->Start()) << c.name;
         // Raw bytes come in blocks of this size: the largest makes the fewest turns.
         client->State().Profile.Settings.ReceiveChunkSize = RECEIVE_CHUNK_MAX;
-        EXPECT_TRUE(RunUntil([&] { return GameText(*client).find(c.told) != std::string::npos; },
-                             HUGE_WAIT_MS))
+        EXPECT_TRUE(steward::testing::RunLoopUntil(
+            [&] { return GameText(*client).find(c.told) != std::string::npos; }, HUGE_WAIT_MS))
             << c.name << ": " << GameText(*client);
         client->Frame().close();
         QFile::remove(path);

@@ -1,6 +1,7 @@
 #include "ClientHarness.h"
 #include "base/FrameCommand.h"
 #include "base/qt/ProgramFiles.h"
+#include "support/RunLoopUntil.h"
 #include "support/TempFolder.h"
 
 #include <QEventLoop>
@@ -21,18 +22,9 @@ class ScriptWorldTest : public ClientHarness {
     }
 
     // Runs the program's own loop, where a script steps, until done says so or time runs out.
-    static bool RunLoopUntil(const std::function<bool()>& done, int ms = WAIT_MS)
+    template <typename Done> static bool RunLoopUntil(Done done, int ms = WAIT_MS)
     {
-        QEventLoop loop;
-        QTimer check;
-        QObject::connect(&check, &QTimer::timeout, [&] {
-            if (done())
-                loop.quit();
-        });
-        check.start(10);
-        QTimer::singleShot(ms, &loop, &QEventLoop::quit);
-        loop.exec();
-        return done();
+        return steward::testing::RunLoopUntil(done, ms);
     }
 
     std::string Script(const char* name, const std::string& text)

@@ -1,11 +1,10 @@
 #include "config/Settings.h"
 #include "connection/qt/QtGameSocket.h"
+#include "support/RunLoopUntil.h"
 
-#include <QEventLoop>
 #include <QHostAddress>
 #include <QTcpServer>
 #include <QTcpSocket>
-#include <QTimer>
 
 #include <gtest/gtest.h>
 
@@ -25,20 +24,7 @@ class CountingListener : public SocketListener {
     std::size_t received = 0;
 };
 
-// Runs the loop as the program does, with no pause between turns, until `done` or the limit.
-template <typename Done> bool RunLoopUntil(Done done, int limitMs)
-{
-    QEventLoop loop;
-    QTimer check;
-    QObject::connect(&check, &QTimer::timeout, &loop, [&] {
-        if (done())
-            loop.quit();
-    });
-    check.start(1);
-    QTimer::singleShot(limitMs, &loop, &QEventLoop::quit);
-    loop.exec();
-    return done();
-}
+using steward::testing::RunLoopUntil;
 
 // A stream many times longer than the socket reads ahead arrives whole without anything else
 // turning the loop, whatever the block size, also one that fills the read-ahead exactly.
