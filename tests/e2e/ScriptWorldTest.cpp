@@ -126,6 +126,8 @@ TEST_F(ScriptWorldTest, RecordingOfFiveCommandsIsExactAndPlaysBack)
     const qsizetype before = Sent().size();
     Execute(*client, desktop.recordFile);
     ASSERT_TRUE(RunLoopUntil([&] { return !Busy(); })) << GameText(*client);
+    // The script ends as its last line is sent; the world may read it a turn later.
+    RunLoopUntil([&] { return Sent().endsWith("time\r\n\r"); });
     EXPECT_EQ(Sent().mid(before), "look\r\n\re\r\n\rsay hi\r\n\rw\r\n\rtime\r\n\r");
 }
 
