@@ -1,5 +1,6 @@
 #include "PipelineFixture.h"
 
+#include <algorithm>
 #include <random>
 
 namespace steward::testing {
@@ -7,38 +8,14 @@ namespace {
 
 // Pieces that steer random bytes into every branch of decoding and analysis: colour tokens
 // and their halves, record starts, star lines, thoughts, exit lists and line ends.
-const char* const PIECES[] = {"\x1B",
-                              "\x1B"
-                              "1",
-                              "\x1B"
-                              "0",
-                              "\x1B\x1B>",
-                              "\r\n",
-                              "\r",
-                              "\n",
-                              "\x07",
-                              "\t",
-                              " ** ",
-                              "Obvious exits: north, up*.",
-                              " just arrived in the world.",
-                              " has left the world.",
-                              " thinks to you, \"",
-                              "You pick up ",
-                              "'s thoughts, \"",
-                              " says, \"",
-                              " whispers, \"",
-                              " ** Current hit points: ",
-                              " of ",
-                              "[3 sec. delay]",
-                              "...wait ",
-                              "...wait",
-                              " seconds.",
-                              "\"",
-                              "Mara",
-                              "salmon",
-                              "0064",
-                              "FFFF",
-                              "8000"};
+// clang-format off
+const std::string PIECES[] = {
+    "\x1B", "\0331", "\0330", "\x1B\x1B>", "\r\n", "\r", "\n", "\x07", "\t", " ** ",
+    "Obvious exits: north, up*.", " just arrived in the world.", " has left the world.",
+    " thinks to you, \"", "You pick up ", "'s thoughts, \"", " says, \"", " whispers, \"",
+    " ** Current hit points: ", " of ", "[3 sec. delay]", "...wait ", "...wait", " seconds.", "\"",
+    "Mara", "salmon", "0064", "FFFF", "8000"};
+// clang-format on
 
 std::string HostileBlock(std::mt19937& random)
 {
@@ -55,10 +32,7 @@ std::string HostileBlock(std::mt19937& random)
 
 bool HoldsColorCode(const std::string& text)
 {
-    for (unsigned char c : text)
-        if (IsColorCode(c))
-            return true;
-    return false;
+    return std::any_of(text.begin(), text.end(), [](unsigned char c) { return IsColorCode(c); });
 }
 
 // Whatever the server sends, the receive path stores and logs it within its buffers (the

@@ -58,11 +58,19 @@ class RecordingSounds : public HighlightSounds {
     std::vector<std::string> played;
 };
 
+// A status record line: fields in order, then filler up to the closing ESC and the line end.
+inline std::string StatusLine(const std::string& fields, std::size_t length = 70,
+                              const char* end = "\r\n")
+{
+    std::string text = "\x1B\x1B" + fields;
+    text.resize(length - 3, '0');
+    return text + '\x1B' + end;
+}
+
 // The game link with real text windows, a real session log and real highlight lists; only the
 // socket, the frame's queue, the clock and the sound output are doubles.
-class PipelineTest : public ::testing::Test {
-  protected:
-    PipelineTest()
+struct PipelineRig {
+    PipelineRig()
     {
         // Wide enough that no test line wraps.
         host.client = {0, 0, 100000, 105};
@@ -118,5 +126,7 @@ class PipelineTest : public ::testing::Test {
     std::unique_ptr<AnsiWindow> arrival;
     std::size_t freshLength = 0;
 };
+
+class PipelineTest : public ::testing::Test, public PipelineRig {};
 
 } // namespace steward::testing

@@ -75,9 +75,7 @@ class SpeakingPipelineTest : public PipelineTest {
 TEST_F(SpeakingPipelineTest, ThoughtsArrivalsAndLowHitPointsAreSaidInTheirOrder)
 {
     windows.ThoughtWindow = Thought();
-    std::string record = "\x1B\x1B>00030064"; // a status record: hit points 3 of 100
-    record.resize(67, '0');
-    record += "\x1B\r\n";
+    const std::string record = StatusLine(">00030064"); // hit points 3 of 100
     const char* lines[] = {
         "You pick up Mara's thoughts, \"Hello\"\r\n",
         "Bo says, \"Nothing to hear.\"\r\n",

@@ -1,17 +1,9 @@
 #include "PipelineFixture.h"
 
+#include <functional>
+
 namespace steward::testing {
 namespace {
-
-// Builds a record: fields in order, then filler up to the closing ESC and the line end.
-std::string Record(const std::string& fields, std::size_t length = 70, const char* end = "\r\n")
-{
-    std::string text = "\x1B\x1B" + fields;
-    text.resize(length - 3, '0');
-    text += '\x1B';
-    text += end;
-    return text;
-}
 
 // Prompt ">", Hp 45/100, Ftg 7/30, Psi 1/2, Web 3/4, Silver 255, Gold 4096, Weight 10/200,
 // two unread bytes, sitting, weapon held, no shield, round time field 06.
@@ -24,27 +16,31 @@ const std::string Fields = ">002D0064"
                            "xx110"
                            "06";
 
-struct HexCase {
-    const char* text;
-    int n;
-    std::uint32_t value;
-};
+std::string With(std::size_t at, const std::string& field)
+{
+    std::string fields = Fields;
+    return fields.replace(at, field.size(), field);
+}
 
 TEST(ReadHexFieldTest, ReadsDigitsAndDropsNegativeNumbers)
 {
-    const HexCase cases[] = {
+    const struct {
+        const char* text;
+        int n;
+        std::uint32_t value;
+    } rows[] = {
         {"7FFF", 4, 32767},      {"8000", 4, 0},     {"00fF", 4, 255},
         {"12G4", 4, 0x1204},     {"7F", 2, 127},     {"80", 2, 0},
         {"3D", 2, 61},           {"80000000", 8, 0}, {"7FFFFFFF", 8, 0x7FFFFFFF},
         {"0000abcd", 8, 0xABCD},
     };
-    for (const HexCase& c : cases)
-        EXPECT_EQ(ReadHexField(c.text, c.n), c.value) << c.text;
+    for (const auto& row : rows)
+        EXPECT_EQ(ReadHexField(row.text, row.n), row.value) << row.text;
 }
 
-TEST_F(PipelineTest, AWellFormedRecordFeedsEveryPanel)
+TEST_F(PipelineTest, AWellFormedRecordFeedsEveryPanelAndPrintsAndLogsItsPrompt)
 {
-    pipeline.ProcessGameLine(Record(Fields).c_str());
+    pipeline.ProcessGameLine(("\x82" + StatusLine(Fields)).c_str());
     EXPECT_EQ(panel.Hp.GetValue(), 45);
     EXPECT_EQ(panel.Hp.GetMax(), 100);
     EXPECT_EQ(panel.Ftg.GetValue(), 7);
@@ -60,97 +56,79 @@ TEST_F(PipelineTest, AWellFormedRecordFeedsEveryPanel)
     EXPECT_FALSE(panel.ShieldIcon.Held());
     EXPECT_TRUE(panel.RT.IsCounting());
     EXPECT_EQ(panel.RT.GetValue(), 5000);
-}
-
-TEST_F(PipelineTest, RecordLengthDecidesAcceptance)
-{
-    struct Case {
-        std::size_t length;
-        const char* end;
-        bool accepted;
-    } cases[] = {{70, "\r\n", true}, {69, "\r\n", false}, {100, "\r\n", true}, {70, "ab", true}};
-    for (const Case& c : cases) {
-        panel.Hp.SetMax(0);
-        pipeline.Prompt().PromptPending = false;
-        pipeline.ProcessGameLine(Record(Fields, c.length, c.end).c_str());
-        EXPECT_EQ(panel.Hp.GetMax(), c.accepted ? 100 : 0) << c.length;
-        EXPECT_EQ(pipeline.Prompt().PromptPending, c.accepted) << c.length;
-    }
-}
-
-TEST_F(PipelineTest, ARecordWithoutTheClosingEscIsDroppedSilently)
-{
-    std::string text = Record(Fields);
-    text[67] = '0';
-    script.ScriptWait = WAIT_PROMPT;
-    pipeline.ProcessGameLine(text.c_str());
-    EXPECT_EQ(In(Game()), "");
-    EXPECT_EQ(Logged(), "");
-    EXPECT_EQ(script.ScriptWait, WAIT_PROMPT);
-    EXPECT_TRUE(pipeline.StatusModeWasRequested());
-}
-
-TEST_F(PipelineTest, TheRecordPrintsAndLogsItsPrompt)
-{
-    script.ScriptWait = WAIT_PROMPT;
-    std::string line = "\x82";
-    line += Record(Fields);
-    pipeline.ProcessGameLine(line.c_str());
     EXPECT_EQ(In(Game()), ">");
     EXPECT_EQ(Logged(), ">");
     EXPECT_TRUE(pipeline.Prompt().PromptPending);
-    EXPECT_EQ(script.ScriptWait, WAIT_NONE);
 }
 
-TEST_F(PipelineTest, TheLongPromptShowsHitPointsAndFatigue)
+// A record is taken when it is at least 70 bytes long and its closing ESC stands in place.
+TEST(StatusRecordTest, BadRecordsAreDroppedSilently)
+{
+    std::string noEsc = StatusLine(Fields);
+    noEsc[67] = '0';
+    const struct {
+        std::string line;
+        bool taken;
+    } rows[] = {{StatusLine(Fields, 70), true},
+                {StatusLine(Fields, 69), false},
+                {StatusLine(Fields, 100), true},
+                {StatusLine(Fields, 70, "ab"), true},
+                {noEsc, false}};
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.line);
+        PipelineRig rig;
+        rig.pipeline.ProcessGameLine(row.line.c_str());
+        EXPECT_EQ(rig.panel.Hp.GetMax(), row.taken ? 100 : 0);
+        EXPECT_EQ(rig.pipeline.Prompt().PromptPending, row.taken);
+        EXPECT_EQ(rig.In(rig.Game()), row.taken ? ">" : "");
+        EXPECT_TRUE(rig.pipeline.StatusModeWasRequested());
+    }
+}
+
+TEST(StatusRecordTest, FieldsMapToThePanels)
+{
+    using Check = std::function<void(const StatusPanel&)>;
+    const auto Figure = [](std::uint32_t state) {
+        return [=](const StatusPanel& panel) { EXPECT_EQ(panel.BodyFigure.GetState(), state); };
+    };
+    const auto RoundTime = [](std::int32_t ms) {
+        return [=](const StatusPanel& panel) {
+            EXPECT_EQ(panel.RT.IsCounting(), ms != 0);
+            EXPECT_EQ(panel.RT.GetMax(), ms);
+        };
+    };
+    const struct {
+        std::string fields;
+        Check check;
+    } rows[] = {
+        {With(59, "0"), Figure(1)},
+        {With(59, "1"), Figure(2)},
+        {With(59, "2"), Figure(4)},
+        {With(59, "3"), Figure(3)},
+        {With(59, "8"), Figure(8)},
+        {With(62, "00"), RoundTime(0)},
+        {With(62, "01"), RoundTime(0)},
+        {With(62, "02"), RoundTime(1000)},
+        {With(62, "3D"), RoundTime(60000)},
+        {With(62, "7F"), RoundTime(60000)},
+        {With(62, "80"), RoundTime(0)},
+        {With(33, "80000000"),
+         [](const StatusPanel& panel) { EXPECT_STREQ(panel.Silver.Text(), "0"); }},
+    };
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.fields);
+        PipelineRig rig;
+        rig.pipeline.ProcessGameLine(StatusLine(row.fields).c_str());
+        row.check(rig.panel);
+    }
+}
+
+TEST_F(PipelineTest, TheLongPromptShowsHitPointsAndFatigueThroughTheFilters)
 {
     options.ShowStatusPrompt = true;
     highlights.StringHighlights.Add("ftg", 12);
-    pipeline.ProcessGameLine(Record(Fields).c_str());
-    EXPECT_EQ(In(Game()), "[45/100 hp, 7/30 " + On(12) + "ftg" + Off(12) + "] >")
-        << "the prompt runs through the filters";
-}
-
-TEST_F(PipelineTest, PostureBytesMapToFigureStates)
-{
-    const struct {
-        char posture;
-        std::uint32_t state;
-    } cases[] = {{'0', 1}, {'1', 2}, {'2', 4}, {'3', 3}, {'8', 8}};
-    for (const auto& c : cases) {
-        std::string fields = Fields;
-        fields[59] = c.posture;
-        pipeline.ProcessGameLine(Record(fields).c_str());
-        EXPECT_EQ(panel.BodyFigure.GetState(), c.state) << c.posture;
-    }
-}
-
-TEST_F(PipelineTest, RoundTimeFieldHoldsSecondsPlusOneCappedAtSixty)
-{
-    const struct {
-        const char* field;
-        bool starts;
-        std::int32_t ms;
-    } cases[] = {{"00", false, 0},    {"01", false, 0},    {"02", true, 1000},
-                 {"3D", true, 60000}, {"7F", true, 60000}, {"80", false, 0}};
-    for (const auto& c : cases) {
-        StatusPanel fresh;
-        LinePipeline local{{options, sessionLog, highlights, sounds, windows, queue, script, fresh,
-                            words, clock, nullptr}};
-        std::string fields = Fields;
-        fields.replace(62, 2, c.field);
-        local.ProcessGameLine(Record(fields).c_str());
-        EXPECT_EQ(fresh.RT.IsCounting(), c.starts) << c.field;
-        EXPECT_EQ(fresh.RT.GetMax(), c.ms) << c.field;
-    }
-}
-
-TEST_F(PipelineTest, NegativeMoneyReadsAsZero)
-{
-    std::string fields = Fields;
-    fields.replace(33, 8, "80000000");
-    pipeline.ProcessGameLine(Record(fields).c_str());
-    EXPECT_STREQ(panel.Silver.Text(), "0");
+    pipeline.ProcessGameLine(StatusLine(Fields).c_str());
+    EXPECT_EQ(In(Game()), "[45/100 hp, 7/30 " + On(12) + "ftg" + Off(12) + "] >");
 }
 
 } // namespace
