@@ -63,11 +63,7 @@ class ClientProcessTest : public ::testing::Test {
         process.start(program, arguments);
     }
 
-    QByteArray Sent() const
-    {
-        QFile file(home.filePath(QStringLiteral("sent.bin")));
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-    }
+    QByteArray Sent() const { return Read(home.filePath(QStringLiteral("sent.bin"))); }
 
     static QByteArray Read(const QString& path)
     {
@@ -82,19 +78,24 @@ class ClientProcessTest : public ::testing::Test {
     int port = 0;
 };
 
-TEST_F(ClientProcessTest, TerminateSaysQuitSavesTheProfileAndEndsCleanly)
+// One client runs while a second start on its folder ends at once; on SIGTERM the first says
+// quit and saves. A --character path is refused, a name chooses the profile, and a data folder
+// that cannot be written still plays and is left as it was.
+TEST_F(ClientProcessTest, OneClientPerFolderTheCharacterOptionAndAReadOnlyFolder)
 {
     StartClient(client);
     ASSERT_TRUE(client.waitForStarted(WAIT_MS));
     ASSERT_TRUE(QTest::qWaitFor([&] { return QFile::exists(DataFile("Default.Dat")); }, WAIT_MS));
+    StartClient(second);
+    ASSERT_TRUE(second.waitForFinished(WAIT_MS));
+    EXPECT_EQ(second.exitCode(), 0);
+    ASSERT_EQ(client.state(), QProcess::Running);
     QTest::qWait(300);
-
     ::kill(static_cast<pid_t>(client.processId()), SIGTERM);
     ASSERT_TRUE(client.waitForFinished(WAIT_MS));
     EXPECT_EQ(client.exitStatus(), QProcess::NormalExit);
     EXPECT_EQ(client.exitCode(), 0);
     EXPECT_TRUE(QTest::qWaitFor([&] { return Sent().contains("quit\n\r"); }, WAIT_MS));
-
     const QByteArray profile = Read(DataFile("Default.Dat"));
     EXPECT_TRUE(profile.contains("Open Windows=")) << profile.toStdString();
     EXPECT_TRUE(profile.contains("MainWindow="));
@@ -103,30 +104,22 @@ TEST_F(ClientProcessTest, TerminateSaysQuitSavesTheProfileAndEndsCleanly)
     EXPECT_TRUE(ini.contains("Version=68000000"));
     EXPECT_FALSE(ini.contains("[Connection]"));
     EXPECT_TRUE(QFile::exists(DataFile("Version Notes.Txt")));
-}
 
-TEST_F(ClientProcessTest, SecondStartOnTheSameFolderEndsAtOnce)
-{
-    StartClient(client);
-    ASSERT_TRUE(QTest::qWaitFor([&] { return QFile::exists(DataFile("Default.Dat")); }, WAIT_MS));
-    StartClient(second);
+    StartClient(client, QStringLiteral(CLIENT_BINARY), {"--character", "../Outside"});
+    ASSERT_TRUE(client.waitForFinished(WAIT_MS));
+    EXPECT_EQ(client.exitCode(), 2);
+    EXPECT_TRUE(client.readAllStandardError().contains("--character"));
+    EXPECT_FALSE(QFile::exists(Path("Outside.Dat")));
+    StartClient(second, QStringLiteral(CLIENT_BINARY), {"--character", "Zed"});
+    EXPECT_TRUE(QTest::qWaitFor([&] { return QFile::exists(DataFile("Zed.Dat")); }, WAIT_MS));
+    second.terminate();
     ASSERT_TRUE(second.waitForFinished(WAIT_MS));
-    EXPECT_EQ(second.exitCode(), 0);
-    EXPECT_EQ(client.state(), QProcess::Running);
-}
+    EXPECT_TRUE(Read(DataFile("Thornmere.Ini")).contains("LastChar=Zed"));
 
-TEST_F(ClientProcessTest, AReadOnlyDataFolderStillPlaysAndWritesNothing)
-{
-    QProcess prepare;
-    StartClient(prepare);
-    ASSERT_TRUE(QTest::qWaitFor([&] { return QFile::exists(DataFile("Default.Dat")); }, WAIT_MS));
-    prepare.terminate();
-    ASSERT_TRUE(prepare.waitForFinished(WAIT_MS));
     const QString folder = home.filePath(QStringLiteral("ThornmereSteward"));
     const QStringList before = QDir(folder).entryList(QDir::Files);
     QFile(folder).setPermissions(QFile::ReadOwner | QFile::ExeOwner);
     const QByteArray sentBefore = Sent();
-
     // Root writes anywhere, so as root the client runs without that power.
     QStringList arguments;
     QString program = QStringLiteral(CLIENT_BINARY);
@@ -145,21 +138,6 @@ TEST_F(ClientProcessTest, AReadOnlyDataFolderStillPlaysAndWritesNothing)
     EXPECT_TRUE(Sent().mid(sentBefore.size()).contains("quit\n\r"));
     QFile(folder).setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
     EXPECT_EQ(QDir(folder).entryList(QDir::Files), before);
-}
-
-TEST_F(ClientProcessTest, CharacterOptionChoosesTheProfileAndRefusesAPath)
-{
-    StartClient(client, QStringLiteral(CLIENT_BINARY), {"--character", "../Outside"});
-    ASSERT_TRUE(client.waitForFinished(WAIT_MS));
-    EXPECT_EQ(client.exitCode(), 2);
-    EXPECT_TRUE(client.readAllStandardError().contains("--character"));
-    EXPECT_FALSE(QFile::exists(Path("Outside.Dat")));
-
-    StartClient(second, QStringLiteral(CLIENT_BINARY), {"--character", "Zed"});
-    EXPECT_TRUE(QTest::qWaitFor([&] { return QFile::exists(DataFile("Zed.Dat")); }, WAIT_MS));
-    second.terminate();
-    ASSERT_TRUE(second.waitForFinished(WAIT_MS));
-    EXPECT_TRUE(Read(DataFile("Thornmere.Ini")).contains("LastChar=Zed"));
 }
 
 } // namespace

@@ -63,6 +63,7 @@ TEST_F(ReplayWorldTest, AReplayedDumpLeavesTheGameWindowAndTheGaugesAsTheLiveRun
         AnsiWindow* game = client->State().Windows.GameWindow;
         const std::size_t start = WindowBytes(game).size();
         ASSERT_TRUE(WaitForGameText(*client, "By what name are you known?"));
+        EXPECT_NE(GameText(*client).find("Packet Dump file is ACTIVE!"), std::string::npos);
         Type(*client, "Tester");
         ASSERT_TRUE(
             QTest::qWaitFor([&] { return client->State().Panel.Hp.GetMax() > 0; }, WAIT_MS));

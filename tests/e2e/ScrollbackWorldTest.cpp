@@ -1,7 +1,6 @@
 #include "ClientHarness.h"
 
 #include "base/FrameCommand.h"
-#include "config/StewardOptions.h"
 #include "terminal/qt/AnsiWindowWidget.h"
 
 #include <QLineEdit>
@@ -10,16 +9,7 @@
 namespace steward::test {
 namespace {
 
-class ScrollbackWorldTest : public ClientHarness {
-  protected:
-    void TurnOn(StewardOption option, std::int32_t value)
-    {
-        const std::string ini = MakeConfigFiles(folder.path().toStdString()).MainIni;
-        StewardOptions options = StewardOptions::Load(ini);
-        options.Set(option, value);
-        ASSERT_TRUE(options.Save(ini));
-    }
-};
+using ScrollbackWorldTest = ClientHarness;
 
 TEST_F(ScrollbackWorldTest, FindsAWordSentTwoThousandLinesAgo)
 {
@@ -60,28 +50,6 @@ TEST_F(ScrollbackWorldTest, FindsAWordSentTwoThousandLinesAgo)
     EXPECT_GT(game->GetViewLines() - game->GetTopLine(), 2000);
     QTest::keyClick(view->Finder()->Field(), Qt::Key_Escape);
     EXPECT_EQ(QApplication::focusWidget(), client->Frame().CommandLine());
-}
-
-TEST_F(ScrollbackWorldTest, AKeptHistoryRecallsTheLastCommandOfTheRunBefore)
-{
-    TurnOn(KEEP_COMMAND_HISTORY, 1);
-    {
-        auto client = LoggedInClient();
-        ASSERT_NE(client, nullptr);
-        Type(*client, "look at the fountain");
-        ASSERT_TRUE(WaitForSent("look at the fountain\n\r"));
-        client->Frame().close();
-    }
-    auto client = MakeClient(Address());
-    ASSERT_TRUE(client->Start());
-    auto* line = qobject_cast<QLineEdit*>(client->Frame().CommandLine());
-    ASSERT_NE(line, nullptr);
-    QApplication::setActiveWindow(&client->Frame());
-    line->setFocus();
-    QTest::keyClick(line, Qt::Key_Up);
-    EXPECT_EQ(line->text(), QStringLiteral("look at the fountain"));
-    QTest::keyClick(line, Qt::Key_Up);
-    EXPECT_EQ(line->text(), QStringLiteral("Tester"));
 }
 
 } // namespace

@@ -10,30 +10,31 @@
 #include <QTabWidget>
 #include <QTimer>
 
+#include <functional>
+
 namespace steward::test {
 namespace {
 
-class SheetWorldTest;
+class SheetWorldTest : public ClientHarness {
+  protected:
+    // Runs the command's modal sheet, edited and closed with OK from inside its own loop.
+    static bool EditInSheet(Client& client, int command, const std::function<void(QDialog&)>& edit)
+    {
+        bool edited = false;
+        QTimer::singleShot(0, [&] {
+            if (auto* sheet = qobject_cast<QDialog*>(QApplication::activeModalWidget())) {
+                edit(*sheet);
+                sheet->accept();
+                edited = true;
+            }
+        });
+        client.OnCommand(command);
+        return edited;
+    }
 
-struct SheetCase {
-    const char* name;
-    int command;
-    // Works in the open sheet as a player would, before it is closed with OK.
-    void (*edit)(QDialog& sheet, RecordingDesktop& desktop);
-    // Makes the edit show in the game, the round-th time, and tells whether it did.
-    bool (SheetWorldTest::*shows)(Client& client, int round);
-};
-
-void PrintTo(const SheetCase& c, std::ostream* out)
-{
-    *out << c.name;
-}
-
-class SheetWorldTest : public ClientHarness, public ::testing::WithParamInterface<SheetCase> {
-  public:
+    // The first round looks again, the second sees the room of its login.
     bool SalmonIsRed(Client& client, int round)
     {
-        // The first round looks again, the second sees the room of its login.
         if (round == 1)
             Type(client, "look");
         const std::string red = std::string(ColorOnText(12)) + "salmon" + ColorOffText(12);
@@ -48,62 +49,35 @@ class SheetWorldTest : public ClientHarness, public ::testing::WithParamInterfac
         return QTest::qWaitFor([&] { return Sent().count("say sheet macro\n\r") == round; },
                                WAIT_MS);
     }
-
-  protected:
-    // Runs the command's modal sheet, edited and closed from inside its own loop.
-    bool EditInSheet(Client& client, const SheetCase& c)
-    {
-        bool edited = false;
-        QTimer::singleShot(0, [&] {
-            if (auto* sheet = qobject_cast<QDialog*>(QApplication::activeModalWidget())) {
-                c.edit(*sheet, desktop);
-                sheet->accept();
-                edited = true;
-            }
-        });
-        client.OnCommand(c.command);
-        return edited;
-    }
 };
 
-TEST_P(SheetWorldTest, AnEditInTheSheetWorksInTheGameAndSurvivesARestart)
+TEST_F(SheetWorldTest, EditsInTheHighlightAndMacroSheetsWorkInTheGameAndSurviveARestart)
 {
-    const SheetCase& c = GetParam();
     {
         auto client = LoggedInClient();
         ASSERT_TRUE(client);
-        ASSERT_TRUE(EditInSheet(*client, c));
-        EXPECT_TRUE((this->*c.shows)(*client, 1)) << GameText(*client);
+        ASSERT_TRUE(EditInSheet(*client, CMD_HIGHLIGHT_STRINGS, [&](QDialog& dialog) {
+            auto& sheet = static_cast<HighlightSheet&>(dialog);
+            sheet.Tabs()->setCurrentIndex(1);
+            HighlightPage& page = *sheet.Page(1);
+            desktop.answers = {"salmon"};
+            page.Button(PageButton::New)->click();
+            QTest::mouseClick(page.Grid(), Qt::LeftButton, {}, page.Grid()->CellRect(12).center());
+        }));
+        ASSERT_TRUE(EditInSheet(*client, CMD_MACRO_KEYS, [](QDialog& dialog) {
+            auto& sheet = static_cast<MacroSheet&>(dialog);
+            sheet.Tabs()->setCurrentIndex(1);
+            static_cast<LetterPage*>(sheet.Page(1))->Edit('J' - 'A')->setText("say sheet macro\\r");
+        }));
+        EXPECT_TRUE(SalmonIsRed(*client, 1)) << GameText(*client);
+        EXPECT_TRUE(CtrlJSays(*client, 1));
         client->Frame().close();
     }
     auto again = LoggedInClient();
     ASSERT_TRUE(again);
-    EXPECT_TRUE((this->*c.shows)(*again, 2)) << GameText(*again);
+    EXPECT_TRUE(SalmonIsRed(*again, 2)) << GameText(*again);
+    EXPECT_TRUE(CtrlJSays(*again, 2));
 }
-
-void AddRedSalmon(QDialog& dialog, RecordingDesktop& desktop)
-{
-    auto& sheet = static_cast<HighlightSheet&>(dialog);
-    sheet.Tabs()->setCurrentIndex(1);
-    HighlightPage& page = *sheet.Page(1);
-    desktop.answers = {"salmon"};
-    page.Button(PageButton::New)->click();
-    QTest::mouseClick(page.Grid(), Qt::LeftButton, {}, page.Grid()->CellRect(12).center());
-}
-
-void WriteCtrlJ(QDialog& dialog, RecordingDesktop&)
-{
-    auto& sheet = static_cast<MacroSheet&>(dialog);
-    sheet.Tabs()->setCurrentIndex(1);
-    static_cast<LetterPage*>(sheet.Page(1))->Edit('J' - 'A')->setText("say sheet macro\\r");
-}
-
-INSTANTIATE_TEST_SUITE_P(Sheets, SheetWorldTest,
-                         ::testing::Values(SheetCase{"Highlight", CMD_HIGHLIGHT_STRINGS,
-                                                     AddRedSalmon, &SheetWorldTest::SalmonIsRed},
-                                           SheetCase{"Macro", CMD_MACRO_KEYS, WriteCtrlJ,
-                                                     &SheetWorldTest::CtrlJSays}),
-                         [](const auto& info) { return info.param.name; });
 
 } // namespace
 } // namespace steward::test
