@@ -20,14 +20,12 @@ QByteArray ReplayText()
 
 class WorldModes : public ::testing::Test {
   protected:
-    QString Path(const char* name) const { return dir.filePath(name); }
-
     QTemporaryDir dir;
 };
 
 TEST_F(WorldModes, ReplaySendsTheFileBytesToEachConnection)
 {
-    QFile file(Path("replay.bin"));
+    QFile file(dir.filePath("replay.bin"));
     ASSERT_TRUE(file.open(QIODevice::WriteOnly));
     file.write(ReplayText());
     file.close();
@@ -47,7 +45,7 @@ TEST_F(WorldModes, ReplaySendsTheFileBytesToEachConnection)
 TEST_F(WorldModes, RecordKeepsEveryByteAClientSends)
 {
     WorldOptions options = TestWorld::QuietOptions();
-    options.recordFile = Path("record.bin");
+    options.recordFile = dir.filePath("record.bin");
     TestWorld world(options);
     TestClient mara(world.port);
     mara.Login("Mara");
@@ -85,7 +83,7 @@ TEST(FloodSource, EndsOnceAndOnlyOnce)
     EXPECT_TRUE(source.Next(40).isEmpty());
 }
 
-TEST(WorldProgram, PortZeroPrintsTheChosenPortAndServesPlayers)
+TEST(WorldProgram, PortZeroPrintsTheChosenPortAndServesPlayersHelpAndBadOptionsEndAtOnce)
 {
     QProcess program;
     program.start(WORLD_BINARY, {"--port", "0", "--quiet"});
@@ -103,19 +101,10 @@ TEST(WorldProgram, PortZeroPrintsTheChosenPortAndServesPlayers)
     program.waitForFinished();
     const QByteArray log = program.readAllStandardError();
     EXPECT_TRUE(log.contains("name Mara: quit")) << log.constData();
-}
 
-TEST(WorldProgram, RejectsABadOption)
-{
-    QProcess program;
     program.start(WORLD_BINARY, {"--port", "seventy"});
     ASSERT_TRUE(program.waitForFinished());
     EXPECT_NE(program.exitCode(), 0);
-}
-
-TEST(WorldProgram, HelpPrintsTheOptionsAndStartsNoServer)
-{
-    QProcess program;
     program.start(WORLD_BINARY, {"--help"});
     ASSERT_TRUE(program.waitForFinished());
     EXPECT_EQ(program.exitCode(), 0);

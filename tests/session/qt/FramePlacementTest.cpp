@@ -7,7 +7,7 @@
 namespace steward {
 namespace {
 
-TEST(FramePlacement, StoresTheNormalGeometry)
+TEST(FramePlacement, StoresTheNormalGeometryAndAppliesAStoredOneButNoDamagedOne)
 {
     QWidget window;
     window.setGeometry(100, 120, 640, 480);
@@ -17,23 +17,15 @@ TEST(FramePlacement, StoresTheNormalGeometry)
     ASSERT_TRUE(placement.GetWindowPlacement(record));
     EXPECT_EQ(record.length, WINDOWPLACEMENT_SIZE);
     EXPECT_EQ(record.showCmd, SW_SHOWNORMAL);
-    EXPECT_EQ(record.rcNormalPosition.left, 100);
-    EXPECT_EQ(record.rcNormalPosition.top, 120);
-    EXPECT_EQ(record.rcNormalPosition.right, 740);
-    EXPECT_EQ(record.rcNormalPosition.bottom, 600);
-}
+    const auto& normal = record.rcNormalPosition;
+    EXPECT_EQ(QRect(QPoint(normal.left, normal.top), QPoint(normal.right, normal.bottom)),
+              QRect(100, 120, 641, 481));
 
-TEST(FramePlacement, AppliesAStoredGeometryButNoDamagedOne)
-{
-    QWidget window;
-    window.setGeometry(10, 10, 400, 300);
-    FramePlacement placement(window);
-    WindowPlacementRecord record;
+    window.hide();
     record.rcNormalPosition = {50, 60, 850, 660};
     placement.SetWindowPlacement(record);
     EXPECT_EQ(window.geometry(), QRect(50, 60, 800, 600));
     EXPECT_TRUE(window.isVisible());
-
     record.rcNormalPosition = {0, 0, 10, 10};
     placement.SetWindowPlacement(record);
     EXPECT_EQ(window.geometry(), QRect(50, 60, 800, 600));
