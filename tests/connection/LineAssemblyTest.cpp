@@ -14,7 +14,7 @@ struct Case {
 
 std::string Bytes(const char* text, std::size_t length)
 {
-    return std::string(text, length);
+    return {text, length};
 }
 
 // Cuts a stream into blocks as a socket delivering 1024 bytes a read would.
@@ -89,30 +89,20 @@ TEST_F(LineAssemblyTest, LinesEndAtLineFeedTheLimitOrTheBlockUnlessHeld)
     }
 }
 
-TEST_F(LineAssemblyTest, HoldCanBeSwitchedOnBetweenBlocks)
+// Hold can be switched on between blocks; an overlong read is taken as several blocks; the read
+// size stays within the receive buffer.
+TEST_F(LineAssemblyTest, HoldSwitchAndReadSizes)
 {
     EXPECT_EQ(Receive({"Obvious exits: north\r\n>"}, false),
               (Lines{"Obvious exits: north\r\n", ">"}));
     EXPECT_EQ(Receive({"You g", "o north.\r\n"}, true), Lines{"You go north.\r\n"});
-}
-
-TEST_F(LineAssemblyTest, OverlongReadIsTakenAsSeveralBlocks)
-{
-    const std::string bytes(RECEIVE_CHUNK_MAX + 10, 'a');
-    EXPECT_EQ(Receive({bytes}, false),
+    EXPECT_EQ(Receive({std::string(RECEIVE_CHUNK_MAX + 10, 'a')}, false),
               (Lines{std::string(RECEIVE_CHUNK_MAX, 'a'), std::string(10, 'a')}));
-}
-
-TEST_F(LineAssemblyTest, ReadSizeStaysWithinTheReceiveBuffer)
-{
-    struct SizeCase {
-        std::int32_t asked;
-        std::size_t used;
-    };
-    for (const SizeCase c :
-         {SizeCase{1024, 1024}, {256, 256}, {2048, 2048}, {5000, 2048}, {100, 256}, {-1, 256}}) {
-        settings.ReceiveChunkSize = c.asked;
-        EXPECT_EQ(decoder.ReceiveChunkSize(), c.used) << c.asked;
+    const std::pair<std::int32_t, std::size_t> sizes[] = {{1024, 1024}, {256, 256}, {2048, 2048},
+                                                          {5000, 2048}, {100, 256}, {-1, 256}};
+    for (const auto& [asked, used] : sizes) {
+        settings.ReceiveChunkSize = asked;
+        EXPECT_EQ(decoder.ReceiveChunkSize(), used) << asked;
     }
 }
 

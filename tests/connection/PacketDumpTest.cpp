@@ -1,7 +1,7 @@
 #include "connection/PacketDump.h"
 
 #include "config/LogHost.h"
-#include "connection/RecordingSink.h"
+#include "connection/DecoderFixture.h"
 #include "connection/StreamDecoder.h"
 #include "support/TempFolder.h"
 
@@ -65,39 +65,6 @@ TEST_F(PacketDumpTest, BlocksAreListedAsHexRowsWithTheirText)
     }
 }
 
-TEST_F(PacketDumpTest, ClosedDumpWritesNothing)
-{
-    dump.Close();
-    DumpPacket(dump, "ignored");
-    EXPECT_EQ(dump.Count(), 0u);
-    EXPECT_EQ(ReadBytes(path), "");
-}
-
-TEST_F(PacketDumpTest, RowsThatDoNotFitAreLostWithoutTheirLineEnds)
-{
-    const std::string filler(LOG_BUFFER_SIZE - 100, 'x');
-    ASSERT_TRUE(dump.Write(filler.c_str()));
-    std::string row;
-    for (int i = 0; i < 16; ++i)
-        row += "61 ";
-    row += "  " + std::string(16, 'a');
-    EXPECT_EQ(Dumped(std::string(64, 'a')),
-              filler + "\r\n\r\n---- (64 bytes)\r\n" + row + "\r\n" + "\r\n\r\n\r\n");
-}
-
-TEST_F(PacketDumpTest, ReceivedBlockIsDumpedUpToItsFirstNul)
-{
-    testing::RecordingSink sink;
-    Settings settings;
-    StreamDecoder decoder{sink, dump, settings};
-    const std::string block("ab\n\0cd\n", 7);
-    decoder.HandleSocketEvent(block.data(), block.size());
-    dump.Close();
-    EXPECT_EQ(ReadBytes(path), "\r\n\r\n---- (3 bytes)\r\n"
-                               "61 62 0A                                          ab.\r\n");
-    EXPECT_EQ(sink.lines, std::vector<std::string>{"ab\n"});
-}
-
 class RecordingPrinter : public LogHost {
   public:
     bool AskSaveFileName(const SaveFileRequest&, char*, std::size_t) override { return false; }
@@ -107,14 +74,38 @@ class RecordingPrinter : public LogHost {
     std::vector<std::string> printed;
 };
 
-TEST_F(PacketDumpTest, OpenDumpIsAnnouncedInTheGameWindow)
+// An open dump is announced in the Game window and takes a received block up to its first NUL;
+// rows that do not fit are lost without their line ends; a closed dump writes nothing.
+TEST_F(PacketDumpTest, ReceivedBlocksAnnounceFullBufferAndClosedDump)
 {
     RecordingPrinter host;
     AnnouncePacketDump(dump, host);
+    testing::RecordingSink sink;
+    Settings settings;
+    StreamDecoder decoder{sink, dump, settings};
+    const std::string block("ab\n\0cd\n", 7);
+    decoder.HandleSocketEvent(block.data(), block.size());
+    EXPECT_EQ(sink.lines, std::vector<std::string>{"ab\n"});
     dump.Close();
+    EXPECT_EQ(ReadBytes(path),
+              "\r\n\r\n---- (3 bytes)\r\n61 62 0A" + std::string(42, ' ') + "ab.\r\n");
+
+    ASSERT_TRUE(dump.OpenNew(path.c_str()));
+    const std::string filler(LOG_BUFFER_SIZE - 100, 'x');
+    ASSERT_TRUE(dump.Write(filler.c_str()));
+    std::string row;
+    for (int i = 0; i < 16; ++i)
+        row += "61 ";
+    row += "  " + std::string(16, 'a');
+    EXPECT_EQ(Dumped(std::string(64, 'a')),
+              filler + "\r\n\r\n---- (64 bytes)\r\n" + row + "\r\n" + "\r\n\r\n\r\n");
+
     AnnouncePacketDump(dump, host);
     EXPECT_EQ(host.printed, std::vector<std::string>{
                                 "\r\n\r\n*******\r\n Packet Dump file is ACTIVE!\r\n*******\r\n"});
+    DumpPacket(dump, "ignored");
+    EXPECT_EQ(dump.Count(), 0u);
+    EXPECT_EQ(ReadBytes(path).find("ignored"), std::string::npos);
 }
 
 } // namespace

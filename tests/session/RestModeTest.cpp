@@ -20,6 +20,8 @@ void Tick(RestState& rest, RecordingSender& sender, int times)
         rest.OnTimer(sender);
 }
 
+// Resting sends on the hundred and twenty-first tick, a silent rest only asks for experience,
+// entering again starts the count afresh, and nothing is sent when not resting.
 TEST(RestMode, SendsOnTheHundredAndTwentyFirstTick)
 {
     RestState rest;
@@ -33,38 +35,22 @@ TEST(RestMode, SendsOnTheHundredAndTwentyFirstTick)
     EXPECT_EQ(sender.sent.size(), 2u);
     Tick(rest, sender, 1);
     EXPECT_EQ(sender.sent.size(), 4u);
-}
 
-TEST(RestMode, SilentRestOnlyAsksForExperience)
-{
-    RestState rest;
-    RecordingSender sender;
+    sender.sent.clear();
     rest.Enter(true);
     Tick(rest, sender, 121);
     EXPECT_EQ(sender.sent, (std::vector<std::string>{"exper"}));
-}
 
-TEST(RestMode, NothingWhenNotResting)
-{
-    RestState rest;
-    RecordingSender sender;
-    Tick(rest, sender, 500);
-    EXPECT_TRUE(sender.sent.empty());
-    EXPECT_FALSE(rest.Leave());
-}
-
-TEST(RestMode, EnteringAgainStartsTheCountAfresh)
-{
-    RestState rest;
-    RecordingSender sender;
+    sender.sent.clear();
     rest.Enter(false);
     Tick(rest, sender, 100);
     rest.Enter(false);
     Tick(rest, sender, 100);
     EXPECT_TRUE(sender.sent.empty());
     EXPECT_TRUE(rest.Leave());
-    Tick(rest, sender, 100);
+    Tick(rest, sender, 500);
     EXPECT_TRUE(sender.sent.empty());
+    EXPECT_FALSE(rest.Leave());
 }
 
 } // namespace

@@ -15,12 +15,10 @@ namespace {
 
 class CountingListener : public SocketListener {
   public:
-    explicit CountingListener(std::size_t size) : blockSize(size) {}
     std::size_t BlockSize() const override { return blockSize; }
     void ReceiveBlock(const char*, std::size_t length) override { received += length; }
     void ConnectionClosed() override {}
-
-    std::size_t blockSize;
+    std::size_t blockSize = 0;
     std::size_t received = 0;
 };
 
@@ -35,7 +33,8 @@ TEST(QtGameSocketFlood, AStreamLongerThanTheReadAheadArrivesWhole)
          {std::size_t(1024), std::size_t(RECEIVE_CHUNK_MAX), std::size_t(1000), std::size_t(64)}) {
         QTcpServer server;
         ASSERT_TRUE(server.listen(QHostAddress::LocalHost, 0));
-        CountingListener listener(blockSize);
+        CountingListener listener;
+        listener.blockSize = blockSize;
         QtGameSocket socket{listener};
         ASSERT_TRUE(socket.Open("127.0.0.1", server.serverPort(), 5000));
         ASSERT_TRUE(server.waitForNewConnection(5000));

@@ -56,54 +56,33 @@ class QtGameSocketTest : public ::testing::Test {
     QtGameSocket socket{listener};
 };
 
-TEST_F(QtGameSocketTest, ConnectsToAListenerOnLoopback)
-{
-    EXPECT_TRUE(OpenAndAccept());
-}
-
-TEST(QtGameSocket, ClosedPortFails)
-{
-    quint16 port = 0;
-    {
-        QTcpServer probe;
-        ASSERT_TRUE(probe.listen(QHostAddress::LocalHost, 0));
-        port = probe.serverPort();
-    }
-    RecordingListener listener;
-    QtGameSocket socket{listener};
-    EXPECT_FALSE(socket.Open("127.0.0.1", port, 5000));
-}
-
-TEST_F(QtGameSocketTest, ReadsOneBlockPerTurnNoLargerThanAsked)
+// Each turn reads one block no larger than asked, and the drop comes after the last bytes.
+TEST_F(QtGameSocketTest, ReadsOneBlockPerTurnNoLargerThanAskedAndTheDropComesLast)
 {
     ASSERT_TRUE(OpenAndAccept());
     listener.blockSize = 256;
-    std::string sent(1000, 'a');
+    const std::string sent(1000, 'a');
     peer->write(sent.data(), static_cast<qint64>(sent.size()));
     peer->flush();
     ASSERT_TRUE(QTest::qWaitFor([&] { return listener.All().size() == sent.size(); }, 5000));
     for (const std::string& block : listener.blocks)
         EXPECT_LE(block.size(), 256u);
     EXPECT_GE(listener.blocks.size(), 4u);
-    EXPECT_EQ(listener.All(), sent);
-}
 
-TEST_F(QtGameSocketTest, DropComesAfterTheLastReceivedBytes)
-{
-    ASSERT_TRUE(OpenAndAccept());
     listener.blockSize = 16;
-    std::string last(100, 'z');
+    const std::string last(100, 'z');
     peer->write(last.data(), static_cast<qint64>(last.size()));
     peer->flush();
     peer->disconnectFromHost();
     ASSERT_TRUE(QTest::qWaitFor([&] { return listener.closed == 1; }, 5000));
-    EXPECT_EQ(listener.All(), last);
+    EXPECT_EQ(listener.All(), sent + last);
     socket.Write("x", 1);
     QTest::qWait(20);
     EXPECT_EQ(listener.closed, 1);
 }
 
-TEST_F(QtGameSocketTest, OwnCloseIsNoDropAndSendsWhatWasQueued)
+// The program's own close is no drop and sends what was queued; a closed port fails.
+TEST_F(QtGameSocketTest, OwnCloseIsNoDropAndAClosedPortFails)
 {
     ASSERT_TRUE(OpenAndAccept());
     socket.Write("quit\n\r", 6);
@@ -119,6 +98,12 @@ TEST_F(QtGameSocketTest, OwnCloseIsNoDropAndSendsWhatWasQueued)
     EXPECT_EQ(got, QByteArray("quit\n\r"));
     QTest::qWait(20);
     EXPECT_EQ(listener.closed, 0);
+
+    const quint16 port = server.serverPort();
+    server.close();
+    RecordingListener other;
+    QtGameSocket closed{other};
+    EXPECT_FALSE(closed.Open("127.0.0.1", port, 5000));
 }
 
 } // namespace
