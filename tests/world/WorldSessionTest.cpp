@@ -29,42 +29,6 @@ TEST(WorldLogin, AsksForANameShowsTheFirstRoomAndRefusesBadAndTakenNames)
     EXPECT_FALSE(other.ReadUntil("already walks these streets").isEmpty());
 }
 
-// Each way out leads to a room with its exit list; blocked ways and unknown commands get a plain
-// answer.
-TEST(WorldMoves, EachCommandGetsItsRoomOrItsAnswer)
-{
-    TestWorld world;
-    TestClient mara(world.port);
-    mara.Login("Mara");
-    const struct {
-        const char* command;
-        const char* title;
-        const char* exits;
-    } route[] = {
-        {"n", "[Thornmere, Lantern Street]", "Obvious exits: south, northwest, up."},
-        {"climb ladder", "[Thornmere, Bell Tower]", "Obvious exits: down."},
-        {"up", "You can't go that way.", ""},
-        {"down", "[Thornmere, Lantern Street]", "Obvious exits: south, northwest, up."},
-        {"northwest", "[Thornmere, North Gate]", "Obvious exits: southeast."},
-        {"go gate", "[Outside Thornmere, Meadow]", "Obvious exits: none."},
-        {"xyzzy", "What?", ""},
-        {"go gate", "[Thornmere, North Gate]", "Obvious exits: southeast."},
-        {"se", "[Thornmere, Lantern Street]", "Obvious exits: south, northwest, up."},
-        {"south", "[Thornmere, Market Square]", "Obvious exits: north, east, south, west,"},
-        {"swim moat", "You see no moat to swim here.", ""},
-        {"e", "[Thornmere, Harbour Road]", "Obvious exits: west, east."},
-        {"go door", "[Thornmere, The Sleeping Otter]", "Obvious exits: out."},
-        {"out", "[Thornmere, Harbour Road]", "Obvious exits: west, east."},
-        {"east", "[Thornmere, The Quay]", "Obvious exits: west, southwest*."},
-    };
-    for (const auto& move : route) {
-        mara.Send(move.command);
-        const QByteArray answer = mara.ReadUntil("\r\n>");
-        EXPECT_TRUE(answer.contains(move.title)) << move.command << ": " << answer.constData();
-        EXPECT_TRUE(answer.contains(move.exits)) << move.command << ": " << answer.constData();
-    }
-}
-
 class TwoPlayers : public ::testing::Test {
   protected:
     void SetUp() override

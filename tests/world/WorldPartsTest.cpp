@@ -1,8 +1,41 @@
+#include "FloodSource.h"
+#include "LineReader.h"
 #include "StatusRecord.h"
+
+#include <QByteArrayList>
 
 #include <gtest/gtest.h>
 
 namespace {
+
+TEST(LineReader, SplitsEveryLineEndConventionDropsControlBytesAndCutsOverlongLines)
+{
+    const struct {
+        const char* name;
+        QByteArrayList pieces;
+        QByteArrayList expected;
+    } cases[] = {
+        {"LF CR", {"look\n\rsay hi\n\r"}, {"look", "say hi"}},
+        {"CR LF", {"look\r\nsay hi\r\n"}, {"look", "say hi"}},
+        {"LF", {"look\nsay hi\n"}, {"look", "say hi"}},
+        {"empty lines kept", {"\n\r\n\r"}, {"", ""}},
+        {"two LF are two lines", {"a\n\nb\n"}, {"a", "", "b"}},
+        {"partial line waits", {"loo"}, {}},
+        {"a line in pieces", {"lo", "ok\n", "\r"}, {"look"}},
+        {"control and non-ASCII bytes", {QByteArray("lo\0o\x1b\x07k\x80\xff\n", 10)}, {"look"}},
+        {"overlong line cut",
+         {QByteArray(100000, 'x') + "\nlook\n"},
+         {QByteArray(LineReader::MaxLineLength, 'x'), "look"}},
+    };
+    for (const auto& c : cases) {
+        LineReader reader;
+        QByteArrayList lines;
+        for (const QByteArray& piece : c.pieces)
+            reader.Feed(piece.constData(), piece.size(),
+                        [&](const QByteArray& l) { lines.append(l); });
+        EXPECT_EQ(lines, c.expected) << c.name;
+    }
+}
 
 // Every field at its offset; the round time is its seconds plus one, or zero when idle; values
 // are clamped so that no field reads as negative.
@@ -34,6 +67,17 @@ TEST(StatusRecord, PutsEveryFieldAtItsOffsetClampedAndTheRoundTimeAsSecondsPlusO
     EXPECT_EQ(clamped.mid(7, 4), "7FFF");
     EXPECT_EQ(clamped.mid(35, 8), "7FFFFFFF");
     EXPECT_EQ(clamped.size(), StatusRecordLength);
+}
+
+TEST(FloodSource, EndsOnceAndOnlyOnce)
+{
+    FloodSource source(100, 3);
+    QByteArray all;
+    while (!source.Done())
+        all += source.Next(40);
+    EXPECT_TRUE(all.endsWith("FLOOD-END\r\n"));
+    EXPECT_EQ(all.size(), 100 + qstrlen(FloodSource::EndLine));
+    EXPECT_TRUE(source.Next(40).isEmpty());
 }
 
 } // namespace
