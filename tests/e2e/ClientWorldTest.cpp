@@ -1,20 +1,42 @@
 #include "ClientHarness.h"
 #include "base/FrameCommand.h"
+#include "commands/qt/MacroSheet.h"
 #include "config/BinaryRecords.h"
 #include "config/IniStore.h"
+#include "highlights/qt/ColorGrid.h"
+#include "highlights/qt/HighlightSheet.h"
+#include "session/ReconnectPlan.h"
 #include "support/RunLoopUntil.h"
 
 #include <QDir>
 #include <QLineEdit>
+#include <QPushButton>
+#include <QTabWidget>
 #include <QTimer>
 
 #include <algorithm>
+#include <functional>
 #include <map>
 
 namespace steward::test {
 namespace {
 
-using ClientWorldTest = ClientHarness;
+// Long enough for the first try to have come, had one been due.
+constexpr int PAST_FIRST_TRY_MS = RECONNECT_FIRST_WAIT_S * 1000 + 700;
+
+class ClientWorldTest : public ClientHarness {
+  protected:
+    // The world ends and starts again on its port, as a server does after a restart.
+    void RestartWorld()
+    {
+        const int port = world->port;
+        world->Stop();
+        world = std::make_unique<WorldProcess>(folder.filePath("sent.bin"),
+                                               QStringList{"--port", QString::number(port)});
+        // Told a port, the world greets with a sentence instead of the number.
+        world->port = port;
+    }
+};
 
 TEST_F(ClientWorldTest, ALoggedInClientSendsWhatIsTypedOrChosenAndComesBackAfterAQuit)
 {
@@ -232,6 +254,118 @@ TEST_F(ClientWorldTest, LoopTurnsBetweenTheBlocksOfAFlood)
     ASSERT_TRUE(steward::testing::RunLoopUntil(
         [&] { return GameTail(*client, 64).find("FLOOD-END") != std::string::npos; }, 60000));
     EXPECT_GT(ticks, 100) << GameTail(*client, 300);
+}
+
+TEST_F(ClientWorldTest, WithTheOptionOnAClientDroppedByTheWorldComesBackAndAsksForStatusAgain)
+{
+    auto client = LoggedInClient();
+    ASSERT_NE(client, nullptr);
+    client->State().Steward.Set(RECONNECT_ON_DROP, true);
+    RestartWorld();
+    ASSERT_TRUE(WaitForGameText(*client, "* Connection to the game has been dropped."));
+    EXPECT_TRUE(WaitForGameText(*client, "*** Reconnecting in 2 seconds (try 1 of 10)..."));
+
+    ASSERT_TRUE(WaitForGameText(*client, "*** Reconnected to the game."));
+    EXPECT_FALSE(client->IsDisconnected());
+    EXPECT_TRUE(desktop.messages.empty());
+    ExpectStatusRecordsAskedAgain(*client);
+}
+
+TEST_F(ClientWorldTest, NothingIsTriedWithTheOptionOffAfterTheQuitOrAfterAConnectByHand)
+{
+    enum class Drop { WorldRestarts, PlayerQuits, WorldGoneThenConnectByHand };
+    const struct {
+        const char* name;
+        bool option;
+        Drop drop;
+    } cases[] = {
+        {"option off", false, Drop::WorldRestarts},
+        {"the player's quit", true, Drop::PlayerQuits},
+        {"a failed connect by hand", true, Drop::WorldGoneThenConnectByHand},
+    };
+    for (const auto& c : cases) {
+        world = std::make_unique<WorldProcess>(folder.filePath("sent.bin"));
+        auto client = LoggedInClient();
+        ASSERT_NE(client, nullptr) << c.name;
+        client->State().Steward.Set(RECONNECT_ON_DROP, c.option);
+        if (c.drop == Drop::PlayerQuits)
+            Type(*client, "quit");
+        else if (c.drop == Drop::WorldRestarts)
+            RestartWorld();
+        else
+            world->Stop();
+        ASSERT_TRUE(WaitForGameText(*client, "* Connection to the game has been dropped."))
+            << c.name;
+        if (c.drop == Drop::WorldGoneThenConnectByHand) {
+            ASSERT_TRUE(WaitForGameText(*client, "*** Reconnecting in 2 seconds")) << c.name;
+            client->OnCommand(CMD_CONNECT);
+            EXPECT_EQ(desktop.messages,
+                      std::vector<std::string>{"Fatal Error|Unable to connect to the server!"});
+        }
+        QTest::qWait(PAST_FIRST_TRY_MS);
+        EXPECT_TRUE(client->IsDisconnected()) << c.name;
+        EXPECT_EQ(GameText(*client).find("server! (try"), std::string::npos) << c.name;
+        EXPECT_EQ(GameText(*client).find("Reconnected"), std::string::npos) << c.name;
+        client->Frame().close();
+        desktop.messages.clear();
+    }
+}
+
+// Runs the command's modal sheet, edited and closed with OK from inside its own loop.
+bool EditInSheet(Client& client, int command, const std::function<void(QDialog&)>& edit)
+{
+    bool edited = false;
+    QTimer::singleShot(0, [&] {
+        if (auto* sheet = qobject_cast<QDialog*>(QApplication::activeModalWidget())) {
+            edit(*sheet);
+            sheet->accept();
+            edited = true;
+        }
+    });
+    client.OnCommand(command);
+    return edited;
+}
+
+TEST_F(ClientWorldTest, EditsInTheHighlightAndMacroSheetsWorkInTheGameAndSurviveARestart)
+{
+    // The first round looks again, the second sees the room of its login.
+    const auto salmonIsRed = [&](Client& client, int round) {
+        if (round == 1)
+            Type(client, "look");
+        const std::string red = std::string(ColorOnText(12)) + "salmon" + ColorOffText(12);
+        return WaitForBytes(client.State().Windows.GameWindow, red);
+    };
+    const auto ctrlJSays = [&](Client& client, int round) {
+        QApplication::setActiveWindow(&client.Frame());
+        client.Frame().CommandLine()->setFocus();
+        QTest::keyClick(client.Frame().CommandLine(), Qt::Key_J, Qt::ControlModifier);
+        return QTest::qWaitFor([&] { return Sent().count("say sheet macro\n\r") == round; },
+                               WAIT_MS);
+    };
+    {
+        auto client = LoggedInClient();
+        ASSERT_TRUE(client);
+        ASSERT_TRUE(EditInSheet(*client, CMD_HIGHLIGHT_STRINGS, [&](QDialog& dialog) {
+            auto& sheet = static_cast<HighlightSheet&>(dialog);
+            sheet.Tabs()->setCurrentIndex(1);
+            HighlightPage& page = *sheet.Page(1);
+            desktop.answers = {"salmon"};
+            page.Button(PageButton::New)->click();
+            QTest::mouseClick(page.Grid(), Qt::LeftButton, {}, page.Grid()->CellRect(12).center());
+        }));
+        ASSERT_TRUE(EditInSheet(*client, CMD_MACRO_KEYS, [](QDialog& dialog) {
+            auto& sheet = static_cast<MacroSheet&>(dialog);
+            sheet.Tabs()->setCurrentIndex(1);
+            static_cast<LetterPage*>(sheet.Page(1))->Edit('J' - 'A')->setText("say sheet macro\\r");
+        }));
+        EXPECT_TRUE(salmonIsRed(*client, 1)) << GameText(*client);
+        EXPECT_TRUE(ctrlJSays(*client, 1));
+        client->Frame().close();
+    }
+    auto again = LoggedInClient();
+    ASSERT_TRUE(again);
+    EXPECT_TRUE(salmonIsRed(*again, 2)) << GameText(*again);
+    EXPECT_TRUE(ctrlJSays(*again, 2));
 }
 
 } // namespace

@@ -223,6 +223,8 @@ TEST_F(ClientCommandsTest, DisplayModesMoveTheTextAreaAndThePanel)
         QWidget* last = surface.childAt(surface.width() - 108 + 3 * 26 + 5, surface.height() - 20);
         ASSERT_TRUE(last) << c.command;
         EXPECT_EQ(last->toolTip(), QStringLiteral("Unready your shield"));
+        QWidget* line = frame.CommandLine();
+        EXPECT_EQ(line->geometry().bottom(), surface.height() - 5) << c.command;
     }
 }
 

@@ -45,9 +45,9 @@ class FrameWindowTest : public ::testing::Test {
     std::unique_ptr<FrameWindow> frame;
 };
 
-// Menu items trigger their command numbers and follow the live state when refreshed; the layout
-// follows the display mode; closing asks the program.
-TEST_F(FrameWindowTest, MenusLayoutAndCloseAreWiredToTheProgram)
+// Menu items trigger their command numbers and follow the live state when refreshed; closing
+// asks the program.
+TEST_F(FrameWindowTest, MenusAndCloseAreWiredToTheProgram)
 {
     frame->Menu().Action(CMD_INFO_GENERAL)->trigger();
     frame->Menu().Action(CMD_AUTO_ARRANGE)->trigger();
@@ -61,20 +61,6 @@ TEST_F(FrameWindowTest, MenusLayoutAndCloseAreWiredToTheProgram)
     EXPECT_TRUE(frame->Menu().Action(CMD_RESET_STEWARD_MODE)->isEnabled());
     EXPECT_TRUE(frame->Menu().Action(CMD_FULL_SCREEN)->isChecked());
     EXPECT_FALSE(frame->Menu().Action(CMD_GRAPHICS_AT_TOP)->isChecked());
-
-    QLineEdit line;
-    frame->SetCommandLine(&line);
-    const QSize surface = frame->Surface().size();
-    const int h = line.sizeHint().height();
-    for (std::uint8_t mode = 0; mode < 3; ++mode) {
-        frame->SetDisplayMode(mode);
-        const Rect place = LayoutFrame(surface.width(), surface.height(), h, mode).MdiClient;
-        EXPECT_EQ(frame->Mdi().geometry(),
-                  QRect(place.left, place.top, place.Width(), place.Height()))
-            << int(mode);
-        EXPECT_EQ(line.geometry().y(), surface.height() - h - 4);
-    }
-    line.setParent(nullptr);
 
     frame->close();
     EXPECT_TRUE(frame->isVisible());
