@@ -1,4 +1,6 @@
 #include "connection/qt/QtGameSocket.h"
+#include "config/Settings.h"
+#include "support/RunLoopUntil.h"
 
 #include <QHostAddress>
 #include <QTcpServer>
@@ -20,6 +22,7 @@ class RecordingListener : public SocketListener {
     void ReceiveBlock(const char* bytes, std::size_t length) override
     {
         blocks.emplace_back(bytes, length);
+        received += length;
     }
     void ConnectionClosed() override { ++closed; }
 
@@ -34,6 +37,7 @@ class RecordingListener : public SocketListener {
     std::size_t blockSize = 1024;
     std::vector<std::string> blocks;
     int closed = 0;
+    std::size_t received = 0;
 };
 
 class QtGameSocketTest : public ::testing::Test {
@@ -104,6 +108,28 @@ TEST_F(QtGameSocketTest, OwnCloseIsNoDropAndAClosedPortFails)
     RecordingListener other;
     QtGameSocket closed{other};
     EXPECT_FALSE(closed.Open("127.0.0.1", port, 5000));
+}
+
+// A stream many times longer than the socket reads ahead arrives whole without anything else
+// turning the loop, whatever the block size, also one that fills the read-ahead exactly.
+TEST(QtGameSocketFlood, AStreamLongerThanTheReadAheadArrivesWhole)
+{
+    constexpr qint64 Total = 64 * RECEIVE_CHUNK_MAX * 16;
+    for (std::size_t blockSize :
+         {std::size_t(1024), std::size_t(RECEIVE_CHUNK_MAX), std::size_t(1000), std::size_t(64)}) {
+        QTcpServer server;
+        ASSERT_TRUE(server.listen(QHostAddress::LocalHost, 0));
+        RecordingListener listener;
+        listener.blockSize = blockSize;
+        QtGameSocket socket{listener};
+        ASSERT_TRUE(socket.Open("127.0.0.1", server.serverPort(), 5000));
+        ASSERT_TRUE(server.waitForNewConnection(5000));
+        std::unique_ptr<QTcpSocket> peer(server.nextPendingConnection());
+        peer->write(QByteArray(Total, 'a'));
+        EXPECT_TRUE(steward::testing::RunLoopUntil(
+            [&] { return listener.received == static_cast<std::size_t>(Total); }, 10000))
+            << "block " << blockSize << ": " << listener.received << " of " << Total;
+    }
 }
 
 } // namespace
