@@ -65,7 +65,9 @@ class AnalysisWorldTest : public ClientHarness {
     }
 };
 
-TEST_F(AnalysisWorldTest, HighlightsSpeechThoughtsAndArrivalsReachTheirWindows)
+// Highlights, speech, thoughts and arrivals reach their windows; status records feed the gauges,
+// and the round time of a fight counts down.
+TEST_F(AnalysisWorldTest, WhatTheWorldSendsReachesTheWindowsAndTheGauges)
 {
     WriteFile("Default.Highlights", "012 \"{Chime}salmon\"\n");
     auto client = LoggedInClient();
@@ -109,13 +111,7 @@ TEST_F(AnalysisWorldTest, HighlightsSpeechThoughtsAndArrivalsReachTheirWindows)
     EXPECT_TRUE(std::regex_search(WindowBytes(arrivals), clock)) << WindowBytes(arrivals);
     EXPECT_EQ(GameText(*client).find("Who left the gate open?"), std::string::npos);
     EXPECT_EQ(GameText(*client).find("just arrived in the world"), std::string::npos);
-}
 
-TEST_F(AnalysisWorldTest, StatusRecordsFeedTheGaugesAndTheRoundTimeOfAFightCountsDown)
-{
-    auto client = LoggedInClient();
-    ASSERT_TRUE(client);
-    ASSERT_TRUE(WaitForSent("Set Steward On\n\r"));
     StatusPanel& panel = client->State().Panel;
     // The "Hp:" gauge stands at (64, 4), 60 wide; its value box 4 pixels to the right.
     MultiControl* hpValue = ControlAt(*client, 130, 8);
