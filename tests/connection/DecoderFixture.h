@@ -4,7 +4,7 @@
 #include "connection/PacketDump.h"
 #include "connection/StreamDecoder.h"
 
-#include "connection/RecordingSink.h"
+#include "connection/GameLineSink.h"
 
 #include <gtest/gtest.h>
 
@@ -14,6 +14,13 @@
 namespace steward::testing {
 
 using Lines = std::vector<std::string>;
+
+// Keeps each line as later stages see it: up to its first NUL.
+class RecordingSink : public GameLineSink {
+  public:
+    void ProcessGameLine(const char* line) override { lines.emplace_back(line); }
+    Lines lines;
+};
 
 // A decoder with default settings and no open dump, handing its lines to a recording sink.
 class DecoderTest : public ::testing::Test {

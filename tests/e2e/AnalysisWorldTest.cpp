@@ -2,7 +2,9 @@
 #include "base/ByteText.h"
 #include "base/FrameCommand.h"
 #include "config/ConfigFiles.h"
+#include "panels/qt/MultiControlWidget.h"
 
+#include <QImage>
 #include <QTcpSocket>
 
 #include <algorithm>
@@ -20,7 +22,6 @@ class OtherPlayer {
         connected = socket.waitForConnected(WAIT_MS);
         Say(name);
     }
-
     void Say(const char* line)
     {
         socket.write(QByteArray(line) + "\r\n");
@@ -33,83 +34,91 @@ class OtherPlayer {
 
 class AnalysisWorldTest : public ClientHarness {
   protected:
-    std::string SoundFile(const char* name) const
+    bool SoundAsked(const char* name) const
     {
-        return SoundPath(MakeConfigFiles(folder.path().toStdString())) + "/" + name;
-    }
-
-    bool SoundAsked(const std::string& path) const
-    {
+        const std::string path =
+            SoundPath(MakeConfigFiles(folder.path().toStdString())) + "/" + name;
         const std::vector<std::string>& asked = desktop.sounds.asked;
         return std::find(asked.begin(), asked.end(), path) != asked.end();
     }
+
+    // The panel's control at a point of the frame, with graphics at the top.
+    static MultiControl* ControlAt(Client& client, int x, int y)
+    {
+        return qobject_cast<MultiControl*>(client.Frame().Surface().childAt(x, y));
+    }
+    static std::string BoxText(MultiControl* box)
+    {
+        auto* handler = box ? dynamic_cast<TextBoxHandler*>(&box->Handler()) : nullptr;
+        return handler ? handler->Text().Text() : "";
+    }
+    // Pixels of the gauge's text colour: the stacked seconds of a countdown.
+    static int TextPixels(MultiControl* gauge)
+    {
+        QImage image(gauge->size(), QImage::Format_RGB32);
+        gauge->render(&image);
+        int count = 0;
+        for (int y = 1; y < image.height() - 1; ++y)
+            for (int x = 1; x < image.width() - 1; ++x)
+                count += image.pixel(x, y) == qRgb(255, 255, 255);
+        return count;
+    }
 };
 
-TEST_F(AnalysisWorldTest, AnotherPlayersSpeechArrivesWithTheSpeakerColoured)
+// Highlights, speech, thoughts and arrivals reach their windows; status records feed the gauges,
+// and the round time of a fight counts down.
+TEST_F(AnalysisWorldTest, WhatTheWorldSendsReachesTheWindowsAndTheGauges)
 {
+    WriteFile("Default.Highlights", "012 \"{Chime}salmon\"\n");
     auto client = LoggedInClient();
     ASSERT_TRUE(client);
-    OtherPlayer mara(world->port, "Mara");
-    ASSERT_TRUE(mara.connected);
-    mara.Say("say Well met, stranger.");
-
     AnsiWindow* game = client->State().Windows.GameWindow;
-    const unsigned char says = client->State().Profile.Settings.SaysColor;
-    const std::string off = ColorOffText(says);
-    ASSERT_TRUE(WaitForBytes(game, "Mara says," + off + " \"Well met, stranger.\""))
-        << WindowBytes(game);
-    const std::string bytes = WindowBytes(game);
-    const std::size_t speaker = bytes.rfind("Mara says,");
-    const std::size_t lineStart = bytes.rfind('\n', speaker);
-    const std::size_t on = bytes.find(ColorOnText(says), lineStart);
-    EXPECT_LT(on, speaker) << bytes.substr(lineStart);
-}
+    EXPECT_TRUE(
+        WaitForBytes(game, std::string("leaping ") + ColorOnText(12) + "salmon" + ColorOffText(12)))
+        << GameText(*client);
+    EXPECT_TRUE(SoundAsked("Chime.WAV"));
+    EXPECT_TRUE(SoundAsked("Chime.wav"));
 
-TEST_F(AnalysisWorldTest, ThoughtLandsInTheOpenThoughtWindowInItsCompactForm)
-{
-    auto client = LoggedInClient();
-    ASSERT_TRUE(client);
     client->OnCommand(CMD_OPEN_THOUGHT_WINDOW);
-    AnsiWindow* thoughts = client->State().Windows.ThoughtWindow;
-    ASSERT_NE(thoughts, nullptr);
-    OtherPlayer mara(world->port, "Mara");
-    ASSERT_TRUE(mara.connected);
-    mara.Say("think Who left the gate open?");
-    mara.Say("contact Tester Meet me by the fountain.");
-
-    EXPECT_TRUE(WaitForBytes(thoughts, "[Mara]: \"Who left the gate open?\""))
-        << WindowBytes(thoughts);
-    EXPECT_TRUE(WaitForBytes(thoughts, "[Mara (Private)]: \"Meet me by the fountain.\""))
-        << WindowBytes(thoughts);
-    EXPECT_EQ(GameText(*client).find("Who left the gate open?"), std::string::npos);
-}
-
-TEST_F(AnalysisWorldTest, ArrivalLandsInTheOpenArrivalWindowWithTheClock)
-{
-    auto client = LoggedInClient();
-    ASSERT_TRUE(client);
     client->OnCommand(CMD_OPEN_ARRIVAL_WINDOW);
+    AnsiWindow* thoughts = client->State().Windows.ThoughtWindow;
     AnsiWindow* arrivals = client->State().Windows.ArrivalWindow;
-    ASSERT_NE(arrivals, nullptr);
+    ASSERT_TRUE(thoughts && arrivals);
     {
         OtherPlayer mara(world->port, "Mara");
         ASSERT_TRUE(mara.connected);
         ASSERT_TRUE(WaitForBytes(arrivals, "Mara arrived at "));
+        mara.Say("say Well met, stranger.");
+        mara.Say("think Who left the gate open?");
+        mara.Say("contact Tester Meet me by the fountain.");
+        const unsigned char says = client->State().Profile.Settings.SaysColor;
+        ASSERT_TRUE(WaitForBytes(game, std::string("Mara says,") + ColorOffText(says) +
+                                           " \"Well met, stranger.\""))
+            << WindowBytes(game);
+        const std::string bytes = WindowBytes(game);
+        const std::size_t speaker = bytes.rfind("Mara says,");
+        const std::size_t lineStart = bytes.rfind('\n', speaker);
+        EXPECT_LT(bytes.find(ColorOnText(says), lineStart), speaker) << bytes.substr(lineStart);
+        EXPECT_TRUE(WaitForBytes(thoughts, "[Mara]: \"Who left the gate open?\""))
+            << WindowBytes(thoughts);
+        EXPECT_TRUE(WaitForBytes(thoughts, "[Mara (Private)]: \"Meet me by the fountain.\""))
+            << WindowBytes(thoughts);
         mara.Say("quit");
         ASSERT_TRUE(WaitForBytes(arrivals, "Mara left at ")) << WindowBytes(arrivals);
     }
     const std::regex clock("Mara arrived at (1[0-2]|[1-9]):[0-5][0-9] [ap]m\\.\n"
                            "Mara left at (1[0-2]|[1-9]):[0-5][0-9] [ap]m\\.");
     EXPECT_TRUE(std::regex_search(WindowBytes(arrivals), clock)) << WindowBytes(arrivals);
+    EXPECT_EQ(GameText(*client).find("Who left the gate open?"), std::string::npos);
     EXPECT_EQ(GameText(*client).find("just arrived in the world"), std::string::npos);
-}
 
-TEST_F(AnalysisWorldTest, StatusRecordsShowThePromptAndFeedTheGauges)
-{
-    auto client = LoggedInClient();
-    ASSERT_TRUE(client);
-    ASSERT_TRUE(WaitForSent("Set Steward On\n\r"));
-    const StatusPanel& panel = client->State().Panel;
+    StatusPanel& panel = client->State().Panel;
+    // The "Hp:" gauge stands at (64, 4), 60 wide; its value box 4 pixels to the right.
+    MultiControl* hpValue = ControlAt(*client, 130, 8);
+    MultiControl* rtGauge = ControlAt(*client, 655, 30);
+    ASSERT_TRUE(hpValue && rtGauge);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return BoxText(hpValue) == "100/100"; }, WAIT_MS))
+        << BoxText(hpValue);
     Type(*client, "ready saber");
     ASSERT_TRUE(QTest::qWaitFor([&] { return panel.WeaponIcon.Held(); }, WAIT_MS))
         << GameText(*client);
@@ -126,57 +135,24 @@ TEST_F(AnalysisWorldTest, StatusRecordsShowThePromptAndFeedTheGauges)
     EXPECT_STREQ(panel.Silver.Text(), "12");
     EXPECT_STREQ(panel.Gold.Text(), "3");
     // Each answer ends in the record's prompt, and the record itself never shows.
-    const std::string text = GameText(*client);
-    EXPECT_NE(text.find(">sit"), std::string::npos) << text;
-    EXPECT_EQ(text.find('\x1b'), std::string::npos);
-}
+    EXPECT_NE(GameText(*client).find(">sit"), std::string::npos) << GameText(*client);
+    EXPECT_EQ(GameText(*client).find('\x1b'), std::string::npos);
 
-TEST_F(AnalysisWorldTest, RoundTimeOfAnAttackCountsDownOnTheGauge)
-{
-    auto client = LoggedInClient();
-    ASSERT_TRUE(client);
-    for (const char* step : {"west", "down", "attack"}) {
+    for (const char* step : {"stand", "west", "down", "attack"}) {
         Type(*client, step);
         ASSERT_TRUE(WaitForSent(QByteArray(step) + "\n\r")) << step;
     }
-    const Gauge& rt = client->State().Panel.RT;
+    Gauge& rt = panel.RT;
+    rt.SetColors({0xFFFFFF, 0x5A5AFA, 0x5F5F5F});
     ASSERT_TRUE(QTest::qWaitFor([&] { return rt.IsCounting(); }, WAIT_MS)) << GameText(*client);
     EXPECT_EQ(rt.GetMax(), 3000);
-    EXPECT_TRUE(QTest::qWaitFor([&] { return !rt.IsCounting(); }, WAIT_MS));
+    EXPECT_GT(TextPixels(rtGauge), 0);
+    // The rat bites back, so the box shows fewer hit points.
+    EXPECT_TRUE(QTest::qWaitFor([&] { return BoxText(hpValue) != "100/100"; }, WAIT_MS));
+    EXPECT_EQ(BoxText(hpValue).substr(BoxText(hpValue).find('/')), "/100");
+    ASSERT_TRUE(QTest::qWaitFor([&] { return !rt.IsCounting(); }, WAIT_MS));
     EXPECT_EQ(rt.GetValue(), 0);
-}
-
-TEST_F(AnalysisWorldTest, HighlightOfTheProfileColoursARoomWordAndPlaysItsSound)
-{
-    QFile list(folder.filePath("Default.Highlights"));
-    ASSERT_TRUE(list.open(QIODevice::WriteOnly));
-    list.write("012 \"{Chime}salmon\"\n");
-    list.close();
-    auto client = LoggedInClient();
-    ASSERT_TRUE(client);
-
-    const std::string on = ColorOnText(12);
-    const std::string off = ColorOffText(12);
-    EXPECT_TRUE(WaitForBytes(client->State().Windows.GameWindow, "leaping " + on + "salmon" + off))
-        << GameText(*client);
-    EXPECT_TRUE(SoundAsked(SoundFile("Chime.WAV")));
-    EXPECT_TRUE(SoundAsked(SoundFile("Chime.wav")));
-}
-
-TEST_F(AnalysisWorldTest, StartMusicPlaysUnlessSoundsAreSquelched)
-{
-    desktop.choice = ConnectChoice::Offline;
-    {
-        auto client = MakeClient("");
-        ASSERT_TRUE(client->Start());
-        EXPECT_TRUE(SoundAsked(SoundFile("T_STARTMUSIC.WAV")));
-        client->State().Profile.Settings.SquelchSounds = 1;
-        client->Frame().close();
-    }
-    desktop.sounds.asked.clear();
-    auto again = MakeClient("");
-    ASSERT_TRUE(again->Start());
-    EXPECT_TRUE(desktop.sounds.asked.empty());
+    EXPECT_EQ(TextPixels(rtGauge), 0);
 }
 
 } // namespace

@@ -2,11 +2,10 @@
 
 #include "base/ByteText.h"
 #include "config/ConfigFiles.h"
-#include "highlights/SoundPlayer.h"
+#include "config/StewardOptions.h"
 #include "session/qt/Client.h"
-#include "session/qt/Desktop.h"
 #include "session/qt/FrameWindow.h"
-#include "support/RecordingBrowser.h"
+#include "support/RecordingDesktop.h"
 #include "terminal/AnsiWindow.h"
 #include "terminal/TextBuffer.h"
 
@@ -24,96 +23,6 @@
 namespace steward::test {
 
 constexpr int WAIT_MS = 10000;
-
-// Records the wave files asked for; a file is found when it exists.
-class RecordingSoundPlayer : public SoundPlayer {
-  public:
-    bool PlayFile(const char* path) override
-    {
-        asked.emplace_back(path);
-        return QFile::exists(QString::fromLocal8Bit(path));
-    }
-    std::vector<std::string> asked;
-};
-
-// Dialogs answer as the test says; nothing opens on the desktop, no sound plays.
-class RecordingDesktop : public Desktop {
-  public:
-    ConnectChoice AskConnection(QWidget*, std::string& host, int& port) override
-    {
-        asked.push_back(host + ":" + std::to_string(port));
-        host = answerHost;
-        port = answerPort;
-        return choice;
-    }
-    bool AskExit(QWidget*) override
-    {
-        ++exitQuestions;
-        return leave;
-    }
-    void ShowMessage(QWidget*, const char* text, const char* title) override
-    {
-        messages.push_back(std::string(title ? title : "") + "|" + text);
-    }
-    bool RunEditor(const std::string& path) override
-    {
-        edited.push_back(path);
-        return true;
-    }
-    bool AskSaveFileName(QWidget*, const SaveFileRequest&, char*, std::size_t) override
-    {
-        return false;
-    }
-    void Beep() override {}
-    // Answers with the next of answers, or cancels when none is left; keeps each title.
-    bool AskString(QWidget*, const char* title, char* answer, std::size_t capacity) override
-    {
-        stringTitles.emplace_back(title);
-        if (answers.empty())
-            return false;
-        std::snprintf(answer, capacity, "%s", answers.front().c_str());
-        answers.erase(answers.begin());
-        return true;
-    }
-    bool AskDragTarget(QWidget*, std::string& target) override
-    {
-        target = dragTarget;
-        return true;
-    }
-    SoundPlayer& Sounds() override { return sounds; }
-    Browser& WebBrowser() override { return browser; }
-    std::string PickFolder(QWidget*, const char*) override { return {}; }
-    // The script dialogs answer with the files the test names; the folder is kept.
-    std::string ChooseScriptFile(QWidget*, const std::string& folder, bool) override
-    {
-        scriptFolder = folder;
-        return scriptFile;
-    }
-    std::string AskRecordFile(QWidget*, const std::string& folder) override
-    {
-        scriptFolder = folder;
-        return recordFile;
-    }
-    std::string CreateScript(QWidget*, const std::string&) override { return {}; }
-    std::string ChooseSoundFile(QWidget*, const std::string&) override { return {}; }
-
-    RecordingSoundPlayer sounds;
-    RecordingBrowser browser;
-    std::vector<std::string> stringTitles;
-    std::string scriptFile;
-    std::string recordFile;
-    std::string scriptFolder;
-    std::string dragTarget;
-    std::vector<std::string> answers;
-    ConnectChoice choice = ConnectChoice::Connect;
-    std::string answerHost;
-    int answerPort = 0;
-    bool leave = true;
-    int exitQuestions = 0;
-    std::vector<std::string> asked;
-    std::vector<std::string> messages;
-    std::vector<std::string> edited;
-};
 
 // The practice world as a separate process on a free port of 127.0.0.1, recording every byte
 // that its clients send.
@@ -143,6 +52,12 @@ class WorldProcess {
     QProcess process;
     int port = 0;
 };
+
+inline QByteArray ReadAll(const QString& path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
 
 // Each test gets its own practice world and data folder, and drives real clients against them.
 class ClientHarness : public ::testing::Test {
@@ -177,6 +92,22 @@ class ClientHarness : public ::testing::Test {
     }
 
     std::string Address() const { return "/H127.0.0.1/P" + std::to_string(world->port); }
+    std::string File(const char* name) const { return folder.filePath(name).toStdString(); }
+
+    void WriteFile(const char* name, const QByteArray& bytes) const
+    {
+        QFile file(folder.filePath(name));
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(bytes);
+    }
+
+    void TurnOn(StewardOption option, std::int32_t value) const
+    {
+        const std::string ini = MakeConfigFiles(folder.path().toStdString()).MainIni;
+        StewardOptions options = StewardOptions::Load(ini);
+        options.Set(option, value);
+        ASSERT_TRUE(options.Save(ini));
+    }
 
     static std::string GameText(Client& client)
     {
@@ -225,11 +156,7 @@ class ClientHarness : public ::testing::Test {
                                WAIT_MS);
     }
 
-    QByteArray Sent() const
-    {
-        QFile file(folder.filePath("sent.bin"));
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-    }
+    QByteArray Sent() const { return ReadAll(folder.filePath("sent.bin")); }
 
     bool WaitForSent(const QByteArray& needle) const
     {

@@ -1,39 +1,53 @@
 #include "ClientHarness.h"
 #include "base/FrameCommand.h"
+#include "commands/qt/MacroSheet.h"
 #include "config/BinaryRecords.h"
 #include "config/IniStore.h"
+#include "highlights/qt/ColorGrid.h"
+#include "highlights/qt/HighlightSheet.h"
+#include "session/ReconnectPlan.h"
+#include "support/RunLoopUntil.h"
 
 #include <QDir>
-#include <QEventLoop>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QTabWidget>
 #include <QTimer>
 
+#include <algorithm>
+#include <functional>
 #include <map>
 
 namespace steward::test {
 namespace {
 
-class ClientWorldTest : public ClientHarness {};
+// Long enough for the first try to have come, had one been due.
+constexpr int PAST_FIRST_TRY_MS = RECONNECT_FIRST_WAIT_S * 1000 + 700;
 
-TEST_F(ClientWorldTest, ConnectsShowsTheRoomAndAsksForStatusRecords)
+class ClientWorldTest : public ClientHarness {
+  protected:
+    // The world ends and starts again on its port, as a server does after a restart.
+    void RestartWorld()
+    {
+        const int port = world->port;
+        world->Stop();
+        world = std::make_unique<WorldProcess>(folder.filePath("sent.bin"),
+                                               QStringList{"--port", QString::number(port)});
+        // Told a port, the world greets with a sentence instead of the number.
+        world->port = port;
+    }
+};
+
+TEST_F(ClientWorldTest, ALoggedInClientSendsWhatIsTypedOrChosenAndComesBackAfterAQuit)
 {
     auto client = MakeClient(Address());
     ASSERT_TRUE(client->Start());
     EXPECT_FALSE(client->IsDisconnected());
     EXPECT_TRUE(desktop.asked.empty());
     ASSERT_TRUE(WaitForGameText(*client, "By what name are you known?"));
-
     Type(*client, "Tester");
     ASSERT_TRUE(WaitForGameText(*client, "[Thornmere, Market Square]"));
     EXPECT_TRUE(WaitForSent("Tester\n\rSet Steward On\n\r")) << Sent().toStdString();
-}
-
-TEST_F(ClientWorldTest, TypedCommandReachesTheWorldWithLineFeedThenReturnAndIsEchoed)
-{
-    auto client = MakeClient(Address());
-    ASSERT_TRUE(client->Start());
-    ASSERT_TRUE(WaitForGameText(*client, "By what name are you known?"));
-    Type(*client, "Tester");
-    ASSERT_TRUE(WaitForSent("Set Steward On\n\r"));
     // The first status record answers the mode, and its prompt ends the text so far.
     ASSERT_TRUE(QTest::qWaitFor([&] { return client->State().Panel.Hp.GetMax() > 0; }, WAIT_MS));
 
@@ -47,23 +61,183 @@ TEST_F(ClientWorldTest, TypedCommandReachesTheWorldWithLineFeedThenReturnAndIsEc
                    text.rfind("[Thornmere, Market Square]");
         },
         WAIT_MS));
-}
 
-TEST_F(ClientWorldTest, MovesWhileDraggingAreSentAsDrags)
-{
-    auto client = MakeClient(Address());
-    ASSERT_TRUE(client->Start());
-    ASSERT_TRUE(WaitForGameText(*client, "By what name are you known?"));
-    Type(*client, "Tester");
-    ASSERT_TRUE(WaitForSent("Set Steward On\n\r"));
+    QWidget* line = client->Frame().CommandLine();
+    QTest::keyClicks(line, "half typed");
+    QTest::keyClick(line, Qt::Key_8, Qt::KeypadModifier);
+    EXPECT_TRUE(WaitForSent("look\n\rn\n\r")) << Sent().toStdString();
+    EXPECT_FALSE(Sent().contains("half"));
+    Type(*client, "bob:hello");
+    EXPECT_TRUE(WaitForSent("contact bob hello\n\r"));
 
     desktop.dragTarget = "orla";
     client->OnCommand(CMD_DRAG_SOMEONE);
-    Type(*client, "n");
-    EXPECT_TRUE(WaitForSent("drag orla n\n\r")) << Sent().toStdString();
-    client->OnCommand(CMD_STOP_DRAGGING);
     Type(*client, "s");
-    EXPECT_TRUE(WaitForSent("drag orla n\n\rs\n\r")) << Sent().toStdString();
+    EXPECT_TRUE(WaitForSent("drag orla s\n\r")) << Sent().toStdString();
+    client->OnCommand(CMD_STOP_DRAGGING);
+    Type(*client, "n");
+    EXPECT_TRUE(WaitForSent("drag orla s\n\rn\n\r")) << Sent().toStdString();
+
+    client->OnCommand(CMD_INFO_GENERAL + 2);
+    client->OnCommand(CMD_ROOM_SUPERBRIEF);
+    client->OnCommand(CMD_EQUIP_WEAPON);
+    EXPECT_TRUE(WaitForSent("inv\n\rsuperbrief\n\rready saber\n\r")) << Sent().toStdString();
+    EXPECT_TRUE(WaitForGameText(*client, "superbrief"));
+
+    Type(*client, "quit");
+    ASSERT_TRUE(WaitForGameText(*client, "* Connection to the game has been dropped."));
+    ASSERT_TRUE(client->IsDisconnected());
+    client->OnCommand(CMD_CONNECT);
+    EXPECT_FALSE(client->IsDisconnected());
+    EXPECT_TRUE(desktop.messages.empty());
+    ExpectStatusRecordsAskedAgain(*client);
+
+    desktop.leave = false;
+    client->Frame().close();
+    EXPECT_EQ(desktop.exitQuestions, 1);
+    EXPECT_TRUE(client->Frame().isVisible());
+    desktop.leave = true;
+    client->Frame().close();
+    EXPECT_EQ(desktop.exitQuestions, 2);
+    client->Finish();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return Sent().count("quit\n\r") == 2; }, WAIT_MS));
+
+    // The profile saved after play holds every gauge's colours.
+    const struct {
+        const char* key;
+        std::uint32_t bar;
+    } gauges[] = {{"Health", 0x5ADC5A}, {"Fatigue", 0x6E6EE6}, {"Weight", 0x82F0DC},
+                  {"PSI", 0xF0A0C8},    {"Web", 0x558CE6},     {"RT", 0x5A5AFA},
+                  {"Pause", 0xBE78C8}};
+    for (const auto& gauge : gauges) {
+        GaugeColorBytes bytes{};
+        ASSERT_TRUE(
+            ReadBinary(File("Default.Dat"), "Colors", gauge.key, bytes.data(), bytes.size()))
+            << gauge.key;
+        const GaugeColors colors = GaugeColorsFromBytes(bytes);
+        EXPECT_EQ(colors.GaugeTextColor, 0xFFFFFFu) << gauge.key;
+        EXPECT_EQ(colors.BarColor, gauge.bar) << gauge.key;
+        EXPECT_EQ(colors.GaugeBackColor, 0x5F5F5Fu) << gauge.key;
+    }
+}
+
+// The first run opens the version notes, plays the start music, turns auto-log on and squelches
+// sounds; the second opens a dated log at its start, stays silent and recalls the typed history.
+TEST_F(ClientWorldTest, ASecondStartFollowsWhatTheFirstLeft)
+{
+    TurnOn(KEEP_COMMAND_HISTORY, 1);
+    const std::string music =
+        SoundPath(MakeConfigFiles(folder.path().toStdString())) + "/T_STARTMUSIC.WAV";
+    {
+        auto client = LoggedInClient();
+        ASSERT_TRUE(client);
+        const auto& asked = desktop.sounds.asked;
+        EXPECT_NE(std::find(asked.begin(), asked.end(), music), asked.end());
+        EXPECT_EQ(desktop.edited, std::vector<std::string>{File("Version Notes.Txt")});
+        client->OnCommand(CMD_AUTO_LOG);
+        client->State().Profile.Settings.SquelchSounds = 1;
+        Type(*client, "look at the fountain");
+        ASSERT_TRUE(WaitForSent("look at the fountain\n\r"));
+        client->Frame().close();
+    }
+    desktop.sounds.asked.clear();
+    auto client = MakeClient(Address());
+    ASSERT_TRUE(client->Start());
+    EXPECT_TRUE(client->State().SessionLog.IsOpen());
+    EXPECT_NE(GameText(*client).find("Log file auto-opened successfully."), std::string::npos);
+    EXPECT_TRUE(desktop.sounds.asked.empty());
+    QTest::qWait(50);
+    EXPECT_EQ(desktop.edited.size(), 1u);
+
+    auto* line = qobject_cast<QLineEdit*>(client->Frame().CommandLine());
+    QApplication::setActiveWindow(&client->Frame());
+    line->setFocus();
+    QTest::keyClick(line, Qt::Key_Up);
+    EXPECT_EQ(line->text(), QStringLiteral("look at the fountain"));
+    QTest::keyClick(line, Qt::Key_Up);
+    EXPECT_EQ(line->text(), QStringLiteral("Tester"));
+    line->clear();
+
+    ASSERT_TRUE(WaitForGameText(*client, "By what name are you known?"));
+    Type(*client, "Tester");
+    ASSERT_TRUE(WaitForGameText(*client, "[Thornmere, Market Square]"));
+    client->Frame().close();
+    client->Finish();
+    QStringList logs = QDir(folder.path()).entryList({"Thornmere Log *.Txt"});
+    ASSERT_EQ(logs.size(), 2);
+    logs.sort();
+    EXPECT_TRUE(ReadAll(folder.filePath(logs.back())).contains("[Thornmere, Market Square]"));
+}
+
+// Every file of the folder with its bytes.
+std::map<QString, QByteArray> FolderBytes(const QString& path)
+{
+    std::map<QString, QByteArray> files;
+    for (const QString& name : QDir(path).entryList(QDir::Files))
+        files[name] = ReadAll(QDir(path).filePath(name));
+    return files;
+}
+
+TEST_F(ClientWorldTest, TheStartDialogConnectsStartsOfflineCancelsOrTellsAClosedPort)
+{
+    const std::string ini = File("Thornmere.Ini");
+    const struct {
+        ConnectChoice choice;
+        const char* host;
+    } offline[] = {{ConnectChoice::Offline, "127.0.0.1"}, {ConnectChoice::Connect, ""}};
+    for (const auto& c : offline) {
+        desktop.choice = c.choice;
+        desktop.answerHost = c.host;
+        desktop.answerPort = world->port;
+        auto client = MakeClient("");
+        ASSERT_TRUE(client->Start()) << c.host;
+        EXPECT_TRUE(client->IsDisconnected());
+        EXPECT_NE(GameText(*client).find("*** Operating in an Offline mode."), std::string::npos);
+        EXPECT_STREQ(client->State().ConnectionString, "/H127.0.0.1/P34283");
+        EXPECT_EQ(ReadInt(ini, "Connection", "Port", 0), 0);
+
+        FrameWindow& frame = client->Frame();
+        QApplication::setActiveWindow(&frame);
+        frame.CommandLine()->setFocus();
+        QTest::keyClick(frame.CommandLine(), Qt::Key_Pause, Qt::ShiftModifier);
+        EXPECT_TRUE(client->State().Rest.RestSilent);
+        QTest::keyClick(frame.CommandLine(), Qt::Key_A);
+        EXPECT_FALSE(client->State().Rest.RestMode);
+        EXPECT_NE(GameText(*client).find("Leaving rest mode."), std::string::npos);
+        QTest::keyClick(frame.CommandLine(), Qt::Key_Pause);
+        EXPECT_TRUE(client->State().Rest.RestMode);
+        EXPECT_FALSE(client->State().Rest.RestSilent);
+        EXPECT_NE(GameText(*client).find("Entering rest mode...press any key to resume."),
+                  std::string::npos);
+        client->Frame().close();
+        EXPECT_EQ(desktop.exitQuestions, 0);
+    }
+    EXPECT_TRUE(desktop.messages.empty());
+
+    desktop.choice = ConnectChoice::Connect;
+    desktop.answerHost = "127.0.0.1";
+    desktop.asked.clear();
+    {
+        auto client = MakeClient("");
+        ASSERT_TRUE(client->Start());
+        EXPECT_EQ(desktop.asked, std::vector<std::string>{"127.0.0.1:34283"});
+        EXPECT_FALSE(client->IsDisconnected());
+        EXPECT_EQ(ReadInt(ini, "Connection", "Port", 0), world->port);
+        client->Frame().close();
+    }
+
+    // A state that a window would write back differently.
+    ASSERT_TRUE(WriteString(File("Default.Dat"), "Game Window", "StateInfo", "11"));
+    const auto before = FolderBytes(folder.path());
+    desktop.choice = ConnectChoice::Cancel;
+    EXPECT_FALSE(MakeClient("")->Start());
+    EXPECT_EQ(FolderBytes(folder.path()), before);
+
+    desktop.choice = ConnectChoice::Connect;
+    world->Stop();
+    EXPECT_FALSE(MakeClient(Address())->Start());
+    EXPECT_EQ(desktop.messages,
+              std::vector<std::string>{"Fatal Error|Unable to connect to the server!"});
 }
 
 TEST_F(ClientWorldTest, LoopTurnsBetweenTheBlocksOfAFlood)
@@ -77,269 +251,121 @@ TEST_F(ClientWorldTest, LoopTurnsBetweenTheBlocksOfAFlood)
     QTimer ticker;
     QObject::connect(&ticker, &QTimer::timeout, [&] { ++ticks; });
     ticker.start(0);
-
-    // The program's own loop, without the pauses of a test's waiting.
-    QEventLoop loop;
-    QTimer check;
-    bool ended = false;
-    QObject::connect(&check, &QTimer::timeout, [&] {
-        ended = GameTail(*client, 64).find("FLOOD-END") != std::string::npos;
-        if (ended)
-            loop.quit();
-    });
-    check.start(20);
-    QTimer::singleShot(60000, &loop, &QEventLoop::quit);
-    loop.exec();
-    ASSERT_TRUE(ended);
+    ASSERT_TRUE(steward::testing::RunLoopUntil(
+        [&] { return GameTail(*client, 64).find("FLOOD-END") != std::string::npos; }, 60000));
     EXPECT_GT(ticks, 100) << GameTail(*client, 300);
 }
 
-TEST_F(ClientWorldTest, InfoMenuAndToolCommandsSendTheirTexts)
+TEST_F(ClientWorldTest, WithTheOptionOnAClientDroppedByTheWorldComesBackAndAsksForStatusAgain)
 {
-    auto client = MakeClient(Address());
-    ASSERT_TRUE(client->Start());
-    ASSERT_TRUE(WaitForGameText(*client, "By what name are you known?"));
-    Type(*client, "Tester");
-    ASSERT_TRUE(WaitForSent("Set Steward On\n\r"));
-    client->OnCommand(CMD_INFO_GENERAL + 2);
-    client->OnCommand(CMD_ROOM_SUPERBRIEF);
-    client->OnCommand(CMD_EQUIP_WEAPON);
-    EXPECT_TRUE(WaitForSent("inv\n\rsuperbrief\n\rready saber\n\r")) << Sent().toStdString();
-    EXPECT_TRUE(WaitForGameText(*client, "superbrief"));
-}
-
-TEST_F(ClientWorldTest, DroppedConnectionIsSaidInTheGameWindow)
-{
-    auto client = MakeClient(Address());
-    ASSERT_TRUE(client->Start());
-    ASSERT_TRUE(WaitForGameText(*client, "By what name are you known?"));
-    world->Stop();
+    auto client = LoggedInClient();
+    ASSERT_NE(client, nullptr);
+    client->State().Steward.Set(RECONNECT_ON_DROP, true);
+    RestartWorld();
     ASSERT_TRUE(WaitForGameText(*client, "* Connection to the game has been dropped."));
-    EXPECT_TRUE(client->IsDisconnected());
-}
+    EXPECT_TRUE(WaitForGameText(*client, "*** Reconnecting in 2 seconds (try 1 of 10)..."));
 
-TEST_F(ClientWorldTest, ReconnectAsksForStatusRecordsAgain)
-{
-    auto client = MakeClient(Address());
-    ASSERT_TRUE(client->Start());
-    ASSERT_TRUE(WaitForGameText(*client, "By what name are you known?"));
-    Type(*client, "Tester");
-    ASSERT_TRUE(WaitForSent("Set Steward On\n\r"));
-    Type(*client, "quit");
-    ASSERT_TRUE(WaitForGameText(*client, "* Connection to the game has been dropped."));
-    ASSERT_TRUE(client->IsDisconnected());
-
-    client->OnCommand(CMD_CONNECT);
+    ASSERT_TRUE(WaitForGameText(*client, "*** Reconnected to the game."));
     EXPECT_FALSE(client->IsDisconnected());
     EXPECT_TRUE(desktop.messages.empty());
     ExpectStatusRecordsAskedAgain(*client);
 }
 
-TEST_F(ClientWorldTest, PacketDumpListsTheReceivedBlocks)
+TEST_F(ClientWorldTest, NothingIsTriedWithTheOptionOffAfterTheQuitOrAfterAConnectByHand)
 {
-    const std::string dump = folder.filePath("dump.txt").toStdString();
-    {
-        auto client = MakeClient(Address(), dump);
-        ASSERT_TRUE(client->Start());
-        EXPECT_TRUE(WaitForGameText(*client, "Packet Dump file is ACTIVE!"));
-        ASSERT_TRUE(WaitForGameText(*client, "By what name are you known?"));
-        client->Frame().close();
-    }
-    QFile file(QString::fromStdString(dump));
-    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
-    const QByteArray listed = file.readAll();
-    EXPECT_TRUE(listed.contains("---- (")) << listed.toStdString();
-    EXPECT_TRUE(listed.contains("..Welcome to Th")) << listed.toStdString();
-}
-
-TEST_F(ClientWorldTest, AutoLogOpensADatedLogAtAConnectedStart)
-{
-    {
-        desktop.choice = ConnectChoice::Offline;
-        auto offline = MakeClient("");
-        ASSERT_TRUE(offline->Start());
-        offline->OnCommand(CMD_AUTO_LOG);
-        offline->Frame().close();
-    }
-    auto client = MakeClient(Address());
-    ASSERT_TRUE(client->Start());
-    EXPECT_TRUE(client->State().SessionLog.IsOpen());
-    EXPECT_NE(GameText(*client).find("Log file auto-opened successfully."), std::string::npos);
-    ASSERT_TRUE(WaitForGameText(*client, "By what name are you known?"));
-    Type(*client, "Tester");
-    ASSERT_TRUE(WaitForGameText(*client, "[Thornmere, Market Square]"));
-    client->Frame().close();
-    client->Finish();
-
-    QStringList logs = QDir(folder.path()).entryList({"Thornmere Log *.Txt"});
-    ASSERT_EQ(logs.size(), 2);
-    logs.sort();
-    QFile log(folder.filePath(logs.back()));
-    ASSERT_TRUE(log.open(QIODevice::ReadOnly));
-    EXPECT_TRUE(log.readAll().contains("[Thornmere, Market Square]"));
-}
-
-TEST_F(ClientWorldTest, ExitWhileConnectedAsksAndSaysQuit)
-{
-    auto client = MakeClient(Address());
-    ASSERT_TRUE(client->Start());
-    ASSERT_TRUE(WaitForGameText(*client, "By what name are you known?"));
-
-    desktop.leave = false;
-    client->Frame().close();
-    EXPECT_EQ(desktop.exitQuestions, 1);
-    EXPECT_TRUE(client->Frame().isVisible());
-
-    desktop.leave = true;
-    client->Frame().close();
-    EXPECT_EQ(desktop.exitQuestions, 2);
-    client->Finish();
-    EXPECT_TRUE(WaitForSent("quit\n\r"));
-    EXPECT_TRUE(QFile::exists(folder.filePath("Default.Dat")));
-}
-
-TEST_F(ClientWorldTest, DialogChoosesTheHostAndRemembersIt)
-{
-    desktop.answerHost = "127.0.0.1";
-    desktop.answerPort = world->port;
-    auto client = MakeClient("");
-    ASSERT_TRUE(client->Start());
-    EXPECT_EQ(desktop.asked, std::vector<std::string>{"127.0.0.1:34283"});
-    EXPECT_FALSE(client->IsDisconnected());
-    const std::string ini = folder.filePath("Thornmere.Ini").toStdString();
-    EXPECT_EQ(ReadInt(ini, "Connection", "Port", 0), world->port);
-}
-
-TEST_F(ClientWorldTest, OfflineOrAnEmptyHostStartsWithoutAConnection)
-{
+    enum class Drop { WorldRestarts, PlayerQuits, WorldGoneThenConnectByHand };
     const struct {
-        ConnectChoice choice;
-        const char* host;
-    } cases[] = {{ConnectChoice::Offline, "127.0.0.1"}, {ConnectChoice::Connect, ""}};
+        const char* name;
+        bool option;
+        Drop drop;
+    } cases[] = {
+        {"option off", false, Drop::WorldRestarts},
+        {"the player's quit", true, Drop::PlayerQuits},
+        {"a failed connect by hand", true, Drop::WorldGoneThenConnectByHand},
+    };
     for (const auto& c : cases) {
-        desktop.choice = c.choice;
-        desktop.answerHost = c.host;
-        desktop.answerPort = world->port;
-        auto client = MakeClient("");
-        ASSERT_TRUE(client->Start()) << c.host;
-        EXPECT_TRUE(client->IsDisconnected());
-        EXPECT_NE(client->State().Windows.GameWindow, nullptr);
-        EXPECT_NE(GameText(*client).find("*** Operating in an Offline mode."), std::string::npos);
-        EXPECT_STREQ(client->State().ConnectionString, "/H127.0.0.1/P34283");
-        const std::string ini = folder.filePath("Thornmere.Ini").toStdString();
-        EXPECT_EQ(ReadInt(ini, "Connection", "Port", 0), 0);
-
+        world = std::make_unique<WorldProcess>(folder.filePath("sent.bin"));
+        auto client = LoggedInClient();
+        ASSERT_NE(client, nullptr) << c.name;
+        client->State().Steward.Set(RECONNECT_ON_DROP, c.option);
+        if (c.drop == Drop::PlayerQuits)
+            Type(*client, "quit");
+        else if (c.drop == Drop::WorldRestarts)
+            RestartWorld();
+        else
+            world->Stop();
+        ASSERT_TRUE(WaitForGameText(*client, "* Connection to the game has been dropped."))
+            << c.name;
+        if (c.drop == Drop::WorldGoneThenConnectByHand) {
+            ASSERT_TRUE(WaitForGameText(*client, "*** Reconnecting in 2 seconds")) << c.name;
+            client->OnCommand(CMD_CONNECT);
+            EXPECT_EQ(desktop.messages,
+                      std::vector<std::string>{"Fatal Error|Unable to connect to the server!"});
+        }
+        QTest::qWait(PAST_FIRST_TRY_MS);
+        EXPECT_TRUE(client->IsDisconnected()) << c.name;
+        EXPECT_EQ(GameText(*client).find("server! (try"), std::string::npos) << c.name;
+        EXPECT_EQ(GameText(*client).find("Reconnected"), std::string::npos) << c.name;
         client->Frame().close();
-        EXPECT_EQ(desktop.exitQuestions, 0);
+        desktop.messages.clear();
     }
-    EXPECT_TRUE(desktop.messages.empty());
 }
 
-TEST_F(ClientWorldTest, AProfileSavedAfterPlayHoldsTheGaugeColours)
+// Runs the command's modal sheet, edited and closed with OK from inside its own loop.
+bool EditInSheet(Client& client, int command, const std::function<void(QDialog&)>& edit)
 {
+    bool edited = false;
+    QTimer::singleShot(0, [&] {
+        if (auto* sheet = qobject_cast<QDialog*>(QApplication::activeModalWidget())) {
+            edit(*sheet);
+            sheet->accept();
+            edited = true;
+        }
+    });
+    client.OnCommand(command);
+    return edited;
+}
+
+TEST_F(ClientWorldTest, EditsInTheHighlightAndMacroSheetsWorkInTheGameAndSurviveARestart)
+{
+    // The first round looks again, the second sees the room of its login.
+    const auto salmonIsRed = [&](Client& client, int round) {
+        if (round == 1)
+            Type(client, "look");
+        const std::string red = std::string(ColorOnText(12)) + "salmon" + ColorOffText(12);
+        return WaitForBytes(client.State().Windows.GameWindow, red);
+    };
+    const auto ctrlJSays = [&](Client& client, int round) {
+        QApplication::setActiveWindow(&client.Frame());
+        client.Frame().CommandLine()->setFocus();
+        QTest::keyClick(client.Frame().CommandLine(), Qt::Key_J, Qt::ControlModifier);
+        return QTest::qWaitFor([&] { return Sent().count("say sheet macro\n\r") == round; },
+                               WAIT_MS);
+    };
     {
-        auto client = MakeClient(Address());
-        ASSERT_TRUE(client->Start());
-        ASSERT_TRUE(WaitForGameText(*client, "By what name are you known?"));
-        Type(*client, "Tester");
-        ASSERT_TRUE(
-            QTest::qWaitFor([&] { return client->State().Panel.Hp.GetMax() > 0; }, WAIT_MS));
+        auto client = LoggedInClient();
+        ASSERT_TRUE(client);
+        ASSERT_TRUE(EditInSheet(*client, CMD_HIGHLIGHT_STRINGS, [&](QDialog& dialog) {
+            auto& sheet = static_cast<HighlightSheet&>(dialog);
+            sheet.Tabs()->setCurrentIndex(1);
+            HighlightPage& page = *sheet.Page(1);
+            desktop.answers = {"salmon"};
+            page.Button(PageButton::New)->click();
+            QTest::mouseClick(page.Grid(), Qt::LeftButton, {}, page.Grid()->CellRect(12).center());
+        }));
+        ASSERT_TRUE(EditInSheet(*client, CMD_MACRO_KEYS, [](QDialog& dialog) {
+            auto& sheet = static_cast<MacroSheet&>(dialog);
+            sheet.Tabs()->setCurrentIndex(1);
+            static_cast<LetterPage*>(sheet.Page(1))->Edit('J' - 'A')->setText("say sheet macro\\r");
+        }));
+        EXPECT_TRUE(salmonIsRed(*client, 1)) << GameText(*client);
+        EXPECT_TRUE(ctrlJSays(*client, 1));
         client->Frame().close();
     }
-    const struct {
-        const char* key;
-        std::uint32_t bar;
-    } gauges[] = {{"Health", 0x5ADC5A}, {"Fatigue", 0x6E6EE6}, {"Weight", 0x82F0DC},
-                  {"PSI", 0xF0A0C8},    {"Web", 0x558CE6},     {"RT", 0x5A5AFA},
-                  {"Pause", 0xBE78C8}};
-    const std::string dat = folder.filePath("Default.Dat").toStdString();
-    for (const auto& gauge : gauges) {
-        GaugeColorBytes bytes{};
-        ASSERT_TRUE(ReadBinary(dat, "Colors", gauge.key, bytes.data(), bytes.size())) << gauge.key;
-        const GaugeColors colors = GaugeColorsFromBytes(bytes);
-        EXPECT_EQ(colors.GaugeTextColor, 0xFFFFFFu) << gauge.key;
-        EXPECT_EQ(colors.BarColor, gauge.bar) << gauge.key;
-        EXPECT_EQ(colors.GaugeBackColor, 0x5F5F5Fu) << gauge.key;
-    }
-}
-
-TEST_F(ClientWorldTest, PauseRestsAndAnyKeyWakes)
-{
-    desktop.choice = ConnectChoice::Offline;
-    auto client = MakeClient("");
-    ASSERT_TRUE(client->Start());
-    FrameWindow& frame = client->Frame();
-    QApplication::setActiveWindow(&frame);
-    frame.CommandLine()->setFocus();
-    QTest::keyClick(frame.CommandLine(), Qt::Key_Pause);
-    EXPECT_TRUE(client->State().Rest.RestMode);
-    EXPECT_FALSE(client->State().Rest.RestSilent);
-    EXPECT_NE(GameText(*client).find("Entering rest mode...press any key to resume."),
-              std::string::npos);
-    QTest::keyClick(frame.CommandLine(), Qt::Key_A);
-    EXPECT_FALSE(client->State().Rest.RestMode);
-    EXPECT_NE(GameText(*client).find("Leaving rest mode."), std::string::npos);
-
-    QTest::keyClick(frame.CommandLine(), Qt::Key_Pause, Qt::ShiftModifier);
-    EXPECT_TRUE(client->State().Rest.RestSilent);
-}
-
-TEST_F(ClientWorldTest, VersionNotesOpenOnceInTheEditor)
-{
-    desktop.choice = ConnectChoice::Offline;
-    {
-        auto client = MakeClient("");
-        ASSERT_TRUE(client->Start());
-        ASSERT_TRUE(QTest::qWaitFor([&] { return !desktop.edited.empty(); }, WAIT_MS));
-        client->Frame().close();
-    }
-    EXPECT_EQ(desktop.edited,
-              std::vector<std::string>{folder.filePath("Version Notes.Txt").toStdString()});
-    auto again = MakeClient("");
-    ASSERT_TRUE(again->Start());
-    QTest::qWait(50);
-    EXPECT_EQ(desktop.edited.size(), 1u);
-}
-
-TEST_F(ClientWorldTest, ClosedPortEndsTheStartWithItsMessage)
-{
-    const int port = world->port;
-    world->Stop();
-    auto client = MakeClient("/H127.0.0.1/P" + std::to_string(port));
-    EXPECT_FALSE(client->Start());
-    EXPECT_EQ(desktop.messages,
-              std::vector<std::string>{"Fatal Error|Unable to connect to the server!"});
-}
-
-// Every file of the folder with its bytes.
-std::map<QString, QByteArray> FolderBytes(const QString& path)
-{
-    std::map<QString, QByteArray> files;
-    for (const QString& name : QDir(path).entryList(QDir::Files)) {
-        QFile file(QDir(path).filePath(name));
-        if (file.open(QIODevice::ReadOnly))
-            files[name] = file.readAll();
-    }
-    return files;
-}
-
-TEST_F(ClientWorldTest, CancelEndsTheStartAndLeavesEveryFileAsItWas)
-{
-    {
-        desktop.choice = ConnectChoice::Offline;
-        auto earlier = MakeClient("");
-        ASSERT_TRUE(earlier->Start());
-        earlier->Frame().close();
-    }
-    // A state that a window would write back differently.
-    ASSERT_TRUE(WriteString(folder.filePath("Default.Dat").toStdString(), "Game Window",
-                            "StateInfo", "11"));
-    const auto before = FolderBytes(folder.path());
-    desktop.choice = ConnectChoice::Cancel;
-    auto client = MakeClient("");
-    EXPECT_FALSE(client->Start());
-    client.reset();
-    EXPECT_EQ(FolderBytes(folder.path()), before);
+    auto again = LoggedInClient();
+    ASSERT_TRUE(again);
+    EXPECT_TRUE(salmonIsRed(*again, 2)) << GameText(*again);
+    EXPECT_TRUE(ctrlJSays(*again, 2));
 }
 
 } // namespace

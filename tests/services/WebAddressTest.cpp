@@ -9,97 +9,63 @@
 namespace steward {
 namespace {
 
-std::string Escaped(const std::string& source, bool plusForSpace = true,
-                    std::size_t capacity = URL_BUFFER_SIZE)
+std::string Escaped(const std::string& source, bool plusForSpace = true)
 {
-    std::vector<char> target(capacity, '#');
-    EscapeUrl(source.c_str(), target.data(), capacity, plusForSpace);
+    std::vector<char> target(URL_BUFFER_SIZE, '#');
+    EscapeUrl(source.c_str(), target.data(), target.size(), plusForSpace);
     return target.data();
 }
 
-struct EscapeCase {
-    const char* name;
-    std::string source;
-    bool plusForSpace;
-    std::string expected;
-};
-
-class EscapeUrlBytes : public ::testing::TestWithParam<EscapeCase> {};
-
-TEST_P(EscapeUrlBytes, EachClassOfByte)
+TEST(EscapeUrl, EachClassOfByte)
 {
-    EXPECT_EQ(Escaped(GetParam().source, GetParam().plusForSpace), GetParam().expected);
+    const struct {
+        std::string source;
+        bool plusForSpace;
+        std::string expected;
+    } cases[] = {
+        {"AZaz09", true, "AZaz09"},
+        {"http://a.b/c?d=e&f-g", true, "http://a.b/c?d=e&f-g"},
+        {"a b", true, "a+b"},
+        {"a b", false, "a b"},
+        {"100%", true, "100%25"},
+        {"a_b", true, "a%5Fb"},
+        {"a+b", true, "a%2Bb"},
+        {"caf\xE9", true, "caf%E9"},
+        {"\xFF", true, "%FF"},
+        {"\x01\x7F", true, "%01%7F"},
+        {"", true, ""},
+    };
+    for (const auto& c : cases)
+        EXPECT_EQ(Escaped(c.source, c.plusForSpace), c.expected) << c.source;
 }
 
-INSTANTIATE_TEST_SUITE_P(Classes, EscapeUrlBytes,
-                         ::testing::Values(EscapeCase{"LettersAndDigits", "AZaz09", true, "AZaz09"},
-                                           EscapeCase{"SevenKeptMarks", "http://a.b/c?d=e&f-g",
-                                                      true, "http://a.b/c?d=e&f-g"},
-                                           EscapeCase{"SpaceAsPlus", "a b", true, "a+b"},
-                                           EscapeCase{"SpaceKept", "a b", false, "a b"},
-                                           EscapeCase{"PercentSign", "100%", true, "100%25"},
-                                           EscapeCase{"Underscore", "a_b", true, "a%5Fb"},
-                                           EscapeCase{"PlusSign", "a+b", true, "a%2Bb"},
-                                           EscapeCase{"HighByteUnsigned", "caf\xE9", true,
-                                                      "caf%E9"},
-                                           EscapeCase{"ByteFF", "\xFF", true, "%FF"},
-                                           EscapeCase{"ControlByte", "\x01\x7F", true, "%01%7F"},
-                                           EscapeCase{"Empty", "", true, ""}),
-                         [](const auto& info) { return std::string(info.param.name); });
-
-struct LimitCase {
-    const char* name;
-    std::size_t length;
-    std::size_t expectedLength;
-};
-
-class EscapeUrlLimit : public ::testing::TestWithParam<LimitCase> {};
-
-// Every byte of these addresses takes three bytes escaped.
-TEST_P(EscapeUrlLimit, LongAddressesAreCutBeforeAWholeEscape)
+// Every byte of these addresses takes three bytes escaped; a long one is cut before a whole
+// escape.
+TEST(EscapeUrl, LongAddressesAreCutBeforeAWholeEscape)
 {
-    const std::string escaped = Escaped(std::string(GetParam().length, '_'));
-    EXPECT_EQ(escaped.size(), GetParam().expectedLength);
-    EXPECT_EQ(escaped.substr(escaped.size() >= 3 ? escaped.size() - 3 : 0), "%5F");
+    for (std::size_t length : {URL_ESCAPABLE_LENGTH, URL_ESCAPABLE_LENGTH + 1, std::size_t(5000)}) {
+        const std::string escaped = Escaped(std::string(length, '_'));
+        EXPECT_EQ(escaped.size(), URL_ESCAPABLE_LENGTH * 3) << length;
+        EXPECT_EQ(escaped.substr(escaped.size() - 3), "%5F") << length;
+    }
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Lengths, EscapeUrlLimit,
-    ::testing::Values(LimitCase{"FitsWhole", URL_ESCAPABLE_LENGTH, URL_ESCAPABLE_LENGTH * 3},
-                      LimitCase{"OneMoreIsCut", URL_ESCAPABLE_LENGTH + 1, URL_ESCAPABLE_LENGTH * 3},
-                      LimitCase{"FarTooLong", 5000, URL_ESCAPABLE_LENGTH * 3}),
-    [](const auto& info) { return std::string(info.param.name); });
-
-using test::RecordingBrowser;
-
-struct WordCase {
-    const char* name;
-    const char* address;
-    const char* opened;
-};
-
-class OpenUrlWords : public ::testing::TestWithParam<WordCase> {};
-
-TEST_P(OpenUrlWords, TemplateWordsInAnyCase)
+TEST(OpenUrl, TemplateWordsInAnyCaseAndGrowthCutAtTheBuffer)
 {
-    RecordingBrowser browser;
-    EXPECT_TRUE(OpenUrl(browser, GetParam().address));
-    EXPECT_EQ(browser.opened, std::vector<std::string>{GetParam().opened});
-}
-
-INSTANTIATE_TEST_SUITE_P(
-    Words, OpenUrlWords,
-    ::testing::Values(WordCase{"GameUpper", "http://x/{GAME}/", "http://x/THORNMERE/"},
-                      WordCase{"GameLower", "http://x/{game}", "http://x/THORNMERE"},
-                      WordCase{"GameTwice", "{Game}-{gAME}", "THORNMERE-THORNMERE"},
-                      WordCase{"KeyRemoved", "http://x/?k={KEY}&g={key}", "http://x/?k=&g="},
-                      WordCase{"KeyInsideKey", "a{KE{KEY}Y}b", "ab"},
-                      WordCase{"BrokenWordEscaped", "{GAME", "%7BGAME"},
-                      WordCase{"SpaceAfterWords", "{GAME} now", "THORNMERE+now"}),
-    [](const auto& info) { return std::string(info.param.name); });
-
-TEST(ExpandUrlWords, GrowthIsCutAtTheBuffer)
-{
+    const std::pair<const char*, const char*> cases[] = {
+        {"http://x/{GAME}/", "http://x/THORNMERE/"},
+        {"http://x/{game}", "http://x/THORNMERE"},
+        {"{Game}-{gAME}", "THORNMERE-THORNMERE"},
+        {"http://x/?k={KEY}&g={key}", "http://x/?k=&g="},
+        {"a{KE{KEY}Y}b", "ab"},
+        {"{GAME", "%7BGAME"},
+        {"{GAME} now", "THORNMERE+now"},
+    };
+    for (const auto& [address, opened] : cases) {
+        test::RecordingBrowser browser;
+        EXPECT_TRUE(OpenUrl(browser, address));
+        EXPECT_EQ(browser.opened, std::vector<std::string>{opened});
+    }
     char text[16] = "{GAME}x{GAME}";
     ExpandUrlWords(text, sizeof text);
     EXPECT_STREQ(text, "THORNMEREx{GAME");

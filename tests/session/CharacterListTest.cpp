@@ -33,34 +33,22 @@ class CharacterListTest : public ::testing::Test {
     TempFolder folder;
 };
 
-struct CountCase {
-    const char* name;
-    int profiles;
-    std::size_t listed;
-};
-
-class CharacterMenuCounts : public CharacterListTest,
-                            public ::testing::WithParamInterface<CountCase> {};
-
 // Names "P00" to "P24", made in reverse so that the order is the list's own.
-TEST_P(CharacterMenuCounts, ListsAtMostTwentyInOrder)
+TEST_F(CharacterListTest, ListsAtMostTwentyInOrder)
 {
-    for (int i = GetParam().profiles - 1; i >= 0; --i)
-        Touch((i < 10 ? "P0" : "P") + std::to_string(i) + ".Dat");
-    const std::vector<CharacterItem> items = BuildCharacterMenu(folder.Path(), "p03");
-    ASSERT_EQ(items.size(), GetParam().listed);
-    for (std::size_t i = 0; i < items.size(); ++i) {
-        EXPECT_EQ(items[i].Command, CMD_FIRST_CHARACTER + static_cast<int>(i));
-        EXPECT_EQ(items[i].Text, (i < 10 ? "P0" : "P") + std::to_string(i));
-        EXPECT_EQ(items[i].Checked, i == 3);
+    for (const auto& [profiles, listed] :
+         {std::pair{0, 0u}, std::pair{1, 1u}, std::pair{20, 20u}, std::pair{25, 20u}}) {
+        for (int i = profiles - 1; i >= 0; --i)
+            Touch((i < 10 ? "P0" : "P") + std::to_string(i) + ".Dat");
+        const std::vector<CharacterItem> items = BuildCharacterMenu(folder.Path(), "p03");
+        ASSERT_EQ(items.size(), listed);
+        for (std::size_t i = 0; i < items.size(); ++i) {
+            EXPECT_EQ(items[i].Command, CMD_FIRST_CHARACTER + static_cast<int>(i));
+            EXPECT_EQ(items[i].Text, (i < 10 ? "P0" : "P") + std::to_string(i));
+            EXPECT_EQ(items[i].Checked, i == 3);
+        }
     }
 }
-
-INSTANTIATE_TEST_SUITE_P(Folders, CharacterMenuCounts,
-                         ::testing::Values(CountCase{"Empty", 0, 0}, CountCase{"One", 1, 1},
-                                           CountCase{"Twenty", 20, 20},
-                                           CountCase{"TwentyFive", 25, 20}),
-                         [](const auto& info) { return std::string(info.param.name); });
 
 TEST_F(CharacterListTest, NamesAreCapitalisedAndKeepTheirFile)
 {
@@ -82,32 +70,16 @@ TEST_F(CharacterListTest, EnsureProfileFilesGivesMacroFilesAProfile)
     EXPECT_EQ(Texts().size(), 2u);
 }
 
-struct NameCase {
-    const char* name;
-    const char* given;
-    bool refused;
-};
-
-class NewCharacterNames : public CharacterListTest,
-                          public ::testing::WithParamInterface<NameCase> {};
-
-TEST_P(NewCharacterNames, RefusedWithAMessage)
+TEST_F(CharacterListTest, NewCharacterNamesAreRefusedWithAMessage)
 {
     Touch("Bob.Dat");
-    const char* problem = CheckCharacterName(Files(), GetParam().given);
-    EXPECT_EQ(problem != nullptr, GetParam().refused);
+    const std::pair<const char*, bool> cases[] = {
+        {"Alice", false}, {"Dr. Who", false}, {"", true},        {"../Alice", true}, {"a\\b", true},
+        {"c:x", true},    {"a\tb", true},     {".hidden", true}, {" Al", true},      {"BOB", true},
+    };
+    for (const auto& [given, refused] : cases)
+        EXPECT_EQ(CheckCharacterName(Files(), given) != nullptr, refused) << given;
 }
-
-INSTANTIATE_TEST_SUITE_P(
-    Names, NewCharacterNames,
-    ::testing::Values(NameCase{"Plain", "Alice", false},
-                      NameCase{"WithSpaceAndDot", "Dr. Who", false}, NameCase{"Empty", "", true},
-                      NameCase{"Slash", "../Alice", true}, NameCase{"Backslash", "a\\b", true},
-                      NameCase{"Colon", "c:x", true}, NameCase{"ControlByte", "a\tb", true},
-                      NameCase{"LeadingDot", ".hidden", true},
-                      NameCase{"LeadingSpace", " Al", true},
-                      NameCase{"ExistsInOtherCase", "BOB", true}),
-    [](const auto& info) { return std::string(info.param.name); });
 
 } // namespace
 } // namespace steward

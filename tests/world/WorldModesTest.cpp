@@ -20,14 +20,12 @@ QByteArray ReplayText()
 
 class WorldModes : public ::testing::Test {
   protected:
-    QString Path(const char* name) const { return dir.filePath(name); }
-
     QTemporaryDir dir;
 };
 
 TEST_F(WorldModes, ReplaySendsTheFileBytesToEachConnection)
 {
-    QFile file(Path("replay.bin"));
+    QFile file(dir.filePath("replay.bin"));
     ASSERT_TRUE(file.open(QIODevice::WriteOnly));
     file.write(ReplayText());
     file.close();
@@ -47,7 +45,7 @@ TEST_F(WorldModes, ReplaySendsTheFileBytesToEachConnection)
 TEST_F(WorldModes, RecordKeepsEveryByteAClientSends)
 {
     WorldOptions options = TestWorld::QuietOptions();
-    options.recordFile = Path("record.bin");
+    options.recordFile = dir.filePath("record.bin");
     TestWorld world(options);
     TestClient mara(world.port);
     mara.Login("Mara");
@@ -74,18 +72,7 @@ TEST_F(WorldModes, FloodSendsTheWantedAmountOfGameTextThenItsEndLine)
         EXPECT_TRUE(flood.contains(kind)) << kind;
 }
 
-TEST(FloodSource, EndsOnceAndOnlyOnce)
-{
-    FloodSource source(100, 3);
-    QByteArray all;
-    while (!source.Done())
-        all += source.Next(40);
-    EXPECT_TRUE(all.endsWith("FLOOD-END\r\n"));
-    EXPECT_EQ(all.size(), 100 + qstrlen(FloodSource::EndLine));
-    EXPECT_TRUE(source.Next(40).isEmpty());
-}
-
-TEST(WorldProgram, PortZeroPrintsTheChosenPortAndServesPlayers)
+TEST(WorldProgram, PortZeroPrintsTheChosenPortAndServesPlayersHelpAndBadOptionsEndAtOnce)
 {
     QProcess program;
     program.start(WORLD_BINARY, {"--port", "0", "--quiet"});
@@ -103,23 +90,62 @@ TEST(WorldProgram, PortZeroPrintsTheChosenPortAndServesPlayers)
     program.waitForFinished();
     const QByteArray log = program.readAllStandardError();
     EXPECT_TRUE(log.contains("name Mara: quit")) << log.constData();
-}
 
-TEST(WorldProgram, RejectsABadOption)
-{
-    QProcess program;
     program.start(WORLD_BINARY, {"--port", "seventy"});
     ASSERT_TRUE(program.waitForFinished());
     EXPECT_NE(program.exitCode(), 0);
-}
-
-TEST(WorldProgram, HelpPrintsTheOptionsAndStartsNoServer)
-{
-    QProcess program;
     program.start(WORLD_BINARY, {"--help"});
     ASSERT_TRUE(program.waitForFinished());
     EXPECT_EQ(program.exitCode(), 0);
     EXPECT_TRUE(program.readAllStandardOutput().contains("--replay"));
+}
+
+// The stamped events of the world's standard output, without their times, which must not fall.
+QList<QByteArray> Events(const QByteArray& output)
+{
+    QList<QByteArray> events;
+    long long previous = 0;
+    const QList<QByteArray> lines = output.split('\n');
+    for (qsizetype i = 0; i < lines.size(); ++i) {
+        const qsizetype blank = lines[i].indexOf(' ');
+        if (blank < 0)
+            continue;
+        const long long time = lines[i].left(blank).toLongLong();
+        EXPECT_GE(time, previous) << lines[i].constData();
+        previous = time;
+        events << lines[i].mid(blank + 1);
+    }
+    return events;
+}
+
+TEST(WorldFlood, WaitsForItsTriggerLineAndStampsItsEndsAndTheLinesIn)
+{
+    QProcess program;
+    program.start(WORLD_BINARY, {"--port", "0", "--listen", "127.0.0.1", "--flood", "5000",
+                                 "--flood-on", "go", "--stamp"});
+    ASSERT_TRUE(program.waitForStarted());
+    ASSERT_TRUE(program.waitForReadyRead());
+    const quint16 port = quint16(program.readLine().trimmed().toUInt());
+    ASSERT_NE(port, 0);
+    QByteArray flood;
+    {
+        TestClient player(port);
+        player.Send("hello");
+        player.Send("go");
+        flood = player.ReadUntil("FLOOD-END\r\n");
+        player.Send("go");
+        player.Send("bye");
+    }
+    QByteArray output;
+    while (!output.contains("line bye") && program.waitForReadyRead(5000))
+        output += program.readAllStandardOutput();
+    program.terminate();
+    program.waitForFinished();
+    const QByteArray last =
+        "last " + QByteArray::number(flood.size()) + ' ' + QByteArray::number(flood.count('\n'));
+    EXPECT_EQ(flood.size(), 5000 + 11);
+    EXPECT_EQ(Events(output),
+              (QList<QByteArray>{"line hello", "line go", "first", last, "line go", "line bye"}));
 }
 
 } // namespace

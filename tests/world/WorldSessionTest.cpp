@@ -10,7 +10,7 @@
 
 namespace {
 
-TEST(WorldLogin, AsksForANameAndShowsTheFirstRoomWithItsExits)
+TEST(WorldLogin, AsksForANameShowsTheFirstRoomAndRefusesBadAndTakenNames)
 {
     TestWorld world;
     ASSERT_NE(world.port, 0);
@@ -21,68 +21,12 @@ TEST(WorldLogin, AsksForANameAndShowsTheFirstRoomWithItsExits)
     EXPECT_TRUE(room.contains("Well met, Mara."));
     EXPECT_TRUE(room.contains("[Thornmere, Market Square]"));
     EXPECT_TRUE(room.contains("Obvious exits: north, east, south, west, southeast.\r\n>"));
-}
-
-TEST(WorldLogin, RefusesBadAndTakenNames)
-{
-    TestWorld world;
-    TestClient mara(world.port);
-    mara.Login("Mara");
     TestClient other(world.port);
     other.ReadUntil("known? ");
     other.Send("x");
     EXPECT_FALSE(other.ReadUntil("two to sixteen letters").isEmpty());
     other.Send("MARA");
     EXPECT_FALSE(other.ReadUntil("already walks these streets").isEmpty());
-}
-
-struct Move {
-    const char* command;
-    const char* title;
-    const char* exits;
-};
-
-TEST(WorldMoves, EachWayOutLeadsToARoomWithItsExitList)
-{
-    TestWorld world;
-    TestClient mara(world.port);
-    mara.Login("Mara");
-    const Move route[] = {
-        {"n", "[Thornmere, Lantern Street]", "Obvious exits: south, northwest, up."},
-        {"climb ladder", "[Thornmere, Bell Tower]", "Obvious exits: down."},
-        {"down", "[Thornmere, Lantern Street]", "Obvious exits: south, northwest, up."},
-        {"northwest", "[Thornmere, North Gate]", "Obvious exits: southeast."},
-        {"go gate", "[Outside Thornmere, Meadow]", "Obvious exits: none."},
-        {"go gate", "[Thornmere, North Gate]", "Obvious exits: southeast."},
-        {"se", "[Thornmere, Lantern Street]", "Obvious exits: south, northwest, up."},
-        {"south", "[Thornmere, Market Square]", "Obvious exits: north, east, south, west,"},
-        {"e", "[Thornmere, Harbour Road]", "Obvious exits: west, east."},
-        {"go door", "[Thornmere, The Sleeping Otter]", "Obvious exits: out."},
-        {"out", "[Thornmere, Harbour Road]", "Obvious exits: west, east."},
-        {"east", "[Thornmere, The Quay]", "Obvious exits: west, southwest*."},
-    };
-    for (const Move& move : route) {
-        mara.Send(move.command);
-        const QByteArray answer = mara.ReadUntil("\r\n>");
-        EXPECT_TRUE(answer.contains(move.title)) << move.command << ": " << answer.constData();
-        EXPECT_TRUE(answer.contains(move.exits)) << move.command << ": " << answer.constData();
-    }
-}
-
-TEST(WorldMoves, BlockedWaysAndUnknownCommandsGetAPlainAnswer)
-{
-    TestWorld world;
-    TestClient mara(world.port);
-    mara.Login("Mara");
-    const std::pair<const char*, const char*> cases[] = {
-        {"up", "You can't go that way."},
-        {"xyzzy", "What?"},
-        {"swim moat", "You see no moat to swim here."},
-    };
-    for (const auto& [command, answer] : cases) {
-        mara.Send(command);
-        EXPECT_TRUE(mara.ReadUntil("\r\n>").contains(answer)) << command;
-    }
 }
 
 class TwoPlayers : public ::testing::Test {
@@ -99,7 +43,7 @@ class TwoPlayers : public ::testing::Test {
     TestClient corwin{world.port};
 };
 
-TEST_F(TwoPlayers, HearEachOthersSpeechInColourTokensThoughtsContactsAndTheLink)
+TEST_F(TwoPlayers, HearEachOtherSeeEachOtherAndSeeADepartureByQuitOrDrop)
 {
     const std::pair<const char*, QByteArray> cases[] = {
         {"say Good morning", "\x1b"
@@ -118,10 +62,11 @@ TEST_F(TwoPlayers, HearEachOthersSpeechInColourTokensThoughtsContactsAndTheLink)
         corwin.Send(command);
         EXPECT_FALSE(mara.ReadUntil(heard).isEmpty()) << command;
     }
-}
+    mara.Send("look");
+    EXPECT_FALSE(mara.ReadUntil("Also here: Corwin.").isEmpty());
+    mara.Send("world");
+    EXPECT_FALSE(mara.ReadUntil("Mara, Corwin").isEmpty());
 
-TEST_F(TwoPlayers, SeeADepartureByQuitAndByADroppedConnection)
-{
     corwin.Send("quit");
     EXPECT_TRUE(corwin.ReadUntilClosed().contains("Fare well, Corwin."));
     EXPECT_FALSE(mara.ReadUntil(" ** Corwin has left the world.\r\n").isEmpty());
@@ -131,14 +76,6 @@ TEST_F(TwoPlayers, SeeADepartureByQuitAndByADroppedConnection)
     mara.ReadUntil(" ** Ysolde just arrived in the world.");
     ysolde.Close();
     EXPECT_FALSE(mara.ReadUntil(" ** Ysolde has left the world unexpectedly.\r\n").isEmpty());
-}
-
-TEST_F(TwoPlayers, SeeEachOtherInTheRoomAndInTheWorldList)
-{
-    mara.Send("look");
-    EXPECT_TRUE(mara.ReadUntil("\r\n>").contains("Also here: Corwin."));
-    mara.Send("world");
-    EXPECT_TRUE(mara.ReadUntil("\r\n>").contains("Mara, Corwin"));
 }
 
 class StatusMode : public ::testing::Test {
@@ -160,7 +97,9 @@ class StatusMode : public ::testing::Test {
     TestClient mara{world.port};
 };
 
-TEST_F(StatusMode, EveryPromptBecomesAFullRecordOnItsOwnLine)
+// Every prompt becomes a full record on its own line, which follows posture, weapon and shield;
+// the health lines and rest use the vitals phrases.
+TEST_F(StatusMode, EveryPromptBecomesARecordThatFollowsTheBody)
 {
     const QByteArray record = NextRecord();
     ASSERT_GE(record.size(), 70);
@@ -171,11 +110,7 @@ TEST_F(StatusMode, EveryPromptBecomesAFullRecordOnItsOwnLine)
     const QByteArray answer = mara.ReadUntil("\x1b\x1b");
     EXPECT_TRUE(answer.endsWith("Obvious exits: north, east, south, west, southeast.\r\n\x1b\x1b"));
     EXPECT_FALSE(answer.contains("\r\n>"));
-}
-
-TEST_F(StatusMode, RecordFollowsPostureWeaponAndShield)
-{
-    NextRecord();
+    mara.ReadUntil("\x1b\r\n");
     const std::pair<const char*, const char*> steps[] = {
         {"ready saber", "010"}, {"ready shield", "011"}, {"sit", "111"},
         {"lie", "211"},         {"stand", "011"},        {"unready saber", "001"},
@@ -184,6 +119,15 @@ TEST_F(StatusMode, RecordFollowsPostureWeaponAndShield)
         mara.Send(command);
         EXPECT_EQ(NextRecord().mid(61, 3), flags) << command;
     }
+    mara.Send("health");
+    const QByteArray health = mara.ReadUntil("\x1b\x1b");
+    EXPECT_TRUE(health.contains(" ** Current hit points: 100 of 100\r\n"));
+    EXPECT_TRUE(health.contains(" ** Current fatigue: 60 of 60\r\n"));
+    mara.ReadUntil("\x1b\r\n");
+    mara.Send("rest");
+    const QByteArray rest = mara.ReadUntil("\x1b\x1b");
+    EXPECT_TRUE(rest.contains(" ** You are fully healed.\r\n"));
+    EXPECT_TRUE(rest.contains(" ** You are fully rested.\r\n"));
 }
 
 TEST_F(StatusMode, AttackGivesADelayLineAndRoundTimeInTheRecord)
@@ -205,20 +149,6 @@ TEST_F(StatusMode, AttackGivesADelayLineAndRoundTimeInTheRecord)
     EXPECT_GT(record.mid(StatusRoundTimeOffset, 2).toInt(nullptr, 16), 1);
     mara.Send("attack rat");
     EXPECT_TRUE(mara.ReadUntil("\x1b\x1b").contains("...wait "));
-}
-
-TEST_F(StatusMode, HealthLinesAndRestUseTheVitalsPhrases)
-{
-    NextRecord();
-    mara.Send("health");
-    const QByteArray health = mara.ReadUntil("\x1b\x1b");
-    EXPECT_TRUE(health.contains(" ** Current hit points: 100 of 100\r\n"));
-    EXPECT_TRUE(health.contains(" ** Current fatigue: 60 of 60\r\n"));
-    mara.ReadUntil("\x1b\r\n");
-    mara.Send("rest");
-    const QByteArray rest = mara.ReadUntil("\x1b\x1b");
-    EXPECT_TRUE(rest.contains(" ** You are fully healed.\r\n"));
-    EXPECT_TRUE(rest.contains(" ** You are fully rested.\r\n"));
 }
 
 // The record carries the prompt: whatever ends an answer or a notice, no line of a bare ">"

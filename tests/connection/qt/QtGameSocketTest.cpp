@@ -1,4 +1,6 @@
 #include "connection/qt/QtGameSocket.h"
+#include "config/Settings.h"
+#include "support/RunLoopUntil.h"
 
 #include <QHostAddress>
 #include <QTcpServer>
@@ -20,6 +22,7 @@ class RecordingListener : public SocketListener {
     void ReceiveBlock(const char* bytes, std::size_t length) override
     {
         blocks.emplace_back(bytes, length);
+        received += length;
     }
     void ConnectionClosed() override { ++closed; }
 
@@ -34,6 +37,7 @@ class RecordingListener : public SocketListener {
     std::size_t blockSize = 1024;
     std::vector<std::string> blocks;
     int closed = 0;
+    std::size_t received = 0;
 };
 
 class QtGameSocketTest : public ::testing::Test {
@@ -56,54 +60,33 @@ class QtGameSocketTest : public ::testing::Test {
     QtGameSocket socket{listener};
 };
 
-TEST_F(QtGameSocketTest, ConnectsToAListenerOnLoopback)
-{
-    EXPECT_TRUE(OpenAndAccept());
-}
-
-TEST(QtGameSocket, ClosedPortFails)
-{
-    quint16 port = 0;
-    {
-        QTcpServer probe;
-        ASSERT_TRUE(probe.listen(QHostAddress::LocalHost, 0));
-        port = probe.serverPort();
-    }
-    RecordingListener listener;
-    QtGameSocket socket{listener};
-    EXPECT_FALSE(socket.Open("127.0.0.1", port, 5000));
-}
-
-TEST_F(QtGameSocketTest, ReadsOneBlockPerTurnNoLargerThanAsked)
+// Each turn reads one block no larger than asked, and the drop comes after the last bytes.
+TEST_F(QtGameSocketTest, ReadsOneBlockPerTurnNoLargerThanAskedAndTheDropComesLast)
 {
     ASSERT_TRUE(OpenAndAccept());
     listener.blockSize = 256;
-    std::string sent(1000, 'a');
+    const std::string sent(1000, 'a');
     peer->write(sent.data(), static_cast<qint64>(sent.size()));
     peer->flush();
     ASSERT_TRUE(QTest::qWaitFor([&] { return listener.All().size() == sent.size(); }, 5000));
     for (const std::string& block : listener.blocks)
         EXPECT_LE(block.size(), 256u);
     EXPECT_GE(listener.blocks.size(), 4u);
-    EXPECT_EQ(listener.All(), sent);
-}
 
-TEST_F(QtGameSocketTest, DropComesAfterTheLastReceivedBytes)
-{
-    ASSERT_TRUE(OpenAndAccept());
     listener.blockSize = 16;
-    std::string last(100, 'z');
+    const std::string last(100, 'z');
     peer->write(last.data(), static_cast<qint64>(last.size()));
     peer->flush();
     peer->disconnectFromHost();
     ASSERT_TRUE(QTest::qWaitFor([&] { return listener.closed == 1; }, 5000));
-    EXPECT_EQ(listener.All(), last);
+    EXPECT_EQ(listener.All(), sent + last);
     socket.Write("x", 1);
     QTest::qWait(20);
     EXPECT_EQ(listener.closed, 1);
 }
 
-TEST_F(QtGameSocketTest, OwnCloseIsNoDropAndSendsWhatWasQueued)
+// The program's own close is no drop and sends what was queued; a closed port fails.
+TEST_F(QtGameSocketTest, OwnCloseIsNoDropAndAClosedPortFails)
 {
     ASSERT_TRUE(OpenAndAccept());
     socket.Write("quit\n\r", 6);
@@ -119,6 +102,34 @@ TEST_F(QtGameSocketTest, OwnCloseIsNoDropAndSendsWhatWasQueued)
     EXPECT_EQ(got, QByteArray("quit\n\r"));
     QTest::qWait(20);
     EXPECT_EQ(listener.closed, 0);
+
+    const quint16 port = server.serverPort();
+    server.close();
+    RecordingListener other;
+    QtGameSocket closed{other};
+    EXPECT_FALSE(closed.Open("127.0.0.1", port, 5000));
+}
+
+// A stream many times longer than the socket reads ahead arrives whole without anything else
+// turning the loop, whatever the block size, also one that fills the read-ahead exactly.
+TEST(QtGameSocketFlood, AStreamLongerThanTheReadAheadArrivesWhole)
+{
+    constexpr qint64 Total = 64 * RECEIVE_CHUNK_MAX * 16;
+    for (std::size_t blockSize :
+         {std::size_t(1024), std::size_t(RECEIVE_CHUNK_MAX), std::size_t(1000), std::size_t(64)}) {
+        QTcpServer server;
+        ASSERT_TRUE(server.listen(QHostAddress::LocalHost, 0));
+        RecordingListener listener;
+        listener.blockSize = blockSize;
+        QtGameSocket socket{listener};
+        ASSERT_TRUE(socket.Open("127.0.0.1", server.serverPort(), 5000));
+        ASSERT_TRUE(server.waitForNewConnection(5000));
+        std::unique_ptr<QTcpSocket> peer(server.nextPendingConnection());
+        peer->write(QByteArray(Total, 'a'));
+        EXPECT_TRUE(steward::testing::RunLoopUntil(
+            [&] { return listener.received == static_cast<std::size_t>(Total); }, 10000))
+            << "block " << blockSize << ": " << listener.received << " of " << Total;
+    }
 }
 
 } // namespace

@@ -9,7 +9,7 @@
 #include "session/qt/FrameMenu.h"
 #include "session/qt/FrameWindow.h"
 #include "session/qt/MdiClient.h"
-#include "support/RecordingBrowser.h"
+#include "support/RecordingDesktop.h"
 #include "terminal/AnsiWindow.h"
 
 #include <QAction>
@@ -34,64 +34,12 @@
 namespace steward {
 namespace {
 
-// Plays nothing and finds no wave file.
-class SilentPlayer : public SoundPlayer {
-  public:
-    bool PlayFile(const char*) override { return false; }
-};
-
-// An offline client whose dialogs answer at once and whose editor only records.
-class OfflineDesktop : public Desktop {
-  public:
-    ConnectChoice AskConnection(QWidget*, std::string&, int&) override
-    {
-        return ConnectChoice::Offline;
-    }
-    bool AskExit(QWidget*) override { return true; }
-    void ShowMessage(QWidget*, const char* text, const char*) override
-    {
-        messages.emplace_back(text);
-    }
-    bool RunEditor(const std::string& path) override
-    {
-        edited.push_back(path);
-        return editorStarts;
-    }
-    bool AskSaveFileName(QWidget*, const SaveFileRequest&, char*, std::size_t) override
-    {
-        return false;
-    }
-    void Beep() override {}
-    bool AskString(QWidget*, const char*, char*, std::size_t) override { return false; }
-    bool AskDragTarget(QWidget*, std::string& target) override
-    {
-        shownTarget = target;
-        target = dragAnswer;
-        return dragOk;
-    }
-    SoundPlayer& Sounds() override { return sounds; }
-    Browser& WebBrowser() override { return browser; }
-    std::string PickFolder(QWidget*, const char*) override { return {}; }
-    std::string ChooseScriptFile(QWidget*, const std::string&, bool) override { return {}; }
-    std::string AskRecordFile(QWidget*, const std::string&) override { return {}; }
-    std::string CreateScript(QWidget*, const std::string&) override { return {}; }
-    std::string ChooseSoundFile(QWidget*, const std::string&) override { return {}; }
-
-    SilentPlayer sounds;
-    test::RecordingBrowser browser;
-    std::string shownTarget;
-    std::string dragAnswer;
-    bool dragOk = true;
-    bool editorStarts = true;
-    std::vector<std::string> messages;
-    std::vector<std::string> edited;
-};
-
 class ClientCommandsTest : public ::testing::Test {
   protected:
     void SetUp() override
     {
         ASSERT_TRUE(folder.isValid());
+        desktop.choice = ConnectChoice::Offline;
         // The version notes were shown before, so the editor sees only what a test asks for.
         ASSERT_TRUE(WriteInt(Ini(), "Version Info", "Version", 0x68));
         client = MakeClient();
@@ -131,11 +79,11 @@ class ClientCommandsTest : public ::testing::Test {
     }
 
     QTemporaryDir folder;
-    OfflineDesktop desktop;
+    test::RecordingDesktop desktop;
     std::unique_ptr<Client> client;
 };
 
-TEST_F(ClientCommandsTest, NotesFileIsMadeOnceWithItsHeaderAndOpened)
+TEST_F(ClientCommandsTest, NotesAreMadeOnceAndAnEditorThatDoesNotStartIsSaid)
 {
     client->OnCommand(CMD_RUN_NOTEPAD);
     const std::string notes = File("Thornmere Notes.Txt");
@@ -145,70 +93,54 @@ TEST_F(ClientCommandsTest, NotesFileIsMadeOnceWithItsHeaderAndOpened)
     EXPECT_EQ(file.readAll(),
               QByteArray("--------------------\nThornmere Notes:\n--------------------\n\n\n"));
     file.close();
-
     ASSERT_TRUE(file.open(QIODevice::WriteOnly));
     file.write("my notes\n");
     file.close();
     client->OnCommand(CMD_RUN_NOTEPAD);
     ASSERT_TRUE(file.open(QIODevice::ReadOnly));
     EXPECT_EQ(file.readAll(), QByteArray("my notes\n"));
-}
 
-TEST_F(ClientCommandsTest, EditorThatDoesNotStartIsSaid)
-{
     desktop.editorStarts = false;
     client->OnCommand(CMD_VERSION_NOTES);
-    EXPECT_EQ(desktop.edited, std::vector<std::string>{File("Version Notes.Txt")});
-    EXPECT_EQ(desktop.messages, std::vector<std::string>{"Unable to run the text editor!"});
+    EXPECT_EQ(desktop.edited.back(), File("Version Notes.Txt"));
+    EXPECT_EQ(desktop.messages, std::vector<std::string>{"|Unable to run the text editor!"});
 }
 
-TEST_F(ClientCommandsTest, DatedLogsCountUpWithinADay)
-{
-    client->OnCommand(CMD_OPEN_DATED_LOG);
-    EXPECT_TRUE(GameSays("Log file auto-opened successfully."));
-    EXPECT_TRUE(client->State().SessionLog.IsOpen());
-    client->OnCommand(CMD_CLOSE_LOG);
-    EXPECT_FALSE(client->State().SessionLog.IsOpen());
-    EXPECT_TRUE(QFile::exists(TodaysLog(1)));
-
-    client->OnCommand(CMD_OPEN_DATED_LOG);
-    client->OnCommand(CMD_CLOSE_LOG);
-    EXPECT_TRUE(QFile::exists(TodaysLog(2)));
-}
-
-TEST_F(ClientCommandsTest, AutoLogOpensALogOnlyWhenNoneIsOpen)
+// Auto-log opens a log only when none is open, the loop writes out a full one on its turn, and
+// dated logs count up within a day.
+TEST_F(ClientCommandsTest, LogsOpenFlushAndCountUp)
 {
     client->OnCommand(CMD_AUTO_LOG);
     EXPECT_TRUE(client->State().Profile.Settings.AutoLog);
     EXPECT_TRUE(client->State().SessionLog.IsOpen());
+    EXPECT_TRUE(GameSays("Log file auto-opened successfully."));
     EXPECT_TRUE(QFile::exists(TodaysLog(1)));
-
     client->OnCommand(CMD_AUTO_LOG);
     EXPECT_FALSE(client->State().Profile.Settings.AutoLog);
     EXPECT_TRUE(client->State().SessionLog.IsOpen());
-
     client->OnCommand(CMD_AUTO_LOG);
     EXPECT_FALSE(QFile::exists(TodaysLog(2)));
-}
 
-TEST_F(ClientCommandsTest, MainLoopWritesOutAFullLogOnItsTurn)
-{
-    client->OnCommand(CMD_OPEN_DATED_LOG);
     BufferedLog& log = client->State().SessionLog;
     const std::string line(999, 'x');
     while (log.Count() <= LOG_FLUSH_THRESHOLD)
         ASSERT_TRUE(log.Write(line.c_str()));
-
     QCoreApplication::processEvents();
     EXPECT_GT(log.Count(), LOG_FLUSH_THRESHOLD);
-
     QEventLoop loop;
     QTimer::singleShot(20, &loop, &QEventLoop::quit);
     loop.exec();
     EXPECT_EQ(log.Count(), 0u);
+
+    client->OnCommand(CMD_CLOSE_LOG);
+    EXPECT_FALSE(client->State().SessionLog.IsOpen());
+    client->OnCommand(CMD_OPEN_DATED_LOG);
+    EXPECT_TRUE(client->State().SessionLog.IsOpen());
+    client->OnCommand(CMD_CLOSE_LOG);
+    EXPECT_TRUE(QFile::exists(TodaysLog(2)));
 }
 
-TEST_F(ClientCommandsTest, WindowMenuOpensWindowsAndArrangesThem)
+TEST_F(ClientCommandsTest, WindowMenuOpensArrangesAndCascadesWindows)
 {
     ChildWindowSet& windows = client->Windows();
     EXPECT_TRUE(windows.Exists(GAME_ROW));
@@ -219,6 +151,16 @@ TEST_F(ClientCommandsTest, WindowMenuOpensWindowsAndArrangesThem)
     const Rect area = windows.ClientArea();
     EXPECT_EQ(windows.Child(ARRIVAL_ROW)->geometry(),
               QRect(area.Width() / 2, 0, area.Width() / 2, area.Height() / 4));
+
+    client->OnCommand(CMD_CASCADE);
+    MdiClient& mdi = client->Frame().Mdi();
+    std::set<int> corners;
+    for (QMdiSubWindow* sub : mdi.subWindowList()) {
+        EXPECT_GE(sub->width(), mdi.ClientArea().Width() / 2);
+        EXPECT_GE(sub->height(), mdi.ClientArea().Height() / 2);
+        corners.insert(sub->y());
+    }
+    EXPECT_EQ(corners.size(), 3u);
 
     windows.Child(THOUGHT_ROW)->close();
     EXPECT_EQ(client->State().Windows.ThoughtWindow, nullptr);
@@ -253,29 +195,12 @@ TEST_F(ClientCommandsTest, TextWindowsCloseAndReopenAgainAndAgainInEveryLayout)
     }
 }
 
-TEST_F(ClientCommandsTest, CascadeLeavesEachWindowLargeEnoughToRead)
-{
-    client->OnCommand(CMD_OPEN_ARRIVAL_WINDOW);
-    client->OnCommand(CMD_CASCADE);
-    MdiClient& mdi = client->Frame().Mdi();
-    const Rect area = mdi.ClientArea();
-    std::set<int> corners;
-    for (QMdiSubWindow* sub : mdi.subWindowList()) {
-        EXPECT_GE(sub->width(), area.Width() / 2);
-        EXPECT_GE(sub->height(), area.Height() / 2);
-        corners.insert(sub->y());
-    }
-    EXPECT_EQ(corners.size(), 3u);
-}
-
 TEST_F(ClientCommandsTest, DisplayModesMoveTheTextAreaAndThePanel)
 {
     FrameWindow& frame = client->Frame();
-    const int below = [&] {
-        client->OnCommand(CMD_GRAPHICS_AT_BOTTOM);
-        return frame.Mdi().contentsRect().height() + 4;
-    }();
-    struct Case {
+    client->OnCommand(CMD_GRAPHICS_AT_BOTTOM);
+    const int below = frame.Mdi().contentsRect().height() + 4;
+    const struct {
         int command;
         int mode;
         int mdiTop;
@@ -283,7 +208,7 @@ TEST_F(ClientCommandsTest, DisplayModesMoveTheTextAreaAndThePanel)
     } cases[] = {{CMD_FULL_SCREEN, 2, 4, -5000},
                  {CMD_GRAPHICS_AT_BOTTOM, 1, 4, below},
                  {CMD_GRAPHICS_AT_TOP, 0, 62, 0}};
-    for (const Case& c : cases) {
+    for (const auto& c : cases) {
         client->OnCommand(c.command);
         EXPECT_EQ(client->State().Profile.Settings.DisplayMode, c.mode);
         EXPECT_EQ(frame.Mdi().geometry().top(), c.mdiTop) << c.command;
@@ -298,34 +223,22 @@ TEST_F(ClientCommandsTest, DisplayModesMoveTheTextAreaAndThePanel)
         QWidget* last = surface.childAt(surface.width() - 108 + 3 * 26 + 5, surface.height() - 20);
         ASSERT_TRUE(last) << c.command;
         EXPECT_EQ(last->toolTip(), QStringLiteral("Unready your shield"));
+        QWidget* line = frame.CommandLine();
+        EXPECT_EQ(line->geometry().bottom(), surface.height() - 5) << c.command;
     }
 }
 
-TEST_F(ClientCommandsTest, WindowsAndPlacementComeBackAfterARestart)
+// The windows are saved into the profile named at save time, never the one they opened with,
+// and come back after a restart.
+TEST_F(ClientCommandsTest, WindowsGoToTheNamedProfileAndComeBackAfterARestart)
 {
     client->OnCommand(CMD_OPEN_ARRIVAL_WINDOW);
     client->Windows().Activate(ARRIVAL_ROW);
-    client->Frame().close();
-    client.reset();
-    char letters[32];
-    ReadString(File("Default.Dat"), "Windows", "Open Windows", letters, sizeof letters, "");
-    EXPECT_STREQ(letters, "gtA");
-
-    client = MakeClient();
-    ASSERT_TRUE(client->Start());
-    EXPECT_NE(client->State().Windows.ArrivalWindow, nullptr);
-    EXPECT_NE(client->State().Windows.ThoughtWindow, nullptr);
-}
-
-// A switch of character saves the windows into the new profile, never the one they opened with.
-TEST_F(ClientCommandsTest, WindowStateGoesToTheProfileNamedAtSaveTime)
-{
     ASSERT_TRUE(client->Windows().Save(File("Default.Dat")));
     QFile opened(QString::fromStdString(File("Default.Dat")));
     ASSERT_TRUE(opened.open(QIODevice::ReadOnly));
     const QByteArray before = opened.readAll();
     opened.close();
-
     ASSERT_TRUE(client->Windows().Save(File("Rook.Dat")));
     QFile other(QString::fromStdString(File("Rook.Dat")));
     ASSERT_TRUE(other.open(QIODevice::ReadOnly));
@@ -335,19 +248,63 @@ TEST_F(ClientCommandsTest, WindowStateGoesToTheProfileNamedAtSaveTime)
         << saved.constData();
     ASSERT_TRUE(opened.open(QIODevice::ReadOnly));
     EXPECT_EQ(opened.readAll(), before);
+
+    client->Frame().close();
+    client.reset();
+    char letters[32];
+    ReadString(File("Default.Dat"), "Windows", "Open Windows", letters, sizeof letters, "");
+    EXPECT_STREQ(letters, "gtA");
+    client = MakeClient();
+    ASSERT_TRUE(client->Start());
+    EXPECT_NE(client->State().Windows.ArrivalWindow, nullptr);
+    EXPECT_NE(client->State().Windows.ThoughtWindow, nullptr);
 }
 
-TEST_F(ClientCommandsTest, RestTicksSendNothingWhileOffline)
+// The offline menu, the Internet items, silent rest and the drag dialog.
+TEST_F(ClientCommandsTest, MenuCommandsOffline)
 {
+    FrameMenu& menu = client->Frame().Menu();
+    menu.Refresh();
+    EXPECT_TRUE(menu.Action(CMD_CONNECT)->isEnabled());
+    EXPECT_FALSE(menu.Action(CMD_RESET_STEWARD_MODE)->isEnabled());
+    EXPECT_FALSE(menu.Action(CMD_OPEN_GAME_WINDOW)->isEnabled());
+    EXPECT_TRUE(menu.Action(CMD_OPEN_ARRIVAL_WINDOW)->isEnabled());
+    EXPECT_TRUE(menu.Action(CMD_AUTO_ARRANGE)->isChecked());
+    menu.Action(CMD_HOME_PAGE)->trigger();
+    menu.Action(CMD_MESSAGE_BOARD)->trigger();
+    ASSERT_EQ(desktop.browser.opened.size(), 2u);
+    EXPECT_NE(desktop.browser.opened[0], desktop.browser.opened[1]);
+    for (const std::string& address : desktop.browser.opened)
+        EXPECT_EQ(address.rfind("https://", 0), 0u) << address;
+
     client->OnCommand(CMD_REST_MODE_SILENT);
     EXPECT_TRUE(client->State().Rest.RestMode);
     EXPECT_TRUE(client->State().Rest.RestSilent);
     EXPECT_TRUE(GameSays("Entering rest mode...press any key to resume."));
+
+    desktop.dragTarget = std::string(100, 'b');
+    client->OnCommand(CMD_DRAG_SOMEONE);
+    EXPECT_EQ(desktop.shownTarget, "");
+    client->OnCommand(CMD_DRAG_SOMEONE);
+    EXPECT_EQ(desktop.shownTarget, std::string(63, 'b'));
+    desktop.dragOk = false;
+    client->OnCommand(CMD_DRAG_SOMEONE);
+    client->OnCommand(CMD_DRAG_SOMEONE);
+    EXPECT_EQ(desktop.shownTarget, "");
+    desktop.dragOk = true;
+    desktop.dragTarget = "bob";
+    client->OnCommand(CMD_DRAG_SOMEONE);
+    client->OnCommand(CMD_STOP_DRAGGING);
+    client->OnCommand(CMD_DRAG_SOMEONE);
+    EXPECT_EQ(desktop.shownTarget, "");
 }
 
-TEST_F(ClientCommandsTest, EditMenuWorksOnTheCommandLine)
+// Cut, paste and clear on the command line; copies from the active window's selection to the
+// clipboard, the command line and the highlight lists, which also take the clipboard's lines.
+TEST_F(ClientCommandsTest, EditAndCopyCommands)
 {
-    auto* line = qobject_cast<QLineEdit*>(client->Frame().CommandLine());
+    FrameWindow& frame = client->Frame();
+    auto* line = qobject_cast<QLineEdit*>(frame.CommandLine());
     ASSERT_NE(line, nullptr);
     line->setText(QStringLiteral("look north"));
     line->setSelection(0, 4);
@@ -359,41 +316,44 @@ TEST_F(ClientCommandsTest, EditMenuWorksOnTheCommandLine)
     line->setSelection(0, 6);
     client->OnCommand(CMD_CLEAR);
     EXPECT_EQ(line->text(), QStringLiteral("look"));
-}
+    line->clear();
 
-TEST_F(ClientCommandsTest, DragDialogSetsAndStopsTheTarget)
-{
-    desktop.dragAnswer = std::string(100, 'b');
-    client->OnCommand(CMD_DRAG_SOMEONE);
-    EXPECT_EQ(desktop.shownTarget, "");
-    client->OnCommand(CMD_DRAG_SOMEONE);
-    EXPECT_EQ(desktop.shownTarget, std::string(63, 'b'));
+    frame.show();
+    QApplication::setActiveWindow(&frame);
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&frame));
+    frame.Mdi().setActiveSubWindow(client->Windows().Child(GAME_ROW));
+    AnsiWindow& game = *client->State().Windows.GameWindow;
+    game.AppendText("a silver coin\n");
+    TextBuffer& buffer = game.GetLiveBuffer();
+    const auto selectLine = [&] {
+        buffer.SelectLine(buffer.Prev(buffer.Prev(buffer.GetWritePos())));
+    };
+    selectLine();
+    QGuiApplication::clipboard()->clear();
+    line->setFocus();
+    QTest::keyClick(line, Qt::Key_C, Qt::ControlModifier);
+    EXPECT_EQ(QGuiApplication::clipboard()->text(), QStringLiteral("a silver coin"));
+    EXPECT_TRUE(game.HasSelection());
+    QGuiApplication::clipboard()->clear();
+    client->OnCommand(CMD_COPY);
+    EXPECT_EQ(QGuiApplication::clipboard()->text(), QStringLiteral("a silver coin"));
+    client->OnCommand(CMD_COPY_TO_COMMAND_LINE);
+    EXPECT_EQ(line->text(), QStringLiteral("a silver coin"));
+    EXPECT_FALSE(game.HasSelection());
+    selectLine();
+    QGuiApplication::clipboard()->clear();
+    client->OnCommand(CMD_COPY_TO_STRING_HIGHLIGHTS);
+    EXPECT_FALSE(game.HasSelection());
 
-    desktop.dragOk = false;
-    client->OnCommand(CMD_DRAG_SOMEONE);
-    client->OnCommand(CMD_DRAG_SOMEONE);
-    EXPECT_EQ(desktop.shownTarget, "");
-
-    desktop.dragOk = true;
-    desktop.dragAnswer = "bob";
-    client->OnCommand(CMD_DRAG_SOMEONE);
-    client->OnCommand(CMD_STOP_DRAGGING);
-    client->OnCommand(CMD_DRAG_SOMEONE);
-    EXPECT_EQ(desktop.shownTarget, "");
-}
-
-TEST_F(ClientCommandsTest, CopySpecialAddsTheClipboardLinesToItsListAndTheProfileKeepsThem)
-{
-    FrameMenu& menu = client->Frame().Menu();
+    FrameMenu& menu = frame.Menu();
     menu.Refresh();
     EXPECT_TRUE(menu.Action(CMD_COPY_TO_STRING_HIGHLIGHTS)->isEnabled());
     EXPECT_TRUE(menu.Action(CMD_COPY_TO_NAME_HIGHLIGHTS)->isEnabled());
-
     QGuiApplication::clipboard()->setText(QStringLiteral("Mara\r\n\r\nOrla\n"));
     client->OnCommand(CMD_COPY_TO_NAME_HIGHLIGHTS);
     QGuiApplication::clipboard()->setText(QStringLiteral("silver coin"));
     client->OnCommand(CMD_COPY_TO_STRING_HIGHLIGHTS);
-    client->Frame().close();
+    frame.close();
 
     HighlightList names;
     names.Load(File("Default.Names").c_str());
@@ -403,81 +363,9 @@ TEST_F(ClientCommandsTest, CopySpecialAddsTheClipboardLinesToItsListAndTheProfil
     EXPECT_EQ(names.Color(1), HIGHLIGHT_DEFAULT_COLOR);
     HighlightList strings;
     strings.Load(File("Default.Highlights").c_str());
-    EXPECT_STREQ(strings.Text(0), "silver coin");
-    EXPECT_STREQ(strings.Text(1), "");
-}
-
-TEST_F(ClientCommandsTest, CopyCommandsTakeTheActiveWindowsSelection)
-{
-    client->Frame().show();
-    MdiClient& mdi = client->Frame().Mdi();
-    mdi.setActiveSubWindow(client->Windows().Child(GAME_ROW));
-    AnsiWindow& game = *client->State().Windows.GameWindow;
-    game.AppendText("a silver coin\n");
-    TextBuffer& buffer = game.GetLiveBuffer();
-    const auto selectLine = [&] {
-        buffer.SelectLine(buffer.Prev(buffer.Prev(buffer.GetWritePos())));
-    };
-    auto* line = qobject_cast<QLineEdit*>(client->Frame().CommandLine());
-
-    selectLine();
-    client->OnCommand(CMD_COPY);
-    EXPECT_EQ(QGuiApplication::clipboard()->text(), QStringLiteral("a silver coin"));
-    EXPECT_TRUE(game.HasSelection());
-    client->OnCommand(CMD_COPY_TO_COMMAND_LINE);
-    EXPECT_EQ(line->text(), QStringLiteral("a silver coin"));
-    EXPECT_FALSE(game.HasSelection());
-
-    selectLine();
-    QGuiApplication::clipboard()->clear();
-    client->OnCommand(CMD_COPY_TO_STRING_HIGHLIGHTS);
-    EXPECT_FALSE(game.HasSelection());
-    client->Frame().close();
-    HighlightList strings;
-    strings.Load(File("Default.Highlights").c_str());
     EXPECT_STREQ(strings.Text(0), "a silver coin");
-}
-
-TEST_F(ClientCommandsTest, TheCopyMacroKeyCopiesTheActiveWindowsSelection)
-{
-    FrameWindow& frame = client->Frame();
-    frame.show();
-    QApplication::setActiveWindow(&frame);
-    ASSERT_TRUE(QTest::qWaitForWindowActive(&frame));
-    frame.Mdi().setActiveSubWindow(client->Windows().Child(GAME_ROW));
-    AnsiWindow& game = *client->State().Windows.GameWindow;
-    game.AppendText("a golden key\n");
-    TextBuffer& buffer = game.GetLiveBuffer();
-    buffer.SelectLine(buffer.Prev(buffer.Prev(buffer.GetWritePos())));
-    QGuiApplication::clipboard()->clear();
-    frame.CommandLine()->setFocus();
-
-    QTest::keyClick(frame.CommandLine(), Qt::Key_C, Qt::ControlModifier);
-    EXPECT_EQ(QGuiApplication::clipboard()->text(), QStringLiteral("a golden key"));
-    EXPECT_TRUE(game.HasSelection());
-}
-
-TEST_F(ClientCommandsTest, MenuFollowsTheOfflineState)
-{
-    FrameMenu& menu = client->Frame().Menu();
-    menu.Refresh();
-    EXPECT_TRUE(menu.Action(CMD_CONNECT)->isEnabled());
-    EXPECT_FALSE(menu.Action(CMD_RESET_STEWARD_MODE)->isEnabled());
-    EXPECT_FALSE(menu.Action(CMD_OPEN_GAME_WINDOW)->isEnabled());
-    EXPECT_TRUE(menu.Action(CMD_OPEN_ARRIVAL_WINDOW)->isEnabled());
-    EXPECT_TRUE(menu.Action(CMD_AUTO_ARRANGE)->isChecked());
-}
-
-TEST_F(ClientCommandsTest, InternetMenuOpensItsAddressesInTheBrowser)
-{
-    FrameMenu& menu = client->Frame().Menu();
-    menu.Refresh();
-    menu.Action(CMD_HOME_PAGE)->trigger();
-    menu.Action(CMD_MESSAGE_BOARD)->trigger();
-    ASSERT_EQ(desktop.browser.opened.size(), 2u);
-    EXPECT_NE(desktop.browser.opened[0], desktop.browser.opened[1]);
-    for (const std::string& address : desktop.browser.opened)
-        EXPECT_EQ(address.rfind("https://", 0), 0u) << address;
+    EXPECT_STREQ(strings.Text(1), "silver coin");
+    EXPECT_STREQ(strings.Text(2), "");
 }
 
 } // namespace
