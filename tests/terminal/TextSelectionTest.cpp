@@ -3,7 +3,7 @@
 namespace steward::test {
 namespace {
 
-constexpr std::uint32_t RING = 200;
+constexpr std::uint32_t RING = SMALL_CAPACITY;
 // Where the last line starts, so that "seamword" runs over the ring's end.
 constexpr TextBuffer::Position LAST_LINE_AT = 186;
 constexpr char LAST_LINE[] = "one \x8Btwo\xA0, seamword gamma";
