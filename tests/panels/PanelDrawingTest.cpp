@@ -1,6 +1,8 @@
 #include "panels/BitmapFontGrid.h"
+#include "panels/CompassState.h"
 #include "panels/MultiControl.h"
 #include "panels/PanelCanvas.h"
+#include "panels/PanelStates.h"
 
 #include <gtest/gtest.h>
 
@@ -120,6 +122,12 @@ TEST(GaugeDrawingTest, BarStaysInsideTheClientArea)
         {"beyond maximum", 0, 100, 32767, {"fill 1,1,59,15 5f5f5f", "fill 1,1,59,15 5adc5a"}, 3},
         {"negative", 0, 100, -5, {"fill 1,1,59,15 5f5f5f"}, 0},
         {"minimum above maximum", 50, 40, 45, {"fill 1,1,59,15 5f5f5f"}, 0},
+        {"equal ends fill without dividing",
+         5,
+         5,
+         6,
+         {"fill 1,1,59,15 5f5f5f", "fill 1,1,59,15 5adc5a"},
+         3},
         {"value past the range's length",
          50,
          100,
