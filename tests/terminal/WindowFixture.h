@@ -39,15 +39,6 @@ class RecordingLayer : public DrawingLayer {
         calls.push_back({true, x, y, {}, std::string(text, length), text_, back_});
     }
 
-    // Calls that drew text, in order.
-    std::vector<DrawCall> Runs() const
-    {
-        std::vector<DrawCall> runs;
-        for (const DrawCall& call : calls)
-            if (!call.text.empty() && !call.cursor)
-                runs.push_back(call);
-        return runs;
-    }
     // The text runs of the row whose top is y, joined.
     std::string RowText(std::int32_t y) const
     {
