@@ -1,12 +1,16 @@
+#include "analysis/LinePipeline.h"
 #include "panels/StatusPanel.h"
 #include "panels/qt/MultiControlWidget.h"
+#include "panels/qt/QtGaugeTimer.h"
 #include "panels/qt/StatusPanelView.h"
 
+#include <QAccessible>
 #include <QApplication>
 #include <QImage>
 #include <QTest>
 #include <gtest/gtest.h>
 
+#include <functional>
 #include <map>
 #include <vector>
 
@@ -114,6 +118,92 @@ TEST_F(PanelViewTest, ARecordPaintsOnlyWhatChanged)
     }
     EXPECT_EQ(paints,
               (std::map<QObject*, int>{{frame.childAt(70, 18), 1}, {frame.childAt(128, 18), 1}}));
+}
+
+struct ControlCase {
+    const char* name;
+    std::function<void(StatusPanel&)> change;
+    const char* value;
+    // For a gauge, its value and maximum; -1 for a control without a value interface.
+    int current;
+    int maximum;
+};
+
+// The panel's control of that name: the gauge itself rather than its label box.
+QAccessibleInterface* Find(QWidget& frame, const char* name, bool gauge)
+{
+    for (MultiControl* control : frame.findChildren<MultiControl*>()) {
+        QAccessibleInterface* accessible = QAccessible::queryAccessibleInterface(control);
+        if (accessible->text(QAccessible::Name) == QLatin1String(name) &&
+            (accessible->valueInterface() != nullptr) == gauge)
+            return accessible;
+    }
+    return nullptr;
+}
+
+TEST_F(PanelViewTest, GaugesAndTheCompassTellAScreenReaderWhatTheyShow)
+{
+    const ControlCase cases[] = {
+        {"Hp:", [](StatusPanel& p) { SetGaugeValues(p.Hp, 0, 100, 45); }, "45 of 100", 45, 100},
+        {"Hp:", [](StatusPanel& p) { SetGaugeValues(p.Hp, 0, 100, -5); }, "-5 of 100", -5, 100},
+        {"RT:", [](StatusPanel& p) { p.RT.SetMax(3000), p.RT.StartCountdown(nullptr); }, "3", 3000,
+         3000},
+        {"Compass", [](StatusPanel& p) { p.Compass.SetExits(0x00080209); },
+         "north, southeast (special), up", -1, -1},
+        {"Compass", [](StatusPanel& p) { p.Compass.SetExits(0x00010000); }, "no exits", -1, -1},
+    };
+    for (const ControlCase& c : cases) {
+        SCOPED_TRACE(c.value);
+        c.change(panel);
+        QAccessibleInterface* control = Find(frame, c.name, c.current != -1);
+        ASSERT_NE(control, nullptr);
+        EXPECT_EQ(control->text(QAccessible::Value), QLatin1String(c.value));
+        if (QAccessibleValueInterface* value = control->valueInterface()) {
+            EXPECT_EQ(value->currentValue().toInt(), c.current);
+            EXPECT_EQ(value->maximumValue().toInt(), c.maximum);
+        }
+    }
+}
+
+constexpr int WAIT_MS = 10000;
+
+class RecordingListener : public CountdownListener {
+  public:
+    void CountdownDone(Gauge& gauge) override { done.push_back(&gauge); }
+    std::vector<Gauge*> done;
+};
+
+TEST(QtGaugeTimer, CountdownsRunBySecondsEachOnItsOwnTimerUntilDoneOrStopped)
+{
+    QtGaugeTimer timer;
+    RecordingListener listener;
+    Gauge shortOne("RT:", StatusPanel::TimeGaugeFlags, false, {});
+    Gauge longOne("Pause:", StatusPanel::TimeGaugeFlags, false, {});
+    Gauge stopped("RT:", StatusPanel::TimeGaugeFlags, false, {});
+    for (Gauge* gauge : {&shortOne, &longOne, &stopped})
+        gauge->SetTimer(&timer);
+    shortOne.SetMax(2000);
+    longOne.SetMax(3000);
+    stopped.SetMax(1000);
+    shortOne.StartCountdown(&listener);
+    longOne.StartCountdown(&listener);
+    // A restart replaces the running timer instead of adding a second one.
+    longOne.StartCountdown(&listener);
+    stopped.StartCountdown(&listener);
+    stopped.StopCountdown(&listener);
+
+    ASSERT_TRUE(QTest::qWaitFor([&] { return !listener.done.empty(); }, WAIT_MS));
+    EXPECT_EQ(listener.done, std::vector<Gauge*>{&shortOne});
+    EXPECT_EQ(shortOne.GetValue(), 0);
+    EXPECT_FALSE(shortOne.IsCounting());
+    EXPECT_GE(longOne.GetValue(), 1000);
+    EXPECT_TRUE(longOne.IsCounting());
+
+    ASSERT_TRUE(QTest::qWaitFor([&] { return listener.done.size() == 2; }, WAIT_MS));
+    EXPECT_EQ(listener.done.back(), &longOne);
+    QTest::qWait(1200);
+    EXPECT_EQ(listener.done.size(), 2u) << "a finished or stopped countdown ticks no more";
+    EXPECT_EQ(stopped.GetValue(), 0);
 }
 
 } // namespace
