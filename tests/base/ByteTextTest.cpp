@@ -70,12 +70,8 @@ TEST(ByteText, FindNoCaseFoldsOnlyAsciiLetters)
         {"abc", "", 0},
         {"", "a", -1},
         {"abc", "abcd", -1},
-        {"x\x8A"
-         "y",
-         "\x8A", 1},
-        {"x\xAA"
-         "y",
-         "\x8A", -1},
+        {"x\x8Ay", "\x8A", 1},
+        {"x\xAAy", "\x8A", -1},
         {"[a]", "{A}", -1},
         {"aab", "ab", 1},
     };
