@@ -120,7 +120,7 @@ class FakeHost : public AnsiWindowHost {
     }
     void Beep() override { ++beeps; }
     void SetClipboardText(const std::string& text) override { clipboard = text; }
-    void DropCommandLineSelection() override { ++selectionDrops; }
+    void DropCommandLineSelection() override {}
 
     Rect client{0, 0, 400, 105};
     bool active = true;
@@ -132,7 +132,6 @@ class FakeHost : public AnsiWindowHost {
     int titleClears = 0;
     int beeps = 0;
     std::string clipboard;
-    int selectionDrops = 0;
     WindowPlacementRecord placement;
     bool confirmDialogs = true;
     bool lastForegroundRule = false;
