@@ -1,4 +1,5 @@
 #include "base/ByteText.h"
+#include "base/ColorCode.h"
 
 #include <gtest/gtest.h>
 
@@ -69,12 +70,8 @@ TEST(ByteText, FindNoCaseFoldsOnlyAsciiLetters)
         {"abc", "", 0},
         {"", "a", -1},
         {"abc", "abcd", -1},
-        {"x\x8A"
-         "y",
-         "\x8A", 1},
-        {"x\xAA"
-         "y",
-         "\x8A", -1},
+        {"x\x8Ay", "\x8A", 1},
+        {"x\xAAy", "\x8A", -1},
         {"[a]", "{A}", -1},
         {"aab", "ab", 1},
     };
@@ -91,6 +88,14 @@ TEST(ByteText, WordBoundariesAreEverythingButLettersAndDigits)
             (c >= '0' && c <= '9') || (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z');
         EXPECT_EQ(IsWordBoundary(static_cast<unsigned char>(c)), !alnum) << c;
     }
+}
+
+TEST(ColorCode, RangeIsExactlyEightyToA3)
+{
+    EXPECT_FALSE(IsColorCode(0x7F));
+    EXPECT_TRUE(IsColorCode(0x80));
+    EXPECT_TRUE(IsColorCode(0xA3));
+    EXPECT_FALSE(IsColorCode(0xA4));
 }
 
 } // namespace

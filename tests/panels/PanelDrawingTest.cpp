@@ -1,6 +1,8 @@
 #include "panels/BitmapFontGrid.h"
+#include "panels/CompassState.h"
 #include "panels/MultiControl.h"
 #include "panels/PanelCanvas.h"
+#include "panels/PanelStates.h"
 
 #include <gtest/gtest.h>
 
@@ -102,32 +104,24 @@ TEST(BitmapFontGridTest, TextSkipsTheSpaceButAdvances)
               (std::vector<std::string>{"cell 136,0 at 10,2 ffffff", "cell 144,0 at 23,2 ffffff"}));
 }
 
-// A 60 by 16 gauge with a client area of 58 by 14 inside its one-pixel frame.
-struct GaugeCase {
-    const char* name;
-    std::int32_t minimum, maximum, value;
-    std::vector<std::string> fills;
-    int ticks;
-};
-
+// A 60 by 16 gauge with a client area of 58 by 14 inside its one-pixel frame: the background,
+// then a bar up to its right edge (none: -1) with three ticks.
 TEST(GaugeDrawingTest, BarStaysInsideTheClientArea)
 {
-    const GaugeCase cases[] = {
-        {"empty", 0, 0, 0, {"fill 1,1,59,15 5f5f5f"}, 0},
-        {"thirty of a hundred", 0, 100, 30, {"fill 1,1,59,15 5f5f5f", "fill 1,1,18,15 5adc5a"}, 3},
-        {"too little for a pixel", 0, 100, 1, {"fill 1,1,59,15 5f5f5f", "fill 1,1,1,15 5adc5a"}, 3},
-        {"at maximum", 0, 100, 100, {"fill 1,1,59,15 5f5f5f", "fill 1,1,59,15 5adc5a"}, 3},
-        {"beyond maximum", 0, 100, 32767, {"fill 1,1,59,15 5f5f5f", "fill 1,1,59,15 5adc5a"}, 3},
-        {"negative", 0, 100, -5, {"fill 1,1,59,15 5f5f5f"}, 0},
-        {"minimum above maximum", 50, 40, 45, {"fill 1,1,59,15 5f5f5f"}, 0},
-        {"value past the range's length",
-         50,
-         100,
-         90,
-         {"fill 1,1,59,15 5f5f5f", "fill 1,1,59,15 5adc5a"},
-         3},
-    };
-    for (const GaugeCase& c : cases) {
+    const struct {
+        const char* name;
+        std::int32_t minimum, maximum, value;
+        int barRight;
+    } cases[] = {{"empty", 0, 0, 0, -1},
+                 {"thirty of a hundred", 0, 100, 30, 18},
+                 {"too little for a pixel", 0, 100, 1, 1},
+                 {"at maximum", 0, 100, 100, 59},
+                 {"beyond maximum", 0, 100, 32767, 59},
+                 {"negative", 0, 100, -5, -1},
+                 {"minimum above maximum", 50, 40, 45, -1},
+                 {"equal ends fill without dividing", 5, 5, 6, 59},
+                 {"value past the range's length", 50, 100, 90, 59}};
+    for (const auto& c : cases) {
         Gauge gauge("Hp:", GF_SHOWVALUE | GF_SHOWMAX, true, {0xFFFFFF, 0x5ADC5A, 0x5F5F5F});
         gauge.SetMin(c.minimum);
         gauge.SetMax(c.maximum);
@@ -135,8 +129,11 @@ TEST(GaugeDrawingTest, BarStaysInsideTheClientArea)
         GaugeHandler handler(gauge, Alphabet, nullptr);
         RecordingCanvas canvas;
         handler.Paint(canvas, 60, 16);
-        EXPECT_EQ(canvas.Only("fill"), c.fills) << c.name;
-        EXPECT_EQ(canvas.Only("line").size(), 4u + c.ticks) << c.name;
+        std::vector<std::string> fills{"fill 1,1,59,15 5f5f5f"};
+        if (c.barRight >= 0)
+            fills.push_back("fill 1,1," + std::to_string(c.barRight) + ",15 5adc5a");
+        EXPECT_EQ(canvas.Only("fill"), fills) << c.name;
+        EXPECT_EQ(canvas.Only("line").size(), c.barRight >= 0 ? 7u : 4u) << c.name;
     }
 }
 

@@ -11,36 +11,34 @@ using MessagesTest = WindowTest;
 std::string TextOf(const AnsiWindow& window)
 {
     char out[4096];
-    const std::uint16_t length = window.GetText(out, sizeof out);
-    return std::string(out, length);
+    return std::string(out, window.GetText(out, sizeof out));
 }
 
-TEST_F(MessagesTest, TheRingSizeFollowsTheWindowName)
+TEST_F(MessagesTest, ANewWindowTakesItsRingSizeFromItsNameAndTheDefaults)
 {
-    const struct {
-        const char* name;
-        std::uint32_t capacity;
-    } cases[] = {
+    const std::pair<const char*, std::uint32_t> cases[] = {
         {"Game Window", GAME_BUFFER_CAPACITY},      {"Gazette", GAME_BUFFER_CAPACITY},
         {"Thought Window", WINDOW_BUFFER_CAPACITY}, {"Arrival Window", WINDOW_BUFFER_CAPACITY},
-        {"game window", WINDOW_BUFFER_CAPACITY},    {"G", WINDOW_BUFFER_CAPACITY},
-    };
-    for (const auto& c : cases) {
-        auto window = Make(c.name);
+        {"game window", WINDOW_BUFFER_CAPACITY},    {"G", WINDOW_BUFFER_CAPACITY}};
+    for (const auto& [name, capacity] : cases) {
+        auto window = Make(name);
         ASSERT_NE(window, nullptr);
-        EXPECT_EQ(window->GetLiveBuffer().GetCapacity(), c.capacity) << c.name;
-        EXPECT_EQ(window->GetViewBuffer().GetCapacity(), c.capacity) << c.name;
+        EXPECT_EQ(window->GetLiveBuffer().GetCapacity(), capacity) << name;
+        EXPECT_EQ(window->GetViewBuffer().GetCapacity(), capacity) << name;
     }
-}
-
-TEST_F(MessagesTest, ANewWindowHasTheDefaultColoursAndTheSystemFont)
-{
     settings.DefaultTextColor = MakeRgb(10, 20, 30);
     settings.DefaultBackColor = MakeRgb(40, 50, 60);
+    host.overhang = 2;
     auto window = Make("Thought Window");
     EXPECT_EQ(window->GetTextColor(), MakeRgb(10, 20, 30));
     EXPECT_EQ(window->GetBkColor(), MakeRgb(40, 50, 60));
     EXPECT_EQ(window->GetLineHeight(), CELL_HEIGHT);
+    // The overhang is taken from every width.
+    EXPECT_EQ(window->GetCharWidth()['a'], CELL_WIDTH);
+    EXPECT_EQ(window->GetCharWidth()[0x80], CELL_WIDTH);
+    window->SetName(std::string(100, 'n').c_str());
+    EXPECT_EQ(std::strlen(window->GetWindowName()), WINDOW_NAME_SIZE - 1);
+    EXPECT_STREQ(window->GetSectionName(), window->GetWindowName());
 }
 
 TEST_F(MessagesTest, RowsNeedHalfARowOfSpareHeightAndShareTheRestAboveAndBelow)
@@ -58,74 +56,50 @@ TEST_F(MessagesTest, RowsNeedHalfARowOfSpareHeightAndShareTheRestAboveAndBelow)
     }
 }
 
-TEST_F(MessagesTest, TheOverhangIsTakenFromEveryWidth)
-{
-    host.overhang = 2;
-    auto window = Make("Thought Window");
-    EXPECT_EQ(window->GetCharWidth()['a'], CELL_WIDTH);
-    EXPECT_EQ(window->GetCharWidth()[0x80], CELL_WIDTH);
-}
-
-TEST_F(MessagesTest, TheGameWindowAppliesThePromptRule)
+TEST_F(MessagesTest, OnlyTheGameWindowAppliesThePromptRule)
 {
     auto window = Make("Game Window", true);
     window->AppendText("> ");
     prompt.PromptPending = true;
-
     EXPECT_EQ(window->AppendText("\r\n"), 1);
     EXPECT_TRUE(prompt.PromptPending);
     EXPECT_EQ(TextOf(*window), "> \r\n");
-
     window->AppendText("The road.\r\n");
     EXPECT_FALSE(prompt.PromptPending);
     EXPECT_EQ(TextOf(*window), "> \r\nThe road.\r\n\r\n");
-
     window->AppendText("> ");
     prompt.PromptPending = true;
     prompt.EchoPending = true;
     window->AppendText("look\r\n");
     EXPECT_FALSE(prompt.EchoPending);
     EXPECT_EQ(TextOf(*window), "> \r\nThe road.\r\n> look\r\n\r\n");
-}
 
-TEST_F(MessagesTest, OtherWindowsStoreALineEndAfterAPrompt)
-{
-    auto window = Make("Thought Window");
+    auto other = Make("Thought Window");
     prompt.PromptPending = true;
-    window->AppendText("> ");
-    window->AppendText("\r\n");
-    EXPECT_EQ(TextOf(*window), "> \r\n\r\n");
+    other->AppendText("> ");
+    other->AppendText("\r\n");
+    EXPECT_EQ(TextOf(*other), "> \r\n\r\n");
     EXPECT_TRUE(prompt.PromptPending);
 }
 
-TEST_F(MessagesTest, AppendingCanStartWithALineFeed)
-{
-    auto window = Make("Thought Window");
-    window->AppendText("a");
-    window->AppendText("b", true);
-    EXPECT_EQ(TextOf(*window), "a\r\nb\r\n");
-}
-
-TEST_F(MessagesTest, AppendingAsksForALaterPaintUnlessUpdatesAreUnbuffered)
+TEST_F(MessagesTest, AppendingBeepsAndAsksForALaterPaintUnlessUpdatesAreUnbuffered)
 {
     auto window = Make("Thought Window");
     host.invalidations.clear();
     const int updates = host.updates;
-    window->AppendText("x");
-    EXPECT_EQ(host.invalidations, std::vector<bool>{false});
-    EXPECT_EQ(host.updates, updates);
-
-    settings.BufferedUpdates = 0;
-    window->AppendText("y");
-    EXPECT_EQ(host.updates, updates + 1);
-}
-
-TEST_F(MessagesTest, ABellByteBeeps)
-{
-    auto window = Make("Thought Window");
     window->AppendText("ding\a!");
     EXPECT_EQ(host.beeps, 1);
-    EXPECT_EQ(TextOf(*window), "ding!\r\n");
+    EXPECT_EQ(host.invalidations, std::vector<bool>{false});
+    EXPECT_EQ(host.updates, updates);
+    settings.BufferedUpdates = 0;
+    window->AppendText("y", true);
+    EXPECT_EQ(host.updates, updates + 1);
+    EXPECT_EQ(TextOf(*window), "ding!\r\ny\r\n");
+    // GetText never writes past its room.
+    char out[12];
+    std::memset(out, '#', sizeof out);
+    EXPECT_LT(window->GetText(out, 10), 10);
+    EXPECT_EQ(std::string(out + 10, 2), "##");
 }
 
 TEST_F(MessagesTest, LabelsUnder128BytesAreTakenAndClearTheTitle)
@@ -133,37 +107,15 @@ TEST_F(MessagesTest, LabelsUnder128BytesAreTakenAndClearTheTitle)
     auto window = Make("Arrival Window");
     char out[LABEL_SIZE];
     EXPECT_EQ(window->GetLabel(out), 0u);
-
     const std::string longest(127, 'a');
     window->SetLabel(longest.c_str());
     EXPECT_EQ(host.titleClears, 1);
     EXPECT_EQ(window->GetLabel(out), 127u);
     EXPECT_EQ(std::string(out), longest);
-
     window->SetLabel(std::string(128, 'b').c_str());
     window->SetLabel(nullptr);
     EXPECT_EQ(host.titleClears, 1);
     EXPECT_EQ(window->GetLabel(out), 127u);
-}
-
-TEST_F(MessagesTest, NamesAreCutToTheirField)
-{
-    auto window = Make("Thought Window");
-    window->SetName(std::string(100, 'n').c_str());
-    EXPECT_EQ(std::strlen(window->GetWindowName()), WINDOW_NAME_SIZE - 1);
-    EXPECT_STREQ(window->GetSectionName(), window->GetWindowName());
-}
-
-TEST_F(MessagesTest, GetTextNeverWritesPastItsRoom)
-{
-    auto window = Make("Thought Window");
-    window->AppendText("abcdefghijklmnopqrstuvwxyz");
-    char out[12];
-    std::memset(out, '#', sizeof out);
-    const std::uint16_t length = window->GetText(out, 10);
-    EXPECT_LT(length, 10);
-    EXPECT_EQ(out[10], '#');
-    EXPECT_EQ(out[11], '#');
 }
 
 TEST_F(MessagesTest, AClonedBufferCarriesTheTextIntoANewWindow)
@@ -173,26 +125,13 @@ TEST_F(MessagesTest, AClonedBufferCarriesTheTextIntoANewWindow)
     std::unique_ptr<TextBuffer> clone = old->CloneBuffer();
     ASSERT_NE(clone, nullptr);
     old.reset();
-
     auto fresh = Make("Thought Window");
     host.invalidations.clear();
     fresh->RestoreBuffer(std::move(clone));
     EXPECT_EQ(TextOf(*fresh), "kept text\r\n\r\n");
     EXPECT_EQ(host.invalidations, std::vector<bool>{true});
-
     fresh->RestoreBuffer(nullptr);
     EXPECT_EQ(TextOf(*fresh), "kept text\r\n\r\n");
-}
-
-TEST_F(MessagesTest, TheSelectionQuestionIsAskedOfTheDisplayedBuffer)
-{
-    auto window = Make("Thought Window");
-    AppendLines(*window, 30);
-    window->GetLiveBuffer().SetSelection(100, 105);
-    EXPECT_TRUE(window->HasSelection());
-    window->ApplyScrollCommand(SB_TOP, 0);
-    window->GetViewBuffer().ClearSelection();
-    EXPECT_FALSE(window->HasSelection());
 }
 
 TEST_F(MessagesTest, AppearanceCommandsChangeOnlyWhatTheUserConfirms)
@@ -225,7 +164,7 @@ TEST_F(MessagesTest, AppearanceCommandsChangeOnlyWhatTheUserConfirms)
 TEST_F(MessagesTest, ScrollingAndActivatingHandTheFocusToTheCommandLine)
 {
     auto window = Make("Thought Window");
-    int focus = host.focusCalls;
+    const int focus = host.focusCalls;
     window->VScroll(SB_LINEUP, 0);
     EXPECT_EQ(host.focusCalls, focus + 1);
     window->MdiActivate();

@@ -15,46 +15,49 @@ constexpr COLORREF BLUE = Palette[9];
 constexpr std::int32_t ROWS = 10;
 constexpr std::int32_t TOP = 2;
 constexpr std::int32_t LAST_ROW_Y = TOP + (ROWS - 1) * CELL_HEIGHT;
+constexpr char RED_WORD[] = "ab\x8C"
+                            "red\xA0"
+                            "cd";
 
 struct Segment {
     std::string text;
     COLORREF textColor;
     COLORREF backColor;
-};
-
-std::vector<Segment> RunsOfRow(const std::vector<DrawCall>& calls, std::int32_t y)
-{
-    std::vector<Segment> runs;
-    for (const DrawCall& call : calls)
-        if (!call.cursor && call.y == y && !call.text.empty())
-            runs.push_back({call.text, call.textColor, call.backColor});
-    return runs;
-}
-
-void ExpectRuns(const std::vector<Segment>& actual, const std::vector<Segment>& expected)
-{
-    ASSERT_EQ(actual.size(), expected.size());
-    for (std::size_t i = 0; i < expected.size(); ++i) {
-        EXPECT_EQ(actual[i].text, expected[i].text) << "run " << i;
-        EXPECT_EQ(actual[i].textColor, expected[i].textColor) << "run " << i;
-        EXPECT_EQ(actual[i].backColor, expected[i].backColor) << "run " << i;
+    bool operator==(const Segment&) const = default;
+    friend std::ostream& operator<<(std::ostream& os, const Segment& s)
+    {
+        return os << s.text << " " << std::hex << s.textColor << "/" << s.backColor;
     }
-}
+};
+using Segments = std::vector<Segment>;
 
-using PaintTextTest = WindowTest;
+class PaintTextTest : public WindowTest {
+  protected:
+    // The text runs that a paint of the window draws on the row whose top is y.
+    Segments RowRuns(AnsiWindow& window, std::int32_t y = LAST_ROW_Y)
+    {
+        Segments runs;
+        for (const DrawCall& call : Paint(window))
+            if (!call.cursor && call.y == y && !call.text.empty())
+                runs.push_back({call.text, call.textColor, call.backColor});
+        return runs;
+    }
+    // The first call that filled a rect with its top-left corner there.
+    static const DrawCall* FillAt(const std::vector<DrawCall>& calls, std::int32_t left,
+                                  std::int32_t top)
+    {
+        for (const DrawCall& call : calls)
+            if (call.text.empty() && call.rect.left == left && call.rect.top == top)
+                return &call;
+        return nullptr;
+    }
+};
 
 TEST_F(PaintTextTest, ColourCodesSplitARowIntoRunsWithTheirColours)
 {
-    struct Case {
-        const char* text;
-        std::vector<Segment> runs;
-    };
-    const Case cases[] = {
+    const std::pair<const char*, Segments> cases[] = {
         {"plain", {{"plain", WHITE, BLACK}}},
-        {"ab\x8C"
-         "red\xA0"
-         "cd",
-         {{"ab", WHITE, BLACK}, {"red", RED, BLACK}, {"cd", WHITE, BLACK}}},
+        {RED_WORD, {{"ab", WHITE, BLACK}, {"red", RED, BLACK}, {"cd", WHITE, BLACK}}},
         {"\x99xy\xA1z", {{"xy", WHITE, BLUE}, {"z", WHITE, BLACK}}},
         {"\x8C\x99"
          "both\xA0\xA1",
@@ -66,41 +69,40 @@ TEST_F(PaintTextTest, ColourCodesSplitARowIntoRunsWithTheirColours)
          "b\xA0"
          "c\xA0"
          "d",
-         {{"a", RED, BLACK}, {"b", BLUE, BLACK}, {"c", RED, BLACK}, {"d", WHITE, BLACK}}},
-    };
-    for (const Case& c : cases) {
-        SCOPED_TRACE(c.text);
+         {{"a", RED, BLACK}, {"b", BLUE, BLACK}, {"c", RED, BLACK}, {"d", WHITE, BLACK}}}};
+    for (const auto& [text, runs] : cases) {
         auto window = Make("Thought Window");
-        window->AppendText(c.text);
-        ExpectRuns(RunsOfRow(Paint(*window), LAST_ROW_Y), c.runs);
+        window->AppendText(text);
+        EXPECT_EQ(RowRuns(*window), runs) << text;
     }
+    // An overlong line shows its first 511 bytes and loses a code behind them.
+    auto window = Make("Thought Window");
+    window->AppendText(("\x8C" + std::string(520, 'x') + "\xA0\nnext").c_str());
+    EXPECT_EQ(RowRuns(*window, LAST_ROW_Y - CELL_HEIGHT),
+              (Segments{{std::string(READ_LINE_LIMIT - 1, 'x'), RED, BLACK}}));
+    EXPECT_EQ(RowRuns(*window), (Segments{{"next", RED, BLACK}}));
 }
 
-TEST_F(PaintTextTest, RunsArePlacedAtTheSumOfTheirWidths)
+TEST_F(PaintTextTest, RunsArePlacedAtTheSumOfTheirWidthsAndTheRowIsFilledInTheWindowColour)
 {
     auto window = Make("Thought Window");
     window->AppendText("ab\x8C"
-                       "cde");
+                       "c\x99"
+                       "de");
     RecordingLayer layer;
     window->PaintText(layer);
-    const std::vector<DrawCall> drawn = layer.Runs();
-    ASSERT_EQ(drawn.size(), 2u);
+    std::vector<DrawCall> drawn;
+    for (const DrawCall& call : layer.calls)
+        if (!call.text.empty() && !call.cursor)
+            drawn.push_back(call);
+    ASSERT_EQ(drawn.size(), 3u);
     EXPECT_EQ(drawn[0].x, TEXT_LEFT);
     EXPECT_EQ(drawn[0].rect.right, TEXT_LEFT + 2 * CELL_WIDTH);
     EXPECT_EQ(drawn[1].x, TEXT_LEFT + 2 * CELL_WIDTH);
-    EXPECT_EQ(drawn[1].rect.right, TEXT_LEFT + 5 * CELL_WIDTH);
-    EXPECT_EQ(drawn[1].rect.bottom - drawn[1].rect.top, CELL_HEIGHT);
-}
-
-TEST_F(PaintTextTest, TheRestOfARowHasTheWindowBackgroundEvenUnderAnOpenBackgroundCode)
-{
-    auto window = Make("Thought Window");
-    window->AppendText("\x99xy");
-    const std::vector<DrawCall> calls = Paint(*window);
-    const DrawCall* fill = nullptr;
-    for (const DrawCall& call : calls)
-        if (call.y == LAST_ROW_Y && call.text.empty() && call.rect.left == TEXT_LEFT + 16)
-            fill = &call;
+    EXPECT_EQ(drawn[2].rect.right, TEXT_LEFT + 5 * CELL_WIDTH);
+    EXPECT_EQ(drawn[2].rect.bottom - drawn[2].rect.top, CELL_HEIGHT);
+    // Even under an open background code.
+    const DrawCall* fill = FillAt(layer.calls, TEXT_LEFT + 5 * CELL_WIDTH, LAST_ROW_Y);
     ASSERT_NE(fill, nullptr);
     EXPECT_EQ(fill->rect.right, host.client.right);
     EXPECT_EQ(fill->rect.bottom, LAST_ROW_Y + CELL_HEIGHT);
@@ -112,76 +114,73 @@ TEST_F(PaintTextTest, AnOpenColourGoesOnIntoTheNextRowsUntilItsCodeLeavesTheTop)
     auto window = Make("Thought Window");
     window->AppendText("\x8C"
                        "first\nsecond\n\x99third\xA1\nfourth\n");
-    const std::vector<DrawCall> calls = Paint(*window);
-    ExpectRuns(RunsOfRow(calls, LAST_ROW_Y - 2 * CELL_HEIGHT), {{"third", RED, BLUE}});
-    ExpectRuns(RunsOfRow(calls, LAST_ROW_Y - CELL_HEIGHT), {{"fourth", RED, BLACK}});
-
+    EXPECT_EQ(RowRuns(*window, LAST_ROW_Y - 2 * CELL_HEIGHT), (Segments{{"third", RED, BLUE}}));
+    EXPECT_EQ(RowRuns(*window, LAST_ROW_Y - CELL_HEIGHT), (Segments{{"fourth", RED, BLACK}}));
     AppendLines(*window, ROWS - 2);
-    const std::vector<DrawCall> later = Paint(*window);
-    ExpectRuns(RunsOfRow(later, TOP), {{"fourth", WHITE, BLACK}});
+    EXPECT_EQ(RowRuns(*window, TOP), (Segments{{"fourth", WHITE, BLACK}}));
+    // Each paint starts from the window's colours, whatever the last one left.
+    window->AppendText("\x8C\x99open");
+    Paint(*window);
+    window->AppendText("\xA0\xA1\xA0\xA1\nafter");
+    EXPECT_EQ(RowRuns(*window), (Segments{{"after", WHITE, BLACK}}));
 }
 
-TEST_F(PaintTextTest, ARowWithSelectionIsDrawnInTheDefaultsWithTheSelectionExchanged)
+// An active window draws a row with selection in the defaults with the selection exchanged;
+// an inactive one shows the colours instead.
+TEST_F(PaintTextTest, TheSelectionShowsOnlyInTheActiveWindow)
 {
     auto window = Make("Thought Window");
-    window->AppendText("ab\x8C"
-                       "red\xA0"
-                       "cd");
+    window->AppendText(RED_WORD);
     // The text starts behind the 99 line feeds of a fresh ring; select "b", the code and "re".
     window->GetLiveBuffer().SetSelection(100, 104);
-    ExpectRuns(RunsOfRow(Paint(*window), LAST_ROW_Y), {{"a", WHITE, BLACK},
-                                                       {"b", BLACK, WHITE},
-                                                       {"re", BLACK, WHITE},
-                                                       {"d", WHITE, BLACK},
-                                                       {"cd", WHITE, BLACK}});
-    EXPECT_TRUE(window->HasSelection());
-}
-
-TEST_F(PaintTextTest, AnInactiveWindowShowsTheColoursInsteadOfTheSelection)
-{
-    auto window = Make("Thought Window");
-    window->AppendText("ab\x8C"
-                       "red\xA0"
-                       "cd");
-    window->GetLiveBuffer().SetSelection(100, 104);
+    EXPECT_EQ(RowRuns(*window), (Segments{{"a", WHITE, BLACK},
+                                          {"b", BLACK, WHITE},
+                                          {"re", BLACK, WHITE},
+                                          {"d", WHITE, BLACK},
+                                          {"cd", WHITE, BLACK}}));
     host.active = false;
-    ExpectRuns(RunsOfRow(Paint(*window), LAST_ROW_Y),
-               {{"ab", WHITE, BLACK}, {"red", RED, BLACK}, {"cd", WHITE, BLACK}});
+    EXPECT_EQ(RowRuns(*window),
+              (Segments{{"ab", WHITE, BLACK}, {"red", RED, BLACK}, {"cd", WHITE, BLACK}}));
 }
 
-TEST_F(PaintTextTest, AnOverlongLineShowsItsFirst511BytesAndLosesACodeBehindThem)
-{
-    auto window = Make("Thought Window");
-    const std::string text = "\x8C" + std::string(520, 'x') + "\xA0\nnext";
-    window->AppendText(text.c_str());
-    const std::vector<DrawCall> calls = Paint(*window);
-    ExpectRuns(RunsOfRow(calls, LAST_ROW_Y - CELL_HEIGHT),
-               {{std::string(READ_LINE_LIMIT - 1, 'x'), RED, BLACK}});
-    ExpectRuns(RunsOfRow(calls, LAST_ROW_Y), {{"next", RED, BLACK}});
-}
-
-TEST_F(PaintTextTest, AWindowLowerThanOneRowIsOnlyCleared)
+TEST_F(PaintTextTest, TheBandsAroundTheRowsAreFilledWithTheWindowColours)
 {
     host.client = {0, 0, 300, 14};
-    auto window = Make("Game Window", true);
-    window->AppendText("hidden");
-    const std::vector<DrawCall> calls = Paint(*window);
-    ASSERT_EQ(calls.size(), 1u);
-    EXPECT_TRUE(calls[0].text.empty());
-    EXPECT_EQ(calls[0].rect.right, 300);
-    EXPECT_EQ(calls[0].rect.bottom, 14);
-    EXPECT_EQ(calls[0].backColor, BLACK);
+    auto low = Make("Game Window", true);
+    low->AppendText("hidden");
+    const std::vector<DrawCall> cleared = Paint(*low);
+    ASSERT_EQ(cleared.size(), 1u);
+    EXPECT_TRUE(cleared[0].text.empty());
+    EXPECT_EQ(cleared[0].rect.right, 300);
+    EXPECT_EQ(cleared[0].rect.bottom, 14);
+    EXPECT_EQ(cleared[0].backColor, BLACK);
+
+    // (109 - 100) / 2 leaves 4 pixels above the rows and 5 below.
+    host.client = {0, 0, 300, 109};
+    const DrawCall* strip = FillAt(Paint(*Make("Thought Window")), 0, 104);
+    ASSERT_NE(strip, nullptr);
+    EXPECT_EQ(strip->rect.bottom, 109);
+    EXPECT_EQ(strip->backColor, BLACK);
+
+    // A paint with erasing also fills the bands above and left of the rows.
+    host.client = {0, 0, 400, 105};
+    RecordingLayer layer;
+    Make("Thought Window")->Paint(layer, true);
+    ASSERT_GE(layer.calls.size(), 2u);
+    EXPECT_EQ(layer.calls[0].rect.bottom, TOP);
+    EXPECT_EQ(layer.calls[0].rect.right, host.client.right);
+    EXPECT_EQ(layer.calls[1].rect.right, TEXT_LEFT);
+    EXPECT_EQ(layer.calls[1].rect.bottom, host.client.bottom);
+    EXPECT_EQ(layer.calls[1].backColor, BLACK);
 }
 
-TEST_F(PaintTextTest, AnEmptyRowIsAnEmptyRunThenAFillFromTheTextEdge)
+TEST_F(PaintTextTest, AFrozenViewPaintsItsTopLineAndEmptyRowsAsAnEmptyRunAndAFill)
 {
     auto window = Make("Thought Window");
-    AppendLines(*window, 20);
+    AppendLines(*window, 30);
     window->ApplyScrollCommand(SB_TOP, 0);
-    ASSERT_TRUE(window->IsFrozen());
-    const std::vector<DrawCall> calls = Paint(*window);
     std::vector<DrawCall> firstRow;
-    for (const DrawCall& call : calls)
+    for (const DrawCall& call : Paint(*window))
         if (call.y == TOP)
             firstRow.push_back(call);
     ASSERT_EQ(firstRow.size(), 2u);
@@ -189,13 +188,7 @@ TEST_F(PaintTextTest, AnEmptyRowIsAnEmptyRunThenAFillFromTheTextEdge)
     EXPECT_EQ(firstRow[0].rect.right, TEXT_LEFT);
     EXPECT_EQ(firstRow[1].rect.left, TEXT_LEFT);
     EXPECT_EQ(firstRow[1].rect.right, host.client.right);
-}
 
-TEST_F(PaintTextTest, AFrozenViewPaintsItsTopLineAndNotTheNewText)
-{
-    auto window = Make("Thought Window");
-    AppendLines(*window, 30);
-    window->ApplyScrollCommand(SB_TOP, 0);
     window->ApplyScrollCommand(SB_THUMBTRACK, 99 + 4);
     window->AppendText("newer\n");
     RecordingLayer layer;
@@ -204,37 +197,19 @@ TEST_F(PaintTextTest, AFrozenViewPaintsItsTopLineAndNotTheNewText)
     EXPECT_EQ(layer.RowText(LAST_ROW_Y), "line 13");
 }
 
-TEST_F(PaintTextTest, TheStripBelowTheRowsIsFilledWithTheWindowColours)
-{
-    host.client = {0, 0, 300, 109};
-    auto window = Make("Thought Window");
-    const std::vector<DrawCall> calls = Paint(*window);
-    // (109 - 100) / 2 leaves 4 pixels above the rows and 5 below.
-    const DrawCall* strip = nullptr;
-    for (const DrawCall& call : calls)
-        if (call.rect.left == 0 && call.rect.top == 104)
-            strip = &call;
-    ASSERT_NE(strip, nullptr);
-    EXPECT_EQ(strip->rect.bottom, 109);
-    EXPECT_EQ(strip->backColor, BLACK);
-}
-
 TEST_F(PaintTextTest, TheCursorFollowsTheLastRowOfALiveGameWindowOnly)
 {
-    struct Case {
+    const struct {
         const char* name;
         bool game;
         bool freeze;
         std::uint8_t showCursor;
         bool drawn;
-    };
-    const Case cases[] = {
-        {"Game Window", true, false, 1, true},
-        {"Game Window", true, true, 1, false},
-        {"Game Window", true, false, 0, false},
-        {"Thought Window", false, false, 1, false},
-    };
-    for (const Case& c : cases) {
+    } cases[] = {{"Game Window", true, false, 1, true},
+                 {"Game Window", true, true, 1, false},
+                 {"Game Window", true, false, 0, false},
+                 {"Thought Window", false, false, 1, false}};
+    for (const auto& c : cases) {
         SCOPED_TRACE(std::string(c.name) + (c.freeze ? " frozen" : "") +
                      (c.showCursor ? "" : " without cursor"));
         settings.ShowCursor = c.showCursor;
@@ -257,28 +232,6 @@ TEST_F(PaintTextTest, TheCursorFollowsTheLastRowOfALiveGameWindowOnly)
     }
 }
 
-TEST_F(PaintTextTest, EachPaintStartsFromTheWindowColoursWhateverTheLastOneLeft)
-{
-    auto window = Make("Thought Window");
-    window->AppendText("\x8C\x99open");
-    Paint(*window);
-    window->AppendText("\xA0\xA1\xA0\xA1\nafter");
-    ExpectRuns(RunsOfRow(Paint(*window), LAST_ROW_Y), {{"after", WHITE, BLACK}});
-}
-
-TEST_F(PaintTextTest, APaintWithErasingAlsoFillsTheBandsAboveAndLeftOfTheRows)
-{
-    auto window = Make("Thought Window");
-    RecordingLayer layer;
-    window->Paint(layer, true);
-    ASSERT_GE(layer.calls.size(), 2u);
-    EXPECT_EQ(layer.calls[0].rect.bottom, TOP);
-    EXPECT_EQ(layer.calls[0].rect.right, host.client.right);
-    EXPECT_EQ(layer.calls[1].rect.right, TEXT_LEFT);
-    EXPECT_EQ(layer.calls[1].rect.bottom, host.client.bottom);
-    EXPECT_EQ(layer.calls[1].backColor, BLACK);
-}
-
 TEST_F(PaintTextTest, NewColoursOfTheWindowAreUsedFromTheNextPaint)
 {
     auto window = Make("Thought Window");
@@ -287,8 +240,8 @@ TEST_F(PaintTextTest, NewColoursOfTheWindowAreUsedFromTheNextPaint)
     window->ChangeForegroundColor();
     host.pickedColor = MakeRgb(4, 5, 6);
     window->ChangeBackgroundColor();
-    ExpectRuns(RunsOfRow(Paint(*window), LAST_ROW_Y),
-               {{"x", MakeRgb(1, 2, 3), MakeRgb(4, 5, 6)}, {"y", RED, MakeRgb(4, 5, 6)}});
+    EXPECT_EQ(RowRuns(*window),
+              (Segments{{"x", MakeRgb(1, 2, 3), MakeRgb(4, 5, 6)}, {"y", RED, MakeRgb(4, 5, 6)}}));
 }
 
 } // namespace

@@ -1,7 +1,7 @@
 #include "WindowFixture.h"
 
-#include <cstdio>
 #include <string>
+#include <vector>
 
 namespace steward::testing {
 namespace {
@@ -11,6 +11,7 @@ constexpr std::int32_t TEXT_LINES = 30;
 constexpr std::int32_t LINES = 99 + TEXT_LINES;
 constexpr std::int32_t ROWS = 10;
 constexpr std::int32_t LAST_PAGE = LINES - ROWS;
+constexpr std::int32_t LIVE = NO_TOP_LINE;
 
 class ScrollTest : public WindowTest {
   protected:
@@ -21,100 +22,89 @@ class ScrollTest : public WindowTest {
 
 TEST_F(ScrollTest, CommandsOnALiveWindow)
 {
-    struct Case {
+    const struct {
         const char* name;
         int command;
         std::int32_t thumb;
-        bool frozen;
         std::int32_t topLine;
-    };
-    const Case cases[] = {
-        {"line up freezes one line above the last page", SB_LINEUP, 0, true, LAST_PAGE - 1},
-        {"page up", SB_PAGEUP, 0, true, LAST_PAGE - ROWS},
-        {"top", SB_TOP, 0, true, 0},
-        {"thumb as a percentage", SB_THUMBTRACK, 50, true, LINES * 50 / 100 - ROWS / 2},
-        {"thumb position alike", SB_THUMBPOSITION, 10, true, LINES * 10 / 100 - ROWS / 2},
-        {"thumb at the bottom stays live", SB_THUMBTRACK, 100, false, NO_TOP_LINE},
-    };
-    for (const Case& c : cases) {
+    } cases[] = {{"line up freezes one line above the last page", SB_LINEUP, 0, LAST_PAGE - 1},
+                 {"page up", SB_PAGEUP, 0, LAST_PAGE - ROWS},
+                 {"top", SB_TOP, 0, 0},
+                 {"thumb as a percentage", SB_THUMBTRACK, 50, LINES * 50 / 100 - ROWS / 2},
+                 {"thumb position alike", SB_THUMBPOSITION, 10, LINES * 10 / 100 - ROWS / 2},
+                 {"thumb at the bottom stays live", SB_THUMBTRACK, 100, LIVE},
+                 {"line down", SB_LINEDOWN, 0, LIVE},
+                 {"page down", SB_PAGEDOWN, 0, LIVE},
+                 {"bottom", SB_BOTTOM, 0, LIVE}};
+    for (const auto& c : cases) {
         SCOPED_TRACE(c.name);
         window->EndScrollback();
-        window->ApplyScrollCommand(c.command, c.thumb);
-        EXPECT_EQ(window->IsFrozen(), c.frozen);
-        EXPECT_EQ(window->GetTopLine(), c.topLine);
-        if (!c.frozen)
-            continue;
-        EXPECT_EQ(host.scroll.maximum, LAST_PAGE);
-        EXPECT_EQ(host.scroll.position, c.topLine);
-        EXPECT_EQ(window->GetViewLines(), LINES);
-    }
-}
-
-TEST_F(ScrollTest, DownwardCommandsNeverFreezeALiveWindow)
-{
-    for (int command : {SB_LINEDOWN, SB_PAGEDOWN, SB_BOTTOM}) {
         host.invalidations.clear();
-        window->ApplyScrollCommand(command, 0);
-        EXPECT_FALSE(window->IsFrozen()) << command;
-        EXPECT_TRUE(host.invalidations.empty()) << command;
-        EXPECT_EQ(host.scroll.maximum, LIVE_SCROLL_MAX);
-        EXPECT_EQ(host.scroll.position, LIVE_SCROLL_MAX);
+        window->ApplyScrollCommand(c.command, c.thumb);
+        const bool frozen = c.topLine != LIVE;
+        EXPECT_EQ(window->IsFrozen(), frozen);
+        if (frozen || c.command == SB_THUMBTRACK) {
+            EXPECT_EQ(window->GetTopLine(), c.topLine);
+        }
+        EXPECT_EQ(host.scroll.maximum, frozen ? LAST_PAGE : LIVE_SCROLL_MAX);
+        EXPECT_EQ(host.scroll.position, frozen ? c.topLine : LIVE_SCROLL_MAX);
+        if (frozen) {
+            EXPECT_EQ(window->GetViewLines(), LINES);
+        } else if (c.command != SB_THUMBTRACK) {
+            EXPECT_TRUE(host.invalidations.empty());
+        }
     }
 }
 
 TEST_F(ScrollTest, CommandsOnAFrozenView)
 {
-    struct Case {
+    const struct {
         const char* name;
         std::int32_t from;
         int command;
         std::int32_t thumb;
-        bool frozen;
         std::int32_t topLine;
-    };
-    const Case cases[] = {
-        {"line down", 10, SB_LINEDOWN, 0, true, 11},
-        {"line up", 10, SB_LINEUP, 0, true, 9},
-        {"line up at the top stays", 0, SB_LINEUP, 0, true, 0},
-        {"page down", 10, SB_PAGEDOWN, 0, true, 20},
-        {"page up below the top stops at 0", 4, SB_PAGEUP, 0, true, 0},
-        {"thumb is the top line", 10, SB_THUMBTRACK, 57, true, 57},
-        {"top", 50, SB_TOP, 0, true, 0},
-        {"bottom ends the freeze", 10, SB_BOTTOM, 0, false, NO_TOP_LINE},
-        {"line down at the last but one page ends it", LAST_PAGE - 1, SB_LINEDOWN, 0, false,
-         NO_TOP_LINE},
-        {"page down past the end ends it", LAST_PAGE - 3, SB_PAGEDOWN, 0, false, NO_TOP_LINE},
-        {"an unknown command does nothing", 10, 8, 0, true, 10},
-    };
-    for (const Case& c : cases) {
+    } cases[] = {
+        {"line down", 10, SB_LINEDOWN, 0, 11},
+        {"line up", 10, SB_LINEUP, 0, 9},
+        {"line up at the top stays", 0, SB_LINEUP, 0, 0},
+        {"page down", 10, SB_PAGEDOWN, 0, 20},
+        {"page up below the top stops at 0", 4, SB_PAGEUP, 0, 0},
+        {"thumb is the top line", 10, SB_THUMBTRACK, 57, 57},
+        {"top", 50, SB_TOP, 0, 0},
+        {"bottom ends the freeze", 10, SB_BOTTOM, 0, LIVE},
+        {"line down at the last but one page ends it", LAST_PAGE - 1, SB_LINEDOWN, 0, LIVE},
+        {"page down past the end ends it", LAST_PAGE - 3, SB_PAGEDOWN, 0, LIVE},
+        {"an unknown command does nothing", 10, 8, 0, 10}};
+    for (const auto& c : cases) {
         SCOPED_TRACE(c.name);
         window->EndScrollback();
         window->ApplyScrollCommand(SB_TOP, 0);
         window->ApplyScrollCommand(SB_THUMBTRACK, c.from);
         ASSERT_EQ(window->GetTopLine(), c.from);
         window->ApplyScrollCommand(c.command, c.thumb);
-        EXPECT_EQ(window->IsFrozen(), c.frozen);
+        const bool frozen = c.topLine != LIVE;
+        EXPECT_EQ(window->IsFrozen(), frozen);
         EXPECT_EQ(window->GetTopLine(), c.topLine);
-        EXPECT_EQ(host.scroll.position, c.frozen ? c.topLine : LIVE_SCROLL_MAX);
-        if (!c.frozen) {
-            EXPECT_EQ(host.scroll.maximum, LIVE_SCROLL_MAX);
-        }
+        EXPECT_EQ(host.scroll.position, frozen ? c.topLine : LIVE_SCROLL_MAX);
+        EXPECT_EQ(host.scroll.maximum, frozen ? LAST_PAGE : LIVE_SCROLL_MAX);
     }
-}
-
-TEST_F(ScrollTest, AWindowThatShowsAllItsLinesCannotBeFrozen)
-{
-    host.client = {0, 0, 400, 2000};
-    window->Size(false);
-    for (int command : {SB_LINEUP, SB_PAGEUP, SB_TOP, SB_THUMBTRACK}) {
-        window->ApplyScrollCommand(command, 30);
-        EXPECT_FALSE(window->IsFrozen()) << command;
-        EXPECT_EQ(host.scroll.position, LIVE_SCROLL_MAX);
-    }
+    // One line at a time, as a drag scrolls.
+    window->EndScrollback();
+    window->ScrollUpOne(false);
+    EXPECT_EQ(window->GetTopLine(), LAST_PAGE - 1);
+    window->ScrollUpOne(true);
+    EXPECT_EQ(window->GetTopLine(), LAST_PAGE - 2);
+    window->ScrollDownOne(true);
+    window->ScrollDownOne(true);
+    EXPECT_FALSE(window->IsFrozen());
 }
 
 TEST_F(ScrollTest, TextArrivingWhileFrozenWaitsUnseenInTheLiveBuffer)
 {
+    host.invalidations.clear();
+    window->EndScrollback();
+    EXPECT_EQ(host.invalidations, std::vector<bool>{false});
     window->ApplyScrollCommand(SB_PAGEUP, 0);
     host.invalidations.clear();
     EXPECT_EQ(window->AppendText("while away\n"), 1);
@@ -127,44 +117,34 @@ TEST_F(ScrollTest, TextArrivingWhileFrozenWaitsUnseenInTheLiveBuffer)
     EXPECT_FALSE(window->IsFrozen());
     EXPECT_EQ(host.scroll.maximum, LIVE_SCROLL_MAX);
     EXPECT_EQ(host.scroll.position, LIVE_SCROLL_MAX);
-    ASSERT_FALSE(host.invalidations.empty());
-    EXPECT_FALSE(host.invalidations.back());
+    EXPECT_EQ(host.invalidations, std::vector<bool>{false});
     RecordingLayer layer;
     window->PaintText(layer);
     EXPECT_EQ(layer.RowText(2 + 8 * CELL_HEIGHT), "while away");
 }
 
-TEST_F(ScrollTest, EndScrollbackRepaintsALiveWindowToo)
-{
-    host.invalidations.clear();
-    window->EndScrollback();
-    EXPECT_EQ(host.invalidations, std::vector<bool>{false});
-}
-
 TEST_F(ScrollTest, TheSelectionMadeInTheViewGoesBackToTheLiveBuffer)
 {
+    window->GetLiveBuffer().SetSelection(100, 105);
     window->ApplyScrollCommand(SB_TOP, 0);
+    EXPECT_EQ(window->GetViewBuffer().GetSelEnd(), 105);
     window->GetViewBuffer().SetSelection(120, 130);
     EXPECT_TRUE(window->HasSelection());
     window->ThawView();
     EXPECT_EQ(window->GetLiveBuffer().GetSelStart(), 120);
     EXPECT_EQ(window->GetLiveBuffer().GetSelEnd(), 130);
+    window->ApplyScrollCommand(SB_TOP, 0);
+    window->GetViewBuffer().ClearSelection();
+    EXPECT_FALSE(window->HasSelection());
 }
 
-TEST_F(ScrollTest, ScrollingOneLineAtATimeAsADragDoes)
+TEST_F(ScrollTest, ResizingKeepsALiveBarAtTheBottomUnlessMinimisedOrAllLinesShow)
 {
-    window->ScrollUpOne(false);
-    EXPECT_TRUE(window->IsFrozen());
-    EXPECT_EQ(window->GetTopLine(), LAST_PAGE - 1);
-    window->ScrollUpOne(true);
-    EXPECT_EQ(window->GetTopLine(), LAST_PAGE - 2);
-    window->ScrollDownOne(true);
-    window->ScrollDownOne(true);
-    EXPECT_FALSE(window->IsFrozen());
-}
+    host.client = {0, 0, 50, 30};
+    window->Size(true);
+    EXPECT_EQ(window->GetRows(), ROWS);
+    EXPECT_EQ(window->GetClientRect().right, 400);
 
-TEST_F(ScrollTest, ResizingALiveWindowKeepsTheBarAtTheBottom)
-{
     host.scroll = {};
     host.client = {0, 0, 250, 300};
     window->Size(false);
@@ -172,61 +152,47 @@ TEST_F(ScrollTest, ResizingALiveWindowKeepsTheBarAtTheBottom)
     EXPECT_EQ(host.scroll.minimum, 0);
     EXPECT_EQ(host.scroll.maximum, LIVE_SCROLL_MAX);
     EXPECT_EQ(host.scroll.position, LIVE_SCROLL_MAX);
-}
 
-TEST_F(ScrollTest, AMinimisedSizeChangesNothing)
-{
-    host.client = {0, 0, 50, 30};
-    window->Size(true);
-    EXPECT_EQ(window->GetRows(), ROWS);
-    EXPECT_EQ(window->GetClientRect().right, 400);
+    // A window that shows all its lines cannot be frozen.
+    host.client = {0, 0, 400, 2000};
+    window->Size(false);
+    for (int command : {SB_LINEUP, SB_PAGEUP, SB_TOP, SB_THUMBTRACK}) {
+        window->ApplyScrollCommand(command, 30);
+        EXPECT_FALSE(window->IsFrozen()) << command;
+        EXPECT_EQ(host.scroll.position, LIVE_SCROLL_MAX);
+    }
 }
 
 // Lines of about 80 characters wrap into two rows of a 400 pixel window.
-class WrappedScrollTest : public WindowTest {
-  protected:
-    WrappedScrollTest() : window(Make("Thought Window"))
-    {
-        for (int i = 0; i < 30; ++i) {
-            char line[96];
-            int length = std::snprintf(line, sizeof line, "L%d", i);
-            while (length < 80)
-                length += std::snprintf(line + length, sizeof line - length, " word");
-            std::snprintf(line + length, sizeof line - length, "\n");
-            window->AppendText(line);
-        }
+TEST_F(WindowTest, ResizingAFrozenViewKeepsItsTopLineAndANewFontRewrapsBothBuffers)
+{
+    auto window = Make("Thought Window");
+    for (int i = 0; i < 30; ++i) {
+        std::string line = "L" + std::to_string(i);
+        while (line.size() < 80)
+            line += " word";
+        window->AppendText((line + "\n").c_str());
     }
-
-    std::string TopRow()
-    {
+    const auto topRow = [&] {
         RecordingLayer layer;
         window->PaintText(layer);
-        return layer.RowText(window->GetTextTop());
-    }
-
-    std::unique_ptr<AnsiWindow> window;
-};
-
-TEST_F(WrappedScrollTest, ResizingAFrozenViewKeepsItsTopLine)
-{
+        return layer.RowText(window->GetTextTop()).substr(0, 3);
+    };
     window->ApplyScrollCommand(SB_TOP, 0);
     window->ApplyScrollCommand(SB_THUMBTRACK, 99 + 2 * 5);
-    ASSERT_EQ(TopRow().substr(0, 3), "L5 ");
+    ASSERT_EQ(topRow(), "L5 ");
     const std::int32_t linesBefore = window->GetViewLines();
-
     host.client = {0, 0, 200, 105};
     window->Size(false);
     EXPECT_TRUE(window->IsFrozen());
     EXPECT_GT(window->GetViewLines(), linesBefore);
     EXPECT_EQ(window->GetViewLineCount(), window->GetViewLines());
-    EXPECT_EQ(TopRow().substr(0, 3), "L5 ");
+    EXPECT_EQ(topRow(), "L5 ");
     EXPECT_EQ(host.scroll.maximum, window->GetViewLines() - 1);
     EXPECT_EQ(host.scroll.position, window->GetTopLine());
-}
 
-TEST_F(WrappedScrollTest, ANewFontRewrapsBothBuffersAndChangesTheRows)
-{
-    window->ApplyScrollCommand(SB_TOP, 0);
+    host.client = {0, 0, 400, 105};
+    window->Size(false);
     const std::int32_t liveBefore = window->GetLineCount();
     const std::int32_t viewBefore = window->GetViewLineCount();
     LogFontRecord larger;
@@ -236,6 +202,85 @@ TEST_F(WrappedScrollTest, ANewFontRewrapsBothBuffersAndChangesTheRows)
     EXPECT_EQ(window->GetRows(), (105 - CELL_HEIGHT) / (2 * CELL_HEIGHT));
     EXPECT_GT(window->GetLineCount(), liveBefore);
     EXPECT_GT(window->GetViewLineCount(), viewBefore);
+}
+
+// A Thought window of 10 rows of 10 pixels from y = 2: with the live tail, six rows of the
+// frozen view, the bar, and three rows of the live end.
+constexpr std::int32_t TOP = 2;
+constexpr std::int32_t VIEW_ROWS = 6;
+
+class ScrollbackWindowTest : public WindowTest {
+  protected:
+    std::unique_ptr<AnsiWindow> MakeWithOptions(bool liveTail)
+    {
+        steward.Set(SHOW_LIVE_TAIL, liveTail ? 1 : 0);
+        auto window = AnsiWindow::Create("Thought Window",
+                                         {host, settings, nullptr, nullptr, nullptr, &steward});
+        AppendLines(*window, 30);
+        return window;
+    }
+    std::vector<std::string> Rows(AnsiWindow& window)
+    {
+        RecordingLayer layer;
+        window.PaintText(layer);
+        std::vector<std::string> rows;
+        for (std::int32_t row = 0; row < ROWS; ++row)
+            rows.push_back(layer.RowText(TOP + row * CELL_HEIGHT));
+        return rows;
+    }
+
+    StewardOptions steward;
+};
+
+TEST_F(ScrollbackWindowTest, NewTextShowsBelowTheFrozenViewOnlyWithTheLiveTail)
+{
+    for (const bool liveTail : {true, false}) {
+        SCOPED_TRACE(liveTail ? "live tail" : "standard");
+        auto window = MakeWithOptions(liveTail);
+        window->ApplyScrollCommand(SB_PAGEUP, 0);
+        ASSERT_TRUE(window->IsFrozen());
+        const std::vector<std::string> before = Rows(*window);
+        host.invalidations.clear();
+        window->AppendText("fresh news\n");
+        const std::vector<std::string> after = Rows(*window);
+
+        const std::int32_t viewRows = liveTail ? VIEW_ROWS : ROWS;
+        for (std::int32_t row = 0; row < viewRows; ++row)
+            EXPECT_EQ(after[row], before[row]) << "row " << row;
+        EXPECT_EQ(host.invalidations.size(), liveTail ? 1u : 0u);
+        if (liveTail)
+            EXPECT_EQ(std::vector<std::string>(after.begin() + viewRows + 1, after.end()),
+                      (std::vector<std::string>{"line 29", "fresh news", ""}));
+        else
+            EXPECT_EQ(after, before);
+    }
+}
+
+TEST_F(ScrollbackWindowTest, FindScrollsBackToTheHitAndSelectsIt)
+{
+    auto window = MakeWithOptions(true);
+    window->AppendText("a dragon lands\n");
+    AppendLines(*window, 40, "later ");
+
+    ASSERT_TRUE(window->Find("DRAGON", SearchDirection::Older, false));
+    EXPECT_TRUE(window->IsFrozen());
+    EXPECT_EQ(window->GetViewBuffer().SelectionText(), "dragon");
+    const std::vector<std::string> rows = Rows(*window);
+    EXPECT_EQ(rows[VIEW_ROWS / 3], "a dragon lands");
+
+    // Nothing older: the view stays where the hit put it.
+    const std::int32_t top = window->GetTopLine();
+    EXPECT_FALSE(window->Find("dragon", SearchDirection::Older, false));
+    EXPECT_EQ(window->GetTopLine(), top);
+
+    // A hit on the last page ends the freeze and keeps the selection.
+    ASSERT_TRUE(window->Find("later 39", SearchDirection::Newer, true));
+    EXPECT_FALSE(window->IsFrozen());
+    EXPECT_EQ(window->GetLiveBuffer().SelectionText(), "later 39");
+
+    // A search that finds nothing leaves a live window live.
+    EXPECT_FALSE(window->Find("griffin", SearchDirection::Older, false));
+    EXPECT_FALSE(window->IsFrozen());
 }
 
 } // namespace

@@ -10,48 +10,42 @@ constexpr std::int32_t RowY(std::int32_t row)
     return 2 + CELL_HEIGHT * row + CELL_HEIGHT / 2;
 }
 
-struct PointCase {
-    const char* name;
-    std::int32_t x;
-    std::int32_t y;
-    // The position found, as bytes back from WritePos.
-    std::int32_t back;
-};
-
-class PosFromPointTest : public WindowTest, public ::testing::WithParamInterface<PointCase> {};
-
-// Rows 7 to 9 show "first", "ab" red "cd" and "last"; rows 0 to 6 are blank.
-TEST_P(PosFromPointTest, FindsTheNearestBoundary)
+// The position found, as bytes back from WritePos.
+std::int32_t BackFromEnd(AnsiWindow& window, std::int32_t x, std::int32_t y)
 {
+    const TextBuffer& buffer = window.GetLiveBuffer();
+    return buffer.Offset(buffer.GetWritePos()) - buffer.Offset(window.PosFromPoint(x, y));
+}
+
+TEST_F(WindowTest, PosFromPointFindsTheNearestBoundary)
+{
+    // Rows 7 to 9 show "first", "ab" red "cd" and "last"; rows 0 to 6 are blank.
     auto window = Make("Thought Window");
     window->AppendText("first\nab\x81"
                        "cd\xA0\nlast");
-    const PointCase& c = GetParam();
-    TextBuffer& buffer = window->GetLiveBuffer();
-    const auto expected = buffer.AdvancePos(
-        buffer.GetWritePos(), static_cast<std::int32_t>(WINDOW_BUFFER_CAPACITY) - c.back);
-    EXPECT_EQ(window->PosFromPoint(c.x, c.y), expected);
-}
+    const struct {
+        const char* name;
+        std::int32_t x;
+        std::int32_t y;
+        std::int32_t back;
+    } cases[] = {{"above gives the top row's start", 200, -30, 24},
+                 {"blank row", 200, RowY(0), 24},
+                 {"left of the text", 2, RowY(8), 11},
+                 {"on the text's left", 4, RowY(8), 11},
+                 {"right half of the first character", 16, RowY(8), 10},
+                 {"behind a colour code", 17, RowY(8), 8},
+                 {"right of the text", 300, RowY(8), 5},
+                 {"between rows is the lower", 200, 2 + CELL_HEIGHT * 8, 5},
+                 {"on the cursor", 300, RowY(9), 0},
+                 {"below gives the last row", 12, 500, 3}};
+    for (const auto& c : cases)
+        EXPECT_EQ(BackFromEnd(*window, c.x, c.y), c.back) << c.name;
 
-INSTANTIATE_TEST_SUITE_P(
-    Points, PosFromPointTest,
-    ::testing::Values(
-        PointCase{"AboveGivesTopRowStart", 200, -30, 24}, PointCase{"BlankRow", 200, RowY(0), 24},
-        PointCase{"LeftOfText", 2, RowY(8), 11}, PointCase{"OnTextLeft", 4, RowY(8), 11},
-        PointCase{"RightHalfOfFirstCharacter", 16, RowY(8), 10},
-        PointCase{"BehindAColourCode", 17, RowY(8), 8}, PointCase{"RightOfText", 300, RowY(8), 5},
-        PointCase{"BetweenRowsIsTheLower", 200, 2 + CELL_HEIGHT * 8, 5},
-        PointCase{"OnTheCursor", 300, RowY(9), 0}, PointCase{"BelowGivesLastRow", 12, 500, 3}),
-    [](const auto& info) { return info.param.name; });
-
-TEST_F(WindowTest, PosFromPointOnACutLineStopsBehindItsShownBytes)
-{
+    // On a cut line it stops behind the shown bytes.
     host.client = {0, 0, 8000, 105};
-    auto window = Make("Thought Window");
+    window = Make("Thought Window");
     window->AppendText(std::string(600, 'x').c_str());
-    TextBuffer& buffer = window->GetLiveBuffer();
-    const auto expected = buffer.AdvancePos(buffer.GetWritePos(), WINDOW_BUFFER_CAPACITY - 89);
-    EXPECT_EQ(window->PosFromPoint(7000, RowY(9)), expected);
+    EXPECT_EQ(BackFromEnd(*window, 7000, RowY(9)), 89);
 }
 
 TEST_F(WindowTest, DraggingAboveTheWindowScrollsTheSelectionIntoTheFrozenView)

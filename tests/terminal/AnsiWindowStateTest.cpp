@@ -27,50 +27,34 @@ TEST_F(StateTest, ColoursFontAndPlacementComeBackWithTheNextWindowOfThatName)
     host.placement.rcNormalPosition = {5, 6, 305, 206};
     {
         auto window = MakeSaved("Thought Window");
-        host.pickedColor = MakeRgb(1, 2, 3);
+        host.pickedColor = MakeRgb(0x11, 0x22, 0x33);
         window->ChangeForegroundColor();
         host.pickedColor = MakeRgb(4, 5, 6);
         window->ChangeBackgroundColor();
         window->SetLogFont(font);
         ASSERT_TRUE(window->SaveState(profile));
     }
+    // StateInfo holds the text colour first.
+    EXPECT_NE(ReadBytes(profile).find("StateInfo=11223300"), std::string::npos);
     auto again = MakeSaved("Thought Window");
-    EXPECT_EQ(again->GetTextColor(), MakeRgb(1, 2, 3));
+    EXPECT_EQ(again->GetTextColor(), MakeRgb(0x11, 0x22, 0x33));
     EXPECT_EQ(again->GetBkColor(), MakeRgb(4, 5, 6));
     EXPECT_STREQ(again->GetFont().lfFaceName, "Mono");
     EXPECT_EQ(again->GetLineHeight(), 2 * CELL_HEIGHT);
-
     host.placement = {};
     ASSERT_TRUE(ReadPlacement(profile, "Thought Window", "Position", host));
     EXPECT_EQ(host.placement.rcNormalPosition.right, 305);
-}
 
-TEST_F(StateTest, StateInfoHoldsTheTextColourFirst)
-{
-    auto window = MakeSaved("Arrival Window");
-    host.pickedColor = MakeRgb(0x11, 0x22, 0x33);
-    window->ChangeForegroundColor();
-    ASSERT_TRUE(window->SaveState(profile));
-    EXPECT_NE(ReadBytes(profile).find("StateInfo=11223300"), std::string::npos);
-}
-
-TEST_F(StateTest, AnotherWindowKeepsItsOwnSection)
-{
-    auto thought = MakeSaved("Thought Window");
-    host.pickedColor = MakeRgb(7, 7, 7);
-    thought->ChangeForegroundColor();
-    ASSERT_TRUE(thought->SaveState(profile));
+    // Another window keeps its own section.
     settings.DefaultTextColor = MakeRgb(9, 9, 9);
-    auto arrival = MakeSaved("Arrival Window");
-    EXPECT_EQ(arrival->GetTextColor(), MakeRgb(9, 9, 9));
+    EXPECT_EQ(MakeSaved("Arrival Window")->GetTextColor(), MakeRgb(9, 9, 9));
 }
 
 TEST_F(StateTest, AStateInfoOfTheWrongLengthGivesTheDefaults)
 {
     WriteBytes(profile, "[Thought Window]\nStateInfo=1122330044556600AA\n");
     settings.DefaultTextColor = MakeRgb(9, 9, 9);
-    auto window = MakeSaved("Thought Window");
-    EXPECT_EQ(window->GetTextColor(), MakeRgb(9, 9, 9));
+    EXPECT_EQ(MakeSaved("Thought Window")->GetTextColor(), MakeRgb(9, 9, 9));
 }
 
 } // namespace

@@ -3,6 +3,7 @@
 
 #include "terminal/TailSplit.h"
 #include "terminal/TextSearch.h"
+#include "terminal/Wheel.h"
 
 #include <string>
 
@@ -117,6 +118,18 @@ TEST(TailSplit, RowsOfEachPane)
         EXPECT_EQ(split.ViewRows, c.viewRows) << c.rows << " rows, " << c.wanted << " wanted";
         EXPECT_EQ(split.TailRows, c.tailRows) << c.rows << " rows, " << c.wanted << " wanted";
     }
+}
+
+TEST(WheelScrollCommand, PagesWithoutShiftLinesWithIt)
+{
+    const struct {
+        bool shift;
+        int amount;
+        int command;
+    } cases[] = {{false, 120, 2}, {false, 0, 2}, {false, -120, 3},
+                 {true, 120, 0},  {true, 0, 0},  {true, -1, 1}};
+    for (const auto& c : cases)
+        EXPECT_EQ(WheelScrollCommand(c.shift, c.amount), c.command) << c.shift << " " << c.amount;
 }
 
 } // namespace

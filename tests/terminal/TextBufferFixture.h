@@ -10,19 +10,21 @@
 
 namespace steward::test {
 
-// Every character is this wide in the tests' geometry, so a limit of CHAR_PIXELS * n + 1
-// holds exactly n characters on a row.
+// Every character is this wide, so a limit of CHAR_PIXELS * n + 1 holds exactly n of them.
 constexpr std::int32_t CHAR_PIXELS = 8;
+constexpr std::uint32_t SMALL_CAPACITY = 200;
+// Offset of the first appended byte in a fresh buffer.
+constexpr std::int32_t TEXT_START = INITIAL_LINE_FEEDS - 1;
 
 inline std::int32_t LimitForColumns(std::int32_t columns)
 {
     return CHAR_PIXELS * columns + 1;
 }
 
-inline CharWidthTable UniformWidths(std::int32_t width = CHAR_PIXELS)
+inline CharWidthTable UniformWidths()
 {
     CharWidthTable widths;
-    widths.fill(width);
+    widths.fill(CHAR_PIXELS);
     return widths;
 }
 
@@ -33,13 +35,29 @@ inline std::unique_ptr<TextBuffer> MakeBuffer(std::uint32_t capacity = WINDOW_BU
     return buffer;
 }
 
-// A buffer that wraps after the given number of characters, margin 0.
+// A buffer that wraps after the given number of characters, margin 0, holding text.
 inline std::unique_ptr<TextBuffer>
-MakeWrappingBuffer(std::int32_t columns, std::uint32_t capacity = WINDOW_BUFFER_CAPACITY)
+MakeWrappingBuffer(std::int32_t columns, std::uint32_t capacity = WINDOW_BUFFER_CAPACITY,
+                   const char* text = "")
 {
     auto buffer = MakeBuffer(capacity);
     buffer->SetGeometry(0, LimitForColumns(columns), UniformWidths());
+    buffer->AppendText(text, true);
     return buffer;
+}
+
+inline std::unique_ptr<TextBuffer> BufferWith(const char* text,
+                                              std::uint32_t capacity = WINDOW_BUFFER_CAPACITY)
+{
+    auto buffer = MakeBuffer(capacity);
+    buffer->AppendText(text, true);
+    return buffer;
+}
+
+inline void Resize(TextBuffer& buffer, std::int32_t columns)
+{
+    buffer.SetGeometry(0, LimitForColumns(columns), UniformWidths());
+    buffer.Rewrap();
 }
 
 // Reads one line at WalkPos without selection marks.
@@ -55,9 +73,8 @@ inline std::vector<std::string> LastRows(TextBuffer& buffer, std::int32_t rows)
 {
     buffer.SeekFromEnd(rows);
     std::vector<std::string> shown;
-    for (std::int32_t i = 0; i < rows; ++i) {
+    for (std::int32_t i = 0; i < rows; ++i)
         shown.push_back(ReadOne(buffer));
-    }
     return shown;
 }
 
@@ -67,9 +84,8 @@ inline std::vector<std::string> AllLines(TextBuffer& buffer)
     const std::int32_t count = buffer.CountLines();
     buffer.SeekLine(0);
     std::vector<std::string> lines;
-    for (std::int32_t i = 0; i < count; ++i) {
+    for (std::int32_t i = 0; i < count; ++i)
         lines.push_back(ReadOne(buffer));
-    }
     return lines;
 }
 
@@ -77,9 +93,8 @@ inline std::vector<std::string> AllLines(TextBuffer& buffer)
 inline std::string RingText(const TextBuffer& buffer)
 {
     std::string text;
-    for (auto p = buffer.GetHeadPos(); p != buffer.GetWritePos(); p = buffer.Next(p)) {
+    for (auto p = buffer.GetHeadPos(); p != buffer.GetWritePos(); p = buffer.Next(p))
         text.push_back(static_cast<char>(buffer.ByteAt(p)));
-    }
     return text;
 }
 
@@ -87,14 +102,7 @@ inline std::string RingText(const TextBuffer& buffer)
 inline std::string CopiedText(const TextBuffer& buffer)
 {
     std::vector<char> out(buffer.GetCapacity() * 2 + 8);
-    const std::size_t length = buffer.CopyAsText(out.data(), out.size());
-    return std::string(out.data(), length);
+    return std::string(out.data(), buffer.CopyAsText(out.data(), out.size()));
 }
-
-class RecordingBell : public BellListener {
-  public:
-    void Beep() override { ++beeps; }
-    int beeps = 0;
-};
 
 } // namespace steward::test

@@ -5,123 +5,49 @@
 namespace steward::test {
 namespace {
 
-constexpr std::uint32_t SMALL_CAPACITY = 200;
-// Offset of the first appended byte in a fresh buffer.
-constexpr std::int32_t TEXT_START = INITIAL_LINE_FEEDS - 1;
+using Rows = std::vector<std::string>;
 
-std::unique_ptr<TextBuffer> BufferWith(const char* text,
-                                       std::uint32_t capacity = WINDOW_BUFFER_CAPACITY)
+TEST(TextBufferLines, CountAndTailRows)
 {
-    auto buffer = MakeBuffer(capacity);
-    buffer->AppendText(text, true);
-    return buffer;
-}
-
-// A small ring whose head has crossed the seam: it keeps "A\nB", nothing of the flood.
-std::unique_ptr<TextBuffer> BufferWithTwoLinesLeft()
-{
-    auto buffer = MakeBuffer(SMALL_CAPACITY);
-    buffer->AppendText(std::string(300, 'x').c_str(), true);
-    buffer->AppendText("\nA\nB", true);
-    EXPECT_EQ(RingText(*buffer), "A\nB");
-    return buffer;
-}
-
-struct CountCase {
-    const char* text;
-    std::int32_t lines;
-};
-
-void PrintTo(const CountCase& c, std::ostream* out)
-{
-    *out << ::testing::PrintToString(std::string(c.text)) << " has " << c.lines << " lines";
-}
-
-class TextBufferCountLines : public testing::TestWithParam<CountCase> {};
-
-TEST_P(TextBufferCountLines, AfterAFreshStart)
-{
-    EXPECT_EQ(BufferWith(GetParam().text)->CountLines(), GetParam().lines);
-}
-
-INSTANTIATE_TEST_SUITE_P(Texts, TextBufferCountLines,
-                         testing::Values(CountCase{"abc\n", 100}, CountCase{"abc\ndef", 101},
-                                         CountCase{"abc\n\n", 101},
-                                         CountCase{"a\xFF"
-                                                   "b",
-                                                   101}));
-
-struct TailCase {
-    const char* name;
-    const char* text;
-    std::int32_t rows;
-    std::vector<std::string> shown;
-};
-
-class TextBufferSeekFromEnd : public testing::TestWithParam<TailCase> {};
-
-TEST_P(TextBufferSeekFromEnd, ShowsTheTail)
-{
-    auto buffer = BufferWith(GetParam().text);
-    EXPECT_EQ(LastRows(*buffer, GetParam().rows), GetParam().shown);
-}
-
-INSTANTIATE_TEST_SUITE_P(
-    Rows, TextBufferSeekFromEnd,
-    testing::Values(TailCase{"OneRowShowsTheUnfinishedLine", "one\ntwo\nthree", 1, {"three"}},
-                    TailCase{"ThreeRows", "one\ntwo\nthree", 3, {"one", "two", "three"}},
-                    TailCase{"FinalLineFeedLeavesTheLastRowEmpty",
-                             "one\ntwo\nthree\n",
-                             3,
-                             {"two", "three", ""}},
-                    TailCase{"SoftLineEndsAreRows", "one\ntwo\xFFthree", 2, {"two", "three"}}),
-    [](const auto& info) { return info.param.name; });
-
-TEST(TextBufferSeekFromEnd, RowsBelowOneLeaveWalkPosOnTheEnd)
-{
+    const struct {
+        const char* text;
+        std::int32_t lines;
+        Rows tail;
+    } cases[] = {{"one\ntwo\nthree", 102, {"three"}},
+                 {"one\ntwo\nthree", 102, {"one", "two", "three"}},
+                 {"one\ntwo\nthree\n", 102, {"two", "three", ""}},
+                 {"one\ntwo\xFFthree", 102, {"two", "three"}},
+                 {"abc\n\n", 101, {"abc", "", ""}}};
+    for (const auto& c : cases) {
+        auto buffer = BufferWith(c.text);
+        EXPECT_EQ(buffer->CountLines(), c.lines) << c.text;
+        EXPECT_EQ(LastRows(*buffer, static_cast<std::int32_t>(c.tail.size())), c.tail) << c.text;
+    }
     auto buffer = BufferWith("one\ntwo");
     for (std::int32_t rows : {0, -1, -100}) {
         buffer->SeekLine(0);
         buffer->SeekFromEnd(rows);
         EXPECT_EQ(buffer->GetWalkPos(), buffer->GetWritePos()) << rows;
     }
-}
-
-TEST(TextBufferSeekFromEnd, MoreRowsThanLinesStopsAtTheHead)
-{
-    auto buffer = BufferWithTwoLinesLeft();
+    // A small ring whose head has crossed the seam keeps "A\nB" alone.
+    buffer = BufferWith(std::string(300, 'x').c_str(), SMALL_CAPACITY);
+    buffer->AppendText("\nA\nB", true);
     buffer->SeekFromEnd(5);
     EXPECT_EQ(buffer->GetWalkPos(), buffer->GetHeadPos());
-    EXPECT_EQ(LastRows(*buffer, 5), (std::vector<std::string>{"A", "B", "", "", ""}));
+    EXPECT_EQ(LastRows(*buffer, 5), (Rows{"A", "B", "", "", ""}));
 }
 
-struct SeekCase {
-    std::int32_t index;
-    std::string line;
-};
-
-void PrintTo(const SeekCase& c, std::ostream* out)
-{
-    *out << "line " << c.index << " is " << ::testing::PrintToString(c.line);
-}
-
-class TextBufferSeekLine : public testing::TestWithParam<SeekCase> {};
-
-TEST_P(TextBufferSeekLine, PutsWalkPosOnTheLineStart)
+TEST(TextBufferLines, SeekLinePutsWalkPosOnTheLineStart)
 {
     auto buffer = BufferWith("one\ntwo\nthree");
-    const auto p = buffer->SeekLine(GetParam().index);
-    EXPECT_EQ(p, buffer->GetWalkPos());
-    EXPECT_EQ(ReadOne(*buffer), GetParam().line);
-}
-
-INSTANTIATE_TEST_SUITE_P(Indexes, TextBufferSeekLine,
-                         testing::Values(SeekCase{-3, ""}, SeekCase{98, ""}, SeekCase{99, "one"},
-                                         SeekCase{101, "three"}, SeekCase{102, ""}));
-
-TEST(TextBufferSeekLine, PastTheLastLineStandsOnTheEnd)
-{
-    auto buffer = BufferWith("one\ntwo\n");
+    const std::pair<std::int32_t, const char*> cases[] = {
+        {-3, ""}, {98, ""}, {99, "one"}, {101, "three"}, {102, ""}};
+    for (const auto& [index, line] : cases) {
+        const auto at = buffer->SeekLine(index);
+        EXPECT_EQ(at, buffer->GetWalkPos());
+        EXPECT_EQ(ReadOne(*buffer), line) << index;
+    }
+    buffer = BufferWith("one\ntwo\n");
     EXPECT_EQ(buffer->SeekLine(101), buffer->GetWritePos());
     EXPECT_EQ(buffer->SeekLine(1000), buffer->GetWritePos());
     EXPECT_EQ(buffer->SeekLine(0), buffer->GetHeadPos());
@@ -129,14 +55,14 @@ TEST(TextBufferSeekLine, PastTheLastLineStandsOnTheEnd)
 
 // Lines numbered from the head, read with SeekLine and from the tail, agree with what the ring
 // keeps while the head goes round the seam.
-TEST(TextBufferLineWalks, AgreeWithTheKeptTextAcrossTheSeam)
+TEST(TextBufferLines, WalksAgreeWithTheKeptTextAcrossTheSeam)
 {
     auto buffer = MakeBuffer(SMALL_CAPACITY);
     for (int i = 0; i < 120; ++i) {
         const std::string line = "line " + std::to_string(i) + (i % 3 == 0 ? " longer\n" : "\n");
         buffer->AppendText(line.c_str(), true);
         const std::string kept = RingText(*buffer);
-        std::vector<std::string> lines;
+        Rows lines;
         std::size_t from = 0;
         for (std::size_t lf = kept.find('\n'); lf != std::string::npos;
              lf = kept.find('\n', from)) {
@@ -145,32 +71,25 @@ TEST(TextBufferLineWalks, AgreeWithTheKeptTextAcrossTheSeam)
         }
         ASSERT_EQ(AllLines(*buffer), lines);
         if (lines.size() >= 4) {
-            const std::vector<std::string> tail{lines.end() - 3, lines.end()};
             auto shown = LastRows(*buffer, 4);
             ASSERT_EQ(shown.back(), "");
             shown.pop_back();
-            ASSERT_EQ(shown, tail);
+            ASSERT_EQ(shown, Rows(lines.end() - 3, lines.end()));
         }
-        for (std::int32_t index = 0; index < buffer->CountLines(); ++index) {
+        for (std::int32_t index = 0; index < buffer->CountLines(); ++index)
             ASSERT_EQ(buffer->LineIndexOf(buffer->SeekLine(index)), index);
-        }
     }
 }
 
-TEST(TextBufferLineIndexOf, CountsTerminatorsUpToThePosition)
+TEST(TextBufferLines, LineIndexOfCountsTerminatorsUpToThePosition)
 {
     auto buffer = BufferWith("one\ntwo\xFFthree");
     const auto head = buffer->GetHeadPos();
-    EXPECT_EQ(buffer->LineIndexOf(head), 0);
-    EXPECT_EQ(buffer->LineIndexOf(buffer->AdvancePos(head, TEXT_START)), 99);
-    EXPECT_EQ(buffer->LineIndexOf(buffer->AdvancePos(head, TEXT_START + 5)), 100);
-    EXPECT_EQ(buffer->LineIndexOf(buffer->AdvancePos(head, TEXT_START + 9)), 101);
+    const std::pair<std::int32_t, std::int32_t> cases[] = {
+        {0, 0}, {TEXT_START, 99}, {TEXT_START + 5, 100}, {TEXT_START + 9, 101}};
+    for (const auto& [offset, index] : cases)
+        EXPECT_EQ(buffer->LineIndexOf(buffer->AdvancePos(head, offset)), index) << offset;
     EXPECT_EQ(buffer->LineIndexOf(buffer->GetWritePos()), 101);
-}
-
-TEST(TextBufferLineIndexOf, PositionOutsideTheTextGivesZero)
-{
-    auto buffer = BufferWith("one\ntwo");
     EXPECT_EQ(buffer->LineIndexOf(buffer->Next(buffer->GetWritePos())), 0);
     EXPECT_EQ(buffer->LineIndexOf(WINDOW_BUFFER_CAPACITY - 1), 0);
 }
@@ -189,25 +108,16 @@ TEST(TextBufferReadLine, CutsAtTheLimitAndStillMovesToTheNextLine)
         std::int32_t limit = 3;
         EXPECT_STREQ(buffer->ReadLine(out, limit, false, nullptr), cut);
         EXPECT_EQ(limit, 3);
-        // Nothing written past limit + 3 bytes.
         EXPECT_EQ(out[6], 0x7E);
         EXPECT_EQ(ReadOne(*buffer), "next");
     }
-}
-
-TEST(TextBufferReadLine, LongLineLosesItsTailOnScreenOnly)
-{
     const std::string longLine(600, 'x');
     auto buffer = BufferWith((longLine + "\nshort").c_str());
     buffer->SeekLine(99);
     EXPECT_EQ(ReadOne(*buffer), std::string(READ_LINE_LIMIT, 'x'));
     EXPECT_EQ(ReadOne(*buffer), "short");
     EXPECT_EQ(CopiedText(*buffer), longLine + "\r\nshort\r\n");
-}
 
-TEST(TextBufferReadLine, AtTheEndGivesEmptyLinesAndStays)
-{
-    auto buffer = BufferWith("last");
     buffer->SeekLine(1000);
     char out[READ_LINE_BUFFER_SIZE];
     std::int32_t limit = READ_LINE_LIMIT;
@@ -218,49 +128,42 @@ TEST(TextBufferReadLine, AtTheEndGivesEmptyLinesAndStays)
     EXPECT_EQ(buffer->GetWalkPos(), buffer->GetWritePos());
 }
 
-struct MarkCase {
-    const char* name;
-    std::int32_t selStart; // relative to the start of "hello world"
-    std::int32_t selEnd;
-    bool useSelection;
-    std::int32_t limit;
-    std::string line;
-    bool seen;
-};
-
-class TextBufferSelectionMarks : public testing::TestWithParam<MarkCase> {};
-
-TEST_P(TextBufferSelectionMarks, BracketTheSelectedBytes)
+TEST(TextBufferReadLine, SelectionMarksBracketTheSelectedBytes)
 {
-    const MarkCase& c = GetParam();
-    auto buffer = BufferWith("hello world\nsecond");
-    buffer->SetSelection(TEXT_START + c.selStart, TEXT_START + c.selEnd);
-    buffer->SeekLine(99);
-    char out[READ_LINE_BUFFER_SIZE + 8];
-    std::memset(out, 0x7E, sizeof out);
-    std::int32_t limit = c.limit;
-    bool seen = !c.seen;
-    EXPECT_EQ(std::string(buffer->ReadLine(out, limit, c.useSelection, &seen)), c.line);
-    EXPECT_EQ(seen, c.seen);
-    EXPECT_LE(std::strlen(out) + 1, static_cast<std::size_t>(c.limit + READ_LINE_EXTRA));
-    EXPECT_EQ(ReadOne(*buffer), "second");
+    const struct {
+        std::int32_t selStart; // relative to the start of "hello world"
+        std::int32_t selEnd;
+        bool useSelection;
+        std::int32_t limit;
+        std::string line;
+        bool seen;
+    } cases[] = {{0, 0, true, 511, "hello world", false},
+                 {0, 5, false, 511, "hello world", false},
+                 {0, 5, true, 511, "\xA2hello\xA3 world", true},
+                 {5, 0, true, 511, "\xA2hello\xA3 world", true},
+                 {6, 11, true, 511, "hello \xA2world\xA3", true},
+                 {-1, 3, true, 511, "\xA2hel\xA3lo world", true},
+                 {-9, 20, true, 511, "\xA2hello world\xA3", true},
+                 {-4, 0, true, 511, "\xA3hello world", false},
+                 {13, 15, true, 511, "hello world", false},
+                 {0, 5, true, 3, "\xA2hel\xA3", true},
+                 {6, 11, true, 3, "hel", false},
+                 {-1, 2, true, 2, "\xA2he\xA3", true}};
+    for (const auto& c : cases) {
+        SCOPED_TRACE(testing::Message() << c.selStart << ".." << c.selEnd << " limit " << c.limit);
+        auto buffer = BufferWith("hello world\nsecond");
+        buffer->SetSelection(TEXT_START + c.selStart, TEXT_START + c.selEnd);
+        buffer->SeekLine(99);
+        char out[READ_LINE_BUFFER_SIZE + 8];
+        std::memset(out, 0x7E, sizeof out);
+        std::int32_t limit = c.limit;
+        bool seen = !c.seen;
+        EXPECT_EQ(std::string(buffer->ReadLine(out, limit, c.useSelection, &seen)), c.line);
+        EXPECT_EQ(seen, c.seen);
+        EXPECT_LE(std::strlen(out) + 1, static_cast<std::size_t>(c.limit + READ_LINE_EXTRA));
+        EXPECT_EQ(ReadOne(*buffer), "second");
+    }
 }
-
-INSTANTIATE_TEST_SUITE_P(
-    Selections, TextBufferSelectionMarks,
-    testing::Values(MarkCase{"None", 0, 0, true, 511, "hello world", false},
-                    MarkCase{"NotWanted", 0, 5, false, 511, "hello world", false},
-                    MarkCase{"FirstWord", 0, 5, true, 511, "\xA2hello\xA3 world", true},
-                    MarkCase{"Reversed", 5, 0, true, 511, "\xA2hello\xA3 world", true},
-                    MarkCase{"ToTheLineEnd", 6, 11, true, 511, "hello \xA2world\xA3", true},
-                    MarkCase{"BeganOnAnEarlierLine", -1, 3, true, 511, "\xA2hel\xA3lo world", true},
-                    MarkCase{"CoversTheWholeLine", -9, 20, true, 511, "\xA2hello world\xA3", true},
-                    MarkCase{"EndsWhereTheLineBegins", -4, 0, true, 511, "\xA3hello world", false},
-                    MarkCase{"OnALaterLine", 13, 15, true, 511, "hello world", false},
-                    MarkCase{"CutInsideTheSelection", 0, 5, true, 3, "\xA2hel\xA3", true},
-                    MarkCase{"CutBeforeTheSelection", 6, 11, true, 3, "hel", false},
-                    MarkCase{"MaximalMarksAtTheLimit", -1, 2, true, 2, "\xA2he\xA3", true}),
-    [](const auto& info) { return info.param.name; });
 
 } // namespace
 } // namespace steward::test

@@ -39,15 +39,6 @@ class RecordingLayer : public DrawingLayer {
         calls.push_back({true, x, y, {}, std::string(text, length), text_, back_});
     }
 
-    // Calls that drew text, in order.
-    std::vector<DrawCall> Runs() const
-    {
-        std::vector<DrawCall> runs;
-        for (const DrawCall& call : calls)
-            if (!call.text.empty() && !call.cursor)
-                runs.push_back(call);
-        return runs;
-    }
     // The text runs of the row whose top is y, joined.
     std::string RowText(std::int32_t y) const
     {
@@ -129,7 +120,7 @@ class FakeHost : public AnsiWindowHost {
     }
     void Beep() override { ++beeps; }
     void SetClipboardText(const std::string& text) override { clipboard = text; }
-    void DropCommandLineSelection() override { ++selectionDrops; }
+    void DropCommandLineSelection() override {}
 
     Rect client{0, 0, 400, 105};
     bool active = true;
@@ -141,7 +132,6 @@ class FakeHost : public AnsiWindowHost {
     int titleClears = 0;
     int beeps = 0;
     std::string clipboard;
-    int selectionDrops = 0;
     WindowPlacementRecord placement;
     bool confirmDialogs = true;
     bool lastForegroundRule = false;

@@ -10,6 +10,7 @@
 #include <gtest/gtest.h>
 
 #include <string>
+#include <tuple>
 #include <vector>
 
 namespace steward {
@@ -118,32 +119,24 @@ TEST_F(AccessibleWindowTest, ALongScrollbackGivesItsLastPartFromALineStart)
     EXPECT_EQ(Text().text(position, position + added.size()), added);
 }
 
-struct SelectionCase {
-    // Distances from the ring's head; a fresh ring's text starts behind its blank lines.
-    std::int32_t start;
-    std::int32_t end;
-    // Null: what Copy takes from the window.
-    const char* heard;
-};
-
 TEST_F(AccessibleWindowTest, TheSelectionIsWhereTheWindowCopiesItFrom)
 {
     widget->Window().AppendText(("one " + Colored("two") + "\r\nthree\r\n").c_str());
+    // Distances from the ring's head; a fresh ring's text starts behind its blank lines, which
+    // are not exported. Empty: what Copy takes from the window.
     const std::int32_t text = INITIAL_LINE_FEEDS - 1;
-    const SelectionCase cases[] = {
-        {text, text + 3, nullptr},      {text + 2, text + 8, nullptr},  // across colour codes
-        {text + 5, text + 14, nullptr}, {text + 14, text + 4, nullptr}, // across a line end
-        {text + 2, text + 2, nullptr},  {3, text + 2, "on"}, // the blank lines are not exported
-    };
-    for (const SelectionCase& c : cases) {
-        Live().SetSelection(c.start, c.end);
+    const std::tuple<std::int32_t, std::int32_t, QString> cases[] = {
+        {text, text + 3, {}},      {text + 2, text + 8, {}}, {text + 5, text + 14, {}},
+        {text + 14, text + 4, {}}, {text + 2, text + 2, {}}, {3, text + 2, "on"}};
+    for (const auto& [start, end, given] : cases) {
+        Live().SetSelection(start, end);
         const QString heard =
-            c.heard ? QString::fromLatin1(c.heard) : QString::fromStdString(Live().SelectionText());
-        ASSERT_EQ(Text().selectionCount(), heard.isEmpty() ? 0 : 1) << c.start;
-        int start = -1;
-        int end = -1;
-        Text().selection(0, &start, &end);
-        EXPECT_EQ(Text().text(start, end), heard) << c.start;
+            given.isEmpty() ? QString::fromStdString(Live().SelectionText()) : given;
+        ASSERT_EQ(Text().selectionCount(), heard.isEmpty() ? 0 : 1) << start;
+        int from = -1;
+        int to = -1;
+        Text().selection(0, &from, &to);
+        EXPECT_EQ(Text().text(from, to), heard) << start;
     }
 }
 

@@ -105,35 +105,20 @@ class MouseTest : public ::testing::Test {
     std::unique_ptr<AnsiWindowWidget> widget;
 };
 
-struct DragCase {
-    const char* name;
-    int fromRow;
-    int fromCol;
-    int toRow;
-    int toCol;
-    std::string copied;
-};
-
-class DragTest : public MouseTest, public ::testing::WithParamInterface<DragCase> {};
-
-TEST_P(DragTest, SelectsTheBytesBetweenPressAndRelease)
+TEST_F(MouseTest, ADragSelectsTheBytesBetweenPressAndRelease)
 {
-    const DragCase& c = GetParam();
-    Drag(At(c.fromRow, c.fromCol), At(c.toRow, c.toCol));
-    EXPECT_EQ(Copied(), c.copied);
-}
-
-INSTANTIATE_TEST_SUITE_P(Drags, DragTest,
-                         ::testing::Values(DragCase{"WithinALine", 3, 0, 3, 5, "plain"},
-                                           DragCase{"OverAColourChange", 2, 2, 2, 8, "d aler"},
-                                           DragCase{"BackwardsOverALineEnd", 2, 3, 3, 6,
-                                                    "words here\r\nred"}),
-                         [](const auto& info) { return info.param.name; });
-
-TEST_F(MouseTest, ASoftLineEndCopiesAsASpace)
-{
-    Drag(At(1, 0), At(0, 4));
-    EXPECT_EQ(Copied(), RowText(1) + " " + RowText(0).substr(0, 4));
+    const struct {
+        int fromRow, fromCol, toRow, toCol;
+        std::string copied;
+    } cases[] = {{3, 0, 3, 5, "plain"},
+                 {2, 2, 2, 8, "d aler"},
+                 {2, 3, 3, 6, "words here\r\nred"},
+                 // A soft line end copies as a space.
+                 {1, 0, 0, 4, RowText(1) + " " + RowText(0).substr(0, 4)}};
+    for (const auto& c : cases) {
+        Drag(At(c.fromRow, c.fromCol), At(c.toRow, c.toCol));
+        EXPECT_EQ(Copied(), c.copied);
+    }
 }
 
 TEST_F(MouseTest, DoubleClickTakesAWordAndShiftClickMovesTheEdge)
@@ -148,20 +133,6 @@ TEST_F(MouseTest, DoubleClickTakesAWordAndShiftClickMovesTheEdge)
     EXPECT_FALSE(widget->Window().HasSelection());
     QTest::mouseClick(widget.get(), Qt::LeftButton, Qt::ShiftModifier, At(3, 6));
     EXPECT_EQ(Copied(), "plain words here");
-}
-
-TEST_F(MouseTest, TheSelectionSurvivesAFreezeAndAThaw)
-{
-    AnsiWindow& window = widget->Window();
-    Drag(At(3, 0), At(3, 5));
-    window.AppendText(std::string(40, '\n').c_str());
-    window.VScroll(SB_PAGEUP, 0);
-    ASSERT_TRUE(window.IsFrozen());
-    EXPECT_EQ(Copied(), "plain");
-    window.AppendText("more\n");
-    window.VScroll(SB_BOTTOM, 0);
-    ASSERT_FALSE(window.IsFrozen());
-    EXPECT_TRUE(window.HasSelection());
 }
 
 TEST_F(MouseTest, ThePopupMenuOffersCopyOnlyWithASelection)

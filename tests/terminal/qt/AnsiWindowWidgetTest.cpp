@@ -1,8 +1,8 @@
 #include "terminal/qt/AnsiWindowWidget.h"
 #include "terminal/qt/FontRecord.h"
 
-#include <QElapsedTimer>
 #include <QImage>
+#include <QLineEdit>
 #include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QScrollBar>
@@ -33,13 +33,11 @@ class ScriptedDialogs : public AppearanceDialogs {
     QFont nextFont;
 };
 
-// Counts the paints a widget receives.
 class PaintCounter : public QObject {
   public:
     bool eventFilter(QObject*, QEvent* event) override
     {
-        if (event->type() == QEvent::Paint)
-            ++paints;
+        paints += event->type() == QEvent::Paint;
         return false;
     }
     int paints = 0;
@@ -56,109 +54,71 @@ bool HasColor(const QImage& image, const QColor& color)
 
 class WidgetTest : public ::testing::Test {
   protected:
-    std::unique_ptr<AnsiWindowWidget> Make(const char* name = "Thought Window")
+    std::unique_ptr<AnsiWindowWidget> Make(const char* name = "Thought Window", int lines = 0)
     {
         auto widget = AnsiWindowWidget::Create(name, {settings, nullptr, nullptr, &dialogs});
         widget->resize(400, 200);
+        for (int i = 0; i < lines; ++i)
+            widget->Window().AppendText(("line " + std::to_string(i) + "\n").c_str());
         return widget;
-    }
-    static void AppendLines(AnsiWindow& window, int count)
-    {
-        for (int i = 0; i < count; ++i)
-            window.AppendText(("line " + std::to_string(i) + "\n").c_str());
     }
 
     Settings settings;
     ScriptedDialogs dialogs;
 };
 
-TEST_F(WidgetTest, PaintsTheColouredTextOfItsBuffer)
+TEST_F(WidgetTest, PaintsItsBufferInTheFontInUseAndLeavesRoomForTheScrollBar)
 {
     auto widget = Make();
+    AnsiWindow& window = widget->Window();
     const QImage before = widget->grab().toImage();
     EXPECT_FALSE(HasColor(before, Qt::red));
     EXPECT_FALSE(HasColor(before, Qt::white));
-
-    widget->Window().AppendText("\x8C"
-                                "MMMM\xA0 WWWW");
+    window.AppendText("\x8C"
+                      "MMMM\xA0 WWWW");
     const QImage after = widget->grab().toImage();
     EXPECT_TRUE(HasColor(after, Qt::red));
     EXPECT_TRUE(HasColor(after, Qt::white));
-    EXPECT_NE(before, after);
-}
 
-TEST_F(WidgetTest, TheClientAreaLeavesRoomForTheScrollBarAndFollowsResizes)
-{
-    auto widget = Make();
+    // The system's fixed-pitch font gives every letter the same whole-pixel advance.
+    EXPECT_GT(window.GetCharWidth()['m'], 0);
+    EXPECT_EQ(window.GetCharWidth()['i'], window.GetCharWidth()['m']);
+    const std::int32_t lineHeight = window.GetLineHeight();
+    EXPECT_EQ(lineHeight, QFontMetrics(widget->CurrentFont()).height());
+
     widget->show();
     ASSERT_TRUE(QTest::qWaitForWindowExposed(widget.get()));
-    const std::int32_t lineHeight = widget->Window().GetLineHeight();
-    ASSERT_GT(lineHeight, 0);
     widget->resize(500, 300);
-    const Rect client = widget->Window().GetClientRect();
-    EXPECT_EQ(client.right, 500 - widget->ScrollBar()->width());
-    EXPECT_EQ(client.bottom, 300);
-    EXPECT_EQ(widget->Window().GetRows(), (300 - lineHeight / 2) / lineHeight);
+    EXPECT_EQ(window.GetClientRect().right, 500 - widget->ScrollBar()->width());
+    EXPECT_EQ(window.GetClientRect().bottom, 300);
+    EXPECT_EQ(window.GetRows(), (300 - lineHeight / 2) / lineHeight);
     EXPECT_EQ(widget->ScrollBar()->geometry().right(), 499);
     EXPECT_EQ(widget->ScrollBar()->maximum(), LIVE_SCROLL_MAX);
     EXPECT_EQ(widget->ScrollBar()->value(), LIVE_SCROLL_MAX);
 }
 
-TEST_F(WidgetTest, WidthsAreWholePixelsOfTheFontInUse)
+TEST_F(WidgetTest, TheScrollBarAndTheWheelFreezeAndTheBarReturnsToTheLiveTail)
 {
-    auto widget = Make();
-    const CharWidthTable& widths = widget->Window().GetCharWidth();
-    // The system's fixed-pitch font gives every letter the same advance.
-    EXPECT_GT(widths['m'], 0);
-    EXPECT_EQ(widths['i'], widths['m']);
-    EXPECT_EQ(widget->Window().GetLineHeight(), QFontMetrics(widget->CurrentFont()).height());
-}
-
-TEST_F(WidgetTest, TheScrollBarFreezesAndReturnsToTheLiveTail)
-{
-    auto widget = Make();
-    AppendLines(widget->Window(), 150);
-    QScrollBar* bar = widget->ScrollBar();
-
-    bar->triggerAction(QAbstractSlider::SliderSingleStepSub);
+    auto widget = Make("Thought Window", 150);
     AnsiWindow& window = widget->Window();
+    QScrollBar* bar = widget->ScrollBar();
+    bar->triggerAction(QAbstractSlider::SliderSingleStepSub);
     ASSERT_TRUE(window.IsFrozen());
     EXPECT_EQ(bar->maximum(), window.GetViewLines() - window.GetRows());
     EXPECT_EQ(bar->value(), window.GetTopLine());
     EXPECT_EQ(window.GetTopLine(), window.GetViewLines() - window.GetRows() - 1);
-
     bar->triggerAction(QAbstractSlider::SliderPageStepSub);
     EXPECT_EQ(bar->value(), window.GetTopLine());
-
     bar->triggerAction(QAbstractSlider::SliderToMaximum);
     EXPECT_FALSE(window.IsFrozen());
     EXPECT_EQ(bar->maximum(), LIVE_SCROLL_MAX);
     EXPECT_EQ(bar->value(), LIVE_SCROLL_MAX);
-}
 
-TEST_F(WidgetTest, TheWheelScrollsAPageUpAndFreezes)
-{
-    auto widget = Make();
-    AppendLines(widget->Window(), 150);
     QWheelEvent wheel(QPointF(10, 10), QPointF(10, 10), QPoint(), QPoint(0, 120), Qt::NoButton,
                       Qt::NoModifier, Qt::NoScrollPhase, false);
     QApplication::sendEvent(widget.get(), &wheel);
-    AnsiWindow& window = widget->Window();
     ASSERT_TRUE(window.IsFrozen());
     EXPECT_EQ(window.GetTopLine(), window.GetViewLines() - 2 * window.GetRows());
-}
-
-TEST_F(WidgetTest, AFrozenViewPaintsTheOldTextWhileNewTextArrives)
-{
-    auto widget = Make();
-    AppendLines(widget->Window(), 150);
-    widget->Window().ApplyScrollCommand(SB_PAGEUP, 0);
-    const QImage frozen = widget->grab().toImage();
-    widget->Window().AppendText("\x8C"
-                                "MMMMMMMM\n");
-    EXPECT_EQ(widget->grab().toImage(), frozen);
-    widget->Window().EndScrollback();
-    EXPECT_TRUE(HasColor(widget->grab().toImage(), Qt::red));
 }
 
 // A burst of text costs one later paint; unbuffered updates paint each text at once.
@@ -183,75 +143,22 @@ TEST_F(WidgetTest, BufferedUpdatesDecideWhenTextIsPainted)
 TEST_F(WidgetTest, AppearanceCommandsUseTheGivenDialogs)
 {
     auto widget = Make();
-    widget->Window().AppendText("MMMM");
+    AnsiWindow& window = widget->Window();
+    window.AppendText("MMMM");
     dialogs.nextColor = QColor(0, 200, 0);
     widget->MenuCommand(IDM_CHANGE_FOREGROUND);
-    EXPECT_EQ(widget->Window().GetTextColor(), MakeRgb(0, 200, 0));
+    EXPECT_EQ(window.GetTextColor(), MakeRgb(0, 200, 0));
     EXPECT_TRUE(HasColor(widget->grab().toImage(), QColor(0, 200, 0)));
-
     dialogs.nextColor = QColor(0, 0, 90);
     widget->MenuCommand(IDM_CHANGE_BACKGROUND);
-    EXPECT_EQ(widget->Window().GetBkColor(), MakeRgb(0, 0, 90));
-
-    const std::int32_t before = widget->Window().GetLineHeight();
+    EXPECT_EQ(window.GetBkColor(), MakeRgb(0, 0, 90));
+    const std::int32_t before = window.GetLineHeight();
     dialogs.nextFont = widget->CurrentFont();
     dialogs.nextFont.setPixelSize(2 * before + 4);
     widget->MenuCommand(IDM_CHANGE_FONT);
-    EXPECT_GT(widget->Window().GetLineHeight(), before);
-    EXPECT_EQ(widget->Window().GetFont().lfHeight, -(2 * before + 4));
-}
+    EXPECT_GT(window.GetLineHeight(), before);
+    EXPECT_EQ(window.GetFont().lfHeight, -(2 * before + 4));
 
-TEST_F(WidgetTest, InATextAreaTheSubWindowCarriesPlacementAndTitle)
-{
-    QMdiArea area;
-    area.resize(800, 600);
-    auto widget = Make();
-    AnsiWindowWidget* raw = widget.get();
-    QMdiSubWindow* sub = area.addSubWindow(widget.release());
-    sub->setGeometry(10, 20, 300, 200);
-    sub->setWindowTitle("Thought Window");
-
-    WindowPlacementRecord placement;
-    ASSERT_TRUE(raw->GetWindowPlacement(placement));
-    EXPECT_EQ(placement.rcNormalPosition.left, 10);
-    EXPECT_EQ(placement.rcNormalPosition.top, 20);
-    EXPECT_EQ(placement.rcNormalPosition.right, 310);
-    EXPECT_EQ(placement.rcNormalPosition.bottom, 220);
-    EXPECT_EQ(placement.showCmd, SW_SHOWNORMAL);
-
-    raw->Window().SetLabel("Thoughts of Ana");
-    EXPECT_TRUE(sub->windowTitle().isEmpty());
-
-    placement.rcNormalPosition = {30, 40, 430, 340};
-    raw->SetWindowPlacement(placement);
-    EXPECT_EQ(sub->geometry(), QRect(30, 40, 400, 300));
-}
-
-TEST_F(WidgetTest, OnlyTheActiveSubWindowCountsAsActive)
-{
-    QMdiArea area;
-    area.resize(800, 600);
-    area.show();
-    ASSERT_TRUE(QTest::qWaitForWindowExposed(&area));
-    auto first = Make("Thought Window");
-    auto second = Make("Arrival Window");
-    AnsiWindowWidget* one = first.get();
-    AnsiWindowWidget* two = second.get();
-    QMdiSubWindow* subOne = area.addSubWindow(first.release());
-    QMdiSubWindow* subTwo = area.addSubWindow(second.release());
-    subOne->show();
-    subTwo->show();
-
-    area.setActiveSubWindow(subOne);
-    EXPECT_TRUE(one->IsActiveChild());
-    EXPECT_FALSE(two->IsActiveChild());
-    area.setActiveSubWindow(subTwo);
-    EXPECT_FALSE(one->IsActiveChild());
-    EXPECT_TRUE(two->IsActiveChild());
-}
-
-TEST(FontRecord, ARecordSurvivesTheWayThroughAQtFont)
-{
     LogFontRecord record;
     record.lfHeight = -15;
     record.lfWeight = 700;
@@ -262,6 +169,79 @@ TEST(FontRecord, ARecordSurvivesTheWayThroughAQtFont)
     EXPECT_EQ(back.lfWeight, 700);
     EXPECT_EQ(back.lfItalic, 1);
     EXPECT_STREQ(back.lfFaceName, "DejaVu Sans Mono");
+}
+
+TEST_F(WidgetTest, InATextAreaTheSubWindowCarriesPlacementTitleAndActivity)
+{
+    QMdiArea area;
+    area.resize(800, 600);
+    area.show();
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(&area));
+    AnsiWindowWidget* one = Make().release();
+    AnsiWindowWidget* two = Make("Arrival Window").release();
+    QMdiSubWindow* subOne = area.addSubWindow(one);
+    QMdiSubWindow* subTwo = area.addSubWindow(two);
+    subOne->show();
+    subTwo->show();
+    subOne->setGeometry(10, 20, 300, 200);
+    subOne->setWindowTitle("Thought Window");
+
+    WindowPlacementRecord placement;
+    ASSERT_TRUE(one->GetWindowPlacement(placement));
+    EXPECT_EQ(placement.rcNormalPosition.left, 10);
+    EXPECT_EQ(placement.rcNormalPosition.top, 20);
+    EXPECT_EQ(placement.rcNormalPosition.right, 310);
+    EXPECT_EQ(placement.rcNormalPosition.bottom, 220);
+    EXPECT_EQ(placement.showCmd, SW_SHOWNORMAL);
+    placement.rcNormalPosition = {30, 40, 430, 340};
+    one->SetWindowPlacement(placement);
+    EXPECT_EQ(subOne->geometry(), QRect(30, 40, 400, 300));
+    one->Window().SetLabel("Thoughts of Ana");
+    EXPECT_TRUE(subOne->windowTitle().isEmpty());
+
+    area.setActiveSubWindow(subOne);
+    EXPECT_TRUE(one->IsActiveChild());
+    EXPECT_FALSE(two->IsActiveChild());
+    area.setActiveSubWindow(subTwo);
+    EXPECT_FALSE(one->IsActiveChild());
+    EXPECT_TRUE(two->IsActiveChild());
+}
+
+TEST(ScrollbackWidgetTest, TheFindBarFindsSaysWhenNothingIsFoundAndHandsTheFocusBack)
+{
+    // The window and the command line it hands the focus to, as in the program's frame.
+    QWidget frame;
+    QLineEdit commandLine{&frame};
+    Settings settings;
+    auto widget = AnsiWindowWidget::Create("Thought Window", {settings});
+    widget->setParent(&frame);
+    widget->setGeometry(0, 0, 400, 300);
+    widget->SetCommandLine(&commandLine);
+    frame.show();
+    for (int i = 0; i < 200; ++i)
+        widget->Window().AppendText(("line " + std::to_string(i) + "\n").c_str());
+    QApplication::setActiveWindow(&frame);
+    widget->OpenFindBar();
+    FindBar* finder = widget->Finder();
+    ASSERT_NE(finder, nullptr);
+    EXPECT_TRUE(finder->Field()->hasFocus());
+    EXPECT_LT(widget->GetClientRect().bottom, widget->height());
+
+    QTest::keyClicks(finder->Field(), "LINE 17");
+    QTest::keyClick(finder->Field(), Qt::Key_Return);
+    EXPECT_TRUE(widget->Window().IsFrozen());
+    EXPECT_EQ(widget->Window().GetViewBuffer().SelectionText(), "line 17");
+    EXPECT_TRUE(finder->Result().isEmpty());
+
+    finder->Field()->setText(QStringLiteral("griffin"));
+    QTest::keyClick(finder->Field(), Qt::Key_Return);
+    EXPECT_EQ(finder->Result(), QStringLiteral("Not found"));
+    EXPECT_EQ(widget->Window().GetViewBuffer().SelectionText(), "line 17");
+
+    QTest::keyClick(finder->Field(), Qt::Key_Escape);
+    EXPECT_FALSE(finder->isVisible());
+    EXPECT_TRUE(commandLine.hasFocus());
+    EXPECT_EQ(widget->GetClientRect().bottom, widget->height());
 }
 
 } // namespace
