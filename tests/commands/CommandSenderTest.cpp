@@ -3,10 +3,6 @@
 
 #include <gtest/gtest.h>
 
-#include <cstring>
-#include <string>
-#include <vector>
-
 namespace steward::test {
 namespace {
 
@@ -14,17 +10,20 @@ using Strings = std::vector<std::string>;
 
 class EnterRoadTest : public ::testing::Test {
   protected:
-    void Enter(const std::string& typed, bool remember = true)
+    // Without a flag, as the switchboard serves a posted Enter key.
+    void Enter(const std::string& typed, int remember = -1)
     {
         kb.line.SetText(typed.c_str());
-        kb.sender.EnterKey(remember);
+        if (remember < 0)
+            kb.sender.EnterKey();
+        else
+            kb.sender.EnterKey(remember != 0);
     }
     KeyboardBench kb;
 };
 
 TEST_F(EnterRoadTest, SendsEchoesEmptiesAndRecordsInOrder)
 {
-    kb.line.start = kb.line.end = 0;
     TraceRecorder trace;
     Enter("look");
     EXPECT_EQ(kb.sink.calls, (Strings{"echo look", "pending", "send look", "record look"}));
@@ -32,78 +31,53 @@ TEST_F(EnterRoadTest, SendsEchoesEmptiesAndRecordsInOrder)
     EXPECT_EQ(kb.line.focused, 1);
     EXPECT_STREQ(kb.history.EntryAt(0), "look");
     EXPECT_EQ(trace.Lines, Strings{"Exiting MM_ENTER_KEY\n"});
-}
-
-TEST_F(EnterRoadTest, ContactAndEscapeRewrites)
-{
     Enter("bob:hello");
     Enter("say \x1b[1mhi");
-    Enter(".cmd a:b", false);
-    EXPECT_EQ(kb.sink.sent, (Strings{"contact bob hello", "say  [1mhi"}));
-}
-
-TEST_F(EnterRoadTest, AnEmptyLineIsSent)
-{
+    Enter(".cmd a:b", 0);
+    kb.options.CommandPrefix = 0; // a NUL prefix never turns an empty line into a script
     Enter("");
-    EXPECT_EQ(kb.sink.sent, Strings{""});
-    EXPECT_EQ(kb.history.Count(), 0);
+    EXPECT_EQ(kb.sink.sent, (Strings{"look", "contact bob hello", "say  [1mhi", ""}));
+    EXPECT_EQ(kb.queue.commands, std::vector<int>{MM_RUN_SCRIPT});
 }
 
 TEST_F(EnterRoadTest, PrefixRunsACommandScript)
 {
-    kb.line.SetText(".hunt rat \"big one\"");
-    kb.sender.EnterKey(false);
+    Enter(".hunt rat \"big one\"", 0);
     EXPECT_STREQ(kb.state.ScriptName, "hunt.Cmd");
     EXPECT_STREQ(kb.state.ScriptParameters, "rat \"big one\"");
     EXPECT_EQ(kb.queue.commands, std::vector<int>{MM_RUN_SCRIPT});
     EXPECT_EQ(kb.sink.calls, Strings{"echo .hunt rat \"big one\""});
     EXPECT_STREQ(kb.history.EntryAt(0), ".hunt rat \"big one\"");
     EXPECT_EQ(kb.line.text, "");
-}
-
-TEST_F(EnterRoadTest, ScriptNamesOfTypedLines)
-{
-    struct Case {
-        const char* typed;
-        const char* name;
-        const char* parameters;
-    } cases[] = {{".walk", "walk.Cmd", ""},
-                 {".walk.txt  n", "walk.txt", " n"},
-                 {". x", ".Cmd", "x"},
-                 {"!go", "go.Cmd", ""}};
-    kb.options.CommandPrefix = '!';
-    Enter(".walk");
-    EXPECT_EQ(kb.sink.sent, Strings{".walk"});
-    kb.options.CommandPrefix = '.';
-    for (const Case& c : cases) {
-        if (c.typed[0] == '!')
-            kb.options.CommandPrefix = '!';
-        Enter(c.typed);
-        EXPECT_STREQ(kb.state.ScriptName, c.name) << c.typed;
-        EXPECT_STREQ(kb.state.ScriptParameters, c.parameters) << c.typed;
+    const struct {
+        const char *typed, *name, *parameters;
+    } rows[] = {{".walk.txt  n", "walk.txt", " n"}, {". x", ".Cmd", "x"}, {"!go", "go.Cmd", ""}};
+    for (const auto& row : rows) {
+        kb.options.CommandPrefix = row.typed[0];
+        Enter(row.typed);
+        EXPECT_STREQ(kb.state.ScriptName, row.name) << row.typed;
+        EXPECT_STREQ(kb.state.ScriptParameters, row.parameters) << row.typed;
     }
-}
-
-TEST_F(EnterRoadTest, ANulPrefixNeverTurnsAnEmptyLineIntoAScript)
-{
-    kb.options.CommandPrefix = 0;
-    Enter("");
-    EXPECT_EQ(kb.sink.sent, Strings{""});
-    EXPECT_TRUE(kb.queue.commands.empty());
+    Enter(".walk");
+    EXPECT_EQ(kb.sink.sent, Strings{".walk"}) << "only the set prefix runs a script";
 }
 
 TEST_F(EnterRoadTest, DraggingRewritesMovesButHistoryKeepsThePlainMove)
 {
     kb.options.MinCommandLength = 0;
     std::strcpy(kb.state.DragTarget, "bob");
-    Enter("n");
-    Enter("go gate");
-    Enter("GO  door");
-    Enter("goat");
+    for (const char* typed : {"n", "go gate", "GO  door", "goat"})
+        Enter(typed);
     EXPECT_EQ(kb.sink.sent, (Strings{"drag bob n", "drag bob gate", "drag bob  door", "goat"}));
     EXPECT_STREQ(kb.history.EntryAt(0), "n");
     EXPECT_STREQ(kb.history.EntryAt(1), "drag bob gate");
     EXPECT_EQ(kb.sink.calls[3], "record drag bob n");
+    kb.sink = {};
+    kb.line.SetText("typed");
+    kb.sender.SendScripted("n");
+    EXPECT_EQ(kb.sink.calls, (Strings{"pending", "echo n", "send n"})) << "the short road";
+    EXPECT_EQ(kb.line.text, "typed");
+    EXPECT_EQ(kb.line.focused, 5);
 }
 
 TEST_F(EnterRoadTest, PostedEnterKeysKeepTheirRememberFlagsInOrder)
@@ -111,33 +85,13 @@ TEST_F(EnterRoadTest, PostedEnterKeysKeepTheirRememberFlagsInOrder)
     kb.sender.PostEnterKey(false);
     kb.sender.PostEnterKey(true);
     EXPECT_EQ(kb.queue.commands, (std::vector<int>{MM_ENTER_KEY, MM_ENTER_KEY}));
-    kb.line.SetText("first");
-    kb.sender.EnterKey();
-    kb.line.SetText("second");
-    kb.sender.EnterKey();
-    kb.line.SetText("third");
-    kb.sender.EnterKey();
+    for (const char* typed : {"first", "second", "third"})
+        Enter(typed);
     EXPECT_EQ(kb.history.Count(), 2);
     EXPECT_STREQ(kb.history.EntryAt(0), "second");
-}
-
-TEST_F(EnterRoadTest, ScriptedLinesTakeTheShortRoad)
-{
-    std::strcpy(kb.state.DragTarget, "bob");
-    kb.line.SetText("typed");
-    kb.sender.SendScripted("n");
-    EXPECT_EQ(kb.sink.calls, (Strings{"pending", "echo n", "send n"}));
-    EXPECT_EQ(kb.line.text, "typed");
-    EXPECT_EQ(kb.line.focused, 1);
-}
-
-TEST_F(EnterRoadTest, SendingResetsTheBrowsingPlace)
-{
-    kb.history.RememberCommand("look", 4);
-    kb.history.RememberCommand("kill rat", 4);
     kb.history.HistoryPrevious(kb.line);
     kb.sender.SendCommand("x");
-    EXPECT_EQ(kb.history.HistoryPosition(), 2);
+    EXPECT_EQ(kb.history.HistoryPosition(), 2) << "sending resets the browsing place";
 }
 
 } // namespace

@@ -1,14 +1,100 @@
 #include "KeyboardDoubles.h"
+#include "commands/KeyDecision.h"
 
 #include <gtest/gtest.h>
-
-#include <string>
-#include <vector>
 
 namespace steward::test {
 namespace {
 
 using Strings = std::vector<std::string>;
+
+TEST(KeyDecision, DecidesEachKeyAsTheTableSays)
+{
+    constexpr KeyModifiers ALT = KEY_ALT, SHIFT = KEY_SHIFT, CTRL = KEY_CTRL, EXT = KEY_EXTENDED,
+                           NUM = KEY_NUMLOCK;
+    using A = KeyAction;
+    // number: the key played for ExpandMacro, the Value otherwise.
+    const struct {
+        const char* name;
+        int key;
+        KeyModifiers modifiers;
+        int honorNumLock, lineEmpty;
+        KeyAction action;
+        int number;
+    } rows[] = {
+        {"AltF", 'F', ALT, 0, 0, A::ExpandMacro, 'F'},
+        {"CtrlZ", 'Z', CTRL, 0, 0, A::ExpandMacro, 'Z'},
+        {"PlainA", 'A', 0, 0, 0, A::None, 0},
+        {"ShiftA", 'A', SHIFT, 0, 0, A::None, 0},
+        {"Alt1", '1', ALT, 0, 0, A::SelectMacroSet, 0},
+        {"Alt9", '9', ALT, 0, 0, A::SelectMacroSet, 8},
+        {"Alt0", '0', ALT, 0, 0, A::SelectMacroSet, 9},
+        {"Plain5", '5', 0, 0, 0, A::None, 0},
+        {"Ctrl5", '5', CTRL, 0, 0, A::None, 0},
+        {"F1", VK_F1, 0, 0, 0, A::ExpandMacro, VK_F1},
+        {"ShiftF12", VK_F12, SHIFT, 1, 0, A::ExpandMacro, VK_F12},
+        {"DigitNumLockOn", VK_NUMPAD0 + 8, NUM, 0, 0, A::ExpandMacro, VK_NUMPAD0 + 8},
+        {"DigitHonoured", VK_NUMPAD0 + 8, NUM, 1, 0, A::None, 0},
+        {"StarHonoured", VK_MULTIPLY, NUM, 1, 0, A::None, 0},
+        {"StarHonourOnNumLockOff", VK_MULTIPLY, 0, 1, 0, A::ExpandMacro, VK_MULTIPLY},
+        {"InsertIsKeypad0", VK_INSERT, 0, 0, 0, A::ExpandMacro, VK_NUMPAD0},
+        {"EndIs1", VK_END, 0, 0, 0, A::ExpandMacro, VK_NUMPAD0 + 1},
+        {"DownIs2", VK_DOWN, 0, 0, 0, A::ExpandMacro, VK_NUMPAD0 + 2},
+        {"PageDownIs3", VK_NEXT, 0, 0, 0, A::ExpandMacro, VK_NUMPAD0 + 3},
+        {"LeftIs4", VK_LEFT, 0, 0, 0, A::ExpandMacro, VK_NUMPAD0 + 4},
+        {"ClearIs5", VK_CLEAR, 0, 0, 0, A::ExpandMacro, VK_NUMPAD0 + 5},
+        {"RightIs6", VK_RIGHT, 0, 0, 0, A::ExpandMacro, VK_NUMPAD0 + 6},
+        {"HomeIs7", VK_HOME, 0, 0, 0, A::ExpandMacro, VK_NUMPAD0 + 7},
+        {"UpIs8", VK_UP, 0, 0, 0, A::ExpandMacro, VK_NUMPAD0 + 8},
+        {"PageUpIs9", VK_PRIOR, CTRL, 0, 0, A::ExpandMacro, VK_NUMPAD9},
+        {"DeleteIsDecimal", VK_DELETE, 0, 0, 0, A::ExpandMacro, VK_DECIMAL},
+        {"NavigationHonoured", VK_UP, NUM, 1, 0, A::None, 0},
+        {"NavigationHonourOnNumLockOff", VK_UP, 0, 1, 0, A::ExpandMacro, VK_NUMPAD0 + 8},
+        {"ExtendedInsert", VK_INSERT, EXT | SHIFT, 0, 0, A::None, 0},
+        {"ExtendedEnd", VK_END, EXT, 0, 0, A::None, 0},
+        {"ExtendedLeft", VK_LEFT, EXT, 0, 0, A::None, 0},
+        {"ExtendedRight", VK_RIGHT, EXT, 0, 0, A::None, 0},
+        {"ExtendedHome", VK_HOME, EXT, 0, 0, A::None, 0},
+        {"ExtendedDelete", VK_DELETE, EXT | SHIFT, 0, 0, A::None, 0},
+        {"ExtendedClear", VK_CLEAR, EXT, 0, 0, A::None, 0},
+        {"Up", VK_UP, EXT, 0, 0, A::HistoryPrevious, 0},
+        {"Down", VK_DOWN, EXT | NUM, 1, 0, A::HistoryNext, 0},
+        {"ShiftPageUp", VK_PRIOR, EXT | SHIFT | CTRL, 0, 0, A::Scroll, SB_LINEUP},
+        {"CtrlPageUp", VK_PRIOR, EXT | CTRL, 0, 0, A::Scroll, SB_TOP},
+        {"PageUp", VK_PRIOR, EXT | ALT, 0, 0, A::Scroll, SB_PAGEUP},
+        {"ShiftPageDown", VK_NEXT, EXT | SHIFT, 0, 0, A::Scroll, SB_LINEDOWN},
+        {"CtrlPageDown", VK_NEXT, EXT | CTRL, 0, 0, A::Scroll, SB_BOTTOM},
+        {"PageDown", VK_NEXT, EXT, 0, 0, A::Scroll, SB_PAGEDOWN},
+        {"AltEnter", VK_RETURN, ALT | CTRL, 0, 1, A::RepeatCommand, 2},
+        {"CtrlEnter", VK_RETURN, CTRL | EXT, 0, 1, A::RepeatCommand, 1},
+        {"KeypadEnterEmpty", VK_RETURN, EXT, 0, 1, A::RepeatThenEnterKey, 0},
+        {"KeypadEnterEmptyNumLockNotHonoured", VK_RETURN, EXT | NUM, 0, 1, A::RepeatThenEnterKey,
+         0},
+        {"KeypadEnterWithText", VK_RETURN, EXT, 0, 0, A::EnterKey, 0},
+        {"KeypadEnterHonoured", VK_RETURN, EXT | NUM, 1, 1, A::EnterKey, 0},
+        {"ShiftKeypadEnterEmpty", VK_RETURN, EXT | SHIFT, 0, 1, A::RepeatThenEnterKey, 0},
+        {"EnterEmpty", VK_RETURN, 0, 0, 1, A::EnterKey, 0},
+        {"ShiftEnter", VK_RETURN, SHIFT, 0, 0, A::EnterKey, 0},
+        {"AltTab", VK_TAB, ALT, 0, 0, A::None, 0},
+        {"CtrlTab", VK_TAB, CTRL, 0, 0, A::NextChildWindow, 0},
+        {"Tab", VK_TAB, SHIFT, 0, 0, A::ToggleGameWindow, 0},
+        {"Escape", VK_ESCAPE, ALT, 0, 0, A::Escape, 0},
+        {"AltAlone", VK_MENU, ALT, 0, 0, A::None, 0},
+        {"Shift", VK_SHIFT, SHIFT, 0, 0, A::None, 0},
+        {"Backspace", 0x08, 0, 0, 0, A::None, 0},
+    };
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.name);
+        const KeyDecision decision =
+            DecideKey(row.key, row.modifiers, row.honorNumLock != 0, row.lineEmpty != 0);
+        EXPECT_EQ(decision.Action, row.action);
+        EXPECT_EQ(decision.Taken, row.action != A::None);
+        if (row.action == A::ExpandMacro) {
+            EXPECT_EQ(decision.Key, row.number);
+        }
+        EXPECT_EQ(decision.Value, row.action == A::ExpandMacro ? 0 : row.number);
+    }
+}
 
 class KeyFilterTest : public ::testing::Test {
   protected:
@@ -17,31 +103,19 @@ class KeyFilterTest : public ::testing::Test {
     KeyboardBench kb;
 };
 
-TEST_F(KeyFilterTest, AnyKeyLeavesRestModeOnce)
+TEST_F(KeyFilterTest, MacroKeysPlayOrSelectTheirSet)
 {
     kb.host.rest = true;
     EXPECT_FALSE(Press(VK_SHIFT, KEY_SHIFT));
     EXPECT_FALSE(Press('A'));
     EXPECT_FALSE(kb.host.rest);
-    EXPECT_EQ(kb.host.printed, Strings{"\r\nLeaving rest mode.\r\n"});
-}
-
-TEST_F(KeyFilterTest, AltLetterWithoutMacroIsTakenAndDoesNothing)
-{
-    EXPECT_TRUE(Press('F', KEY_ALT));
+    EXPECT_EQ(kb.host.printed, Strings{"\r\nLeaving rest mode.\r\n"}) << "once";
+    EXPECT_TRUE(Press('F', KEY_ALT)) << "taken without a macro";
     EXPECT_EQ(kb.line.text, "");
     EXPECT_TRUE(kb.sink.calls.empty());
-}
-
-TEST_F(KeyFilterTest, KeypadPlaysItsMacroWithNumLockOnAndOff)
-{
     EXPECT_TRUE(Press(VK_NUMPAD0 + 8, KEY_NUMLOCK));
     EXPECT_TRUE(Press(VK_UP));
     EXPECT_EQ(kb.sink.sent, (Strings{"n", "n"}));
-}
-
-TEST_F(KeyFilterTest, AltDigitSelectsTheSetAndRetitlesTheFrame)
-{
     kb.macros.SelectMacroSet(2);
     kb.macros.SetMacroSetName("Fight");
     EXPECT_TRUE(Press('3', KEY_ALT));
@@ -51,34 +125,24 @@ TEST_F(KeyFilterTest, AltDigitSelectsTheSetAndRetitlesTheFrame)
     EXPECT_EQ(kb.host.title, "Thornmere [Ayla]: Current Macro Set: 10 - ");
 }
 
-TEST_F(KeyFilterTest, EnterPostsARememberedEnterKey)
+TEST_F(KeyFilterTest, EnterKeysSendRepeatOrPostARememberedEnter)
 {
     kb.options.MinCommandLength = 0;
     kb.Type("n");
     EXPECT_TRUE(Press(VK_RETURN));
     EXPECT_EQ(kb.queue.commands, std::vector<int>{MM_ENTER_KEY});
     kb.ServeQueue();
-    EXPECT_EQ(kb.sink.sent, Strings{"n"});
     EXPECT_STREQ(kb.history.EntryAt(0), "n");
-}
-
-TEST_F(KeyFilterTest, KeypadEnterOnAnEmptyLineRepeatsThenSendsAnEmptyLine)
-{
     kb.history.RememberCommand("kill rat", 4);
     EXPECT_TRUE(Press(VK_RETURN, KEY_EXTENDED));
     kb.ServeQueue();
-    EXPECT_EQ(kb.sink.sent, (Strings{"kill rat", ""}));
-    EXPECT_EQ(kb.history.Count(), 1);
-}
-
-TEST_F(KeyFilterTest, CtrlAndAltEnterRepeatWithoutTouchingTheLine)
-{
-    kb.history.RememberCommand("look", 4);
-    kb.history.RememberCommand("kill rat", 4);
+    EXPECT_EQ(kb.sink.sent, (Strings{"n", "kill rat", ""})) << "keypad Enter on an empty line";
+    EXPECT_EQ(kb.history.Count(), 2);
+    kb.sink = {};
     kb.Type("typed");
     Press(VK_RETURN, KEY_CTRL);
     Press(VK_RETURN, KEY_ALT);
-    EXPECT_EQ(kb.sink.sent, (Strings{"kill rat", "look"}));
+    EXPECT_EQ(kb.sink.sent, (Strings{"kill rat", "n"}));
     EXPECT_EQ(kb.line.text, "typed");
     EXPECT_TRUE(kb.queue.commands.empty());
 }
@@ -96,26 +160,21 @@ TEST_F(KeyFilterTest, UpUpThenCtrlEnterSendsTheEntryBeforeTheOneShown)
     EXPECT_EQ(kb.line.text, "inventory");
 }
 
-TEST_F(KeyFilterTest, EscapeAbortsAScriptFirstThenLeavesScrollback)
+TEST_F(KeyFilterTest, EscapeAndWindowKeysReachTheFrame)
 {
     kb.host.script = true;
     kb.Type("half");
     EXPECT_TRUE(Press(VK_ESCAPE));
     EXPECT_EQ(kb.line.text, "");
-    EXPECT_EQ(kb.host.calls, Strings{"abort"});
     EXPECT_EQ(kb.host.printed, Strings{"\r\n[Script aborted.]\r\n"});
     Press(VK_ESCAPE);
-    EXPECT_EQ(kb.host.calls, (Strings{"abort", "endscrollback"}));
-}
-
-TEST_F(KeyFilterTest, WindowKeysReachTheFrame)
-{
     Press(VK_TAB, KEY_CTRL);
     Press(VK_TAB);
     EXPECT_FALSE(Press(VK_TAB, KEY_ALT));
     Press(VK_PRIOR, KEY_EXTENDED | KEY_CTRL);
     Press(VK_NEXT, KEY_EXTENDED | KEY_SHIFT);
-    EXPECT_EQ(kb.host.calls, (Strings{"mdinext", "toggle", "scroll 6", "scroll 1"}));
+    EXPECT_EQ(kb.host.calls,
+              (Strings{"abort", "endscrollback", "mdinext", "toggle", "scroll 6", "scroll 1"}));
 }
 
 } // namespace

@@ -2,9 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include <string>
-#include <vector>
-
 namespace steward::test {
 namespace {
 
@@ -12,103 +9,34 @@ using Strings = std::vector<std::string>;
 
 class MacroPlayerTest : public ::testing::Test {
   protected:
-    MacroPlayerTest() { kb.options.MinCommandLength = 0; }
+    MacroPlayerTest()
+    {
+        kb.options.MinCommandLength = 0;
+        std::strcpy(kb.state.DragTarget, "bob");
+    }
     void Play(const char* text) { kb.player.PlayMacro(text); }
     KeyboardBench kb;
 };
 
-TEST_F(MacroPlayerTest, DefaultKeypadMacroReplacesAHalfTypedLine)
+TEST_F(MacroPlayerTest, EscapesOfTheLanguage)
 {
-    kb.Type("kill r");
-    Play("\\xn\\r");
-    EXPECT_EQ(kb.sink.sent, Strings{"n"});
-    EXPECT_EQ(kb.line.text, "");
-    EXPECT_EQ(kb.history.Count(), 1);
-}
-
-TEST_F(MacroPlayerTest, EnterUnsetsTheCaretMark)
-{
-    Play("say hi@ there\\r");
-    EXPECT_EQ(kb.sink.sent, Strings{"say hi there"});
-    Play("tell bob@ hello");
-    EXPECT_EQ(kb.line.text, "tell bob hello");
-    EXPECT_EQ(kb.line.start, 8);
-    EXPECT_EQ(kb.line.end, 8);
-}
-
-TEST_F(MacroPlayerTest, MarkOfASelectionIsNotRestored)
-{
+    const struct {
+        const char *macro, *line;
+    } rows[] = {
+        {"a\\\\b", "a\\b"},         {"a\\zb", "ab"}, {"ab\\", "ab"},  {"typed\\Xnew", "new"},
+        {"drag \\d!", "drag bob!"}, {"at@", "at"},   {"x\\D", "xbob"}};
+    for (const auto& row : rows) {
+        kb.line.SetText("");
+        Play(row.macro);
+        EXPECT_EQ(kb.line.text, row.line) << row.macro;
+    }
+    EXPECT_TRUE(kb.sink.sent.empty());
+    kb.line.SetText("");
     kb.Type("abc");
     kb.line.SetSelection(0, 2);
     Play("@x");
-    EXPECT_EQ(kb.line.text, "xc");
+    EXPECT_EQ(kb.line.text, "xc") << "the mark of a selection is not restored";
     EXPECT_EQ(kb.line.start, 1);
-}
-
-TEST_F(MacroPlayerTest, QuestionIsAskedOnceAndReused)
-{
-    kb.host.answers = {"rat  "};
-    Play("kill \\?\\rlook \\?");
-    EXPECT_EQ(kb.host.asked, Strings{"kill \\?\\rlook \\?"});
-    EXPECT_EQ(kb.sink.sent, Strings{"kill rat"});
-    EXPECT_EQ(kb.line.text, "look rat");
-}
-
-TEST_F(MacroPlayerTest, EmptyAnswerOrCancelClearsTheLineAndStops)
-{
-    for (const char* answer : {"   ", "<cancel>"}) {
-        kb.line.SetText("typed");
-        kb.host.answers = {answer};
-        Play("x\\?\\r");
-        EXPECT_EQ(kb.line.text, "");
-        EXPECT_TRUE(kb.sink.sent.empty());
-    }
-}
-
-TEST_F(MacroPlayerTest, EscapesOfTheLanguage)
-{
-    struct Case {
-        const char* macro;
-        const char* line;
-    } cases[] = {
-        {"a\\\\b", "a\\b"},         {"a\\zb", "ab"}, {"ab\\", "ab"},   {"typed\\Xnew", "new"},
-        {"drag \\d!", "drag bob!"}, {"at@", "at"},   {"x\\D", "xbob"},
-    };
-    std::strcpy(kb.state.DragTarget, "bob");
-    for (const Case& c : cases) {
-        kb.line.SetText("");
-        Play(c.macro);
-        EXPECT_EQ(kb.line.text, c.line) << c.macro;
-    }
-    EXPECT_TRUE(kb.sink.sent.empty());
-}
-
-TEST_F(MacroPlayerTest, EveryEnterLetterSendsThroughTheFullRoad)
-{
-    std::strcpy(kb.state.DragTarget, "bob");
-    Play("n\\Ns\\re\\Rw\\n");
-    EXPECT_EQ(kb.sink.sent, (Strings{"drag bob n", "drag bob s", "drag bob e", "drag bob w"}));
-    EXPECT_EQ(kb.history.EntryAt(0), std::string("n"));
-}
-
-TEST_F(MacroPlayerTest, MacroEnterSkipsTheTypedLineRewrites)
-{
-    Play(".hunt\\r");
-    Play("bob:hi\\r");
-    EXPECT_EQ(kb.sink.sent, (Strings{".hunt", "bob:hi"}));
-    EXPECT_TRUE(kb.queue.commands.empty());
-}
-
-TEST_F(MacroPlayerTest, PauseServesMessagesForOneSecond)
-{
-    kb.host.onPump = [this] { kb.line.TypeCharacter('!'); };
-    Play("a\\pb\\P");
-    EXPECT_EQ(kb.host.calls, (Strings{"pump 1", "pump 1"}));
-    EXPECT_EQ(kb.line.text, "a!b!");
-}
-
-TEST_F(MacroPlayerTest, TheLineStopsAt255Characters)
-{
     kb.line.SetText(std::string(250, 'b').c_str());
     kb.line.SetSelection(250, 250);
     Play("123456789");
@@ -116,37 +44,72 @@ TEST_F(MacroPlayerTest, TheLineStopsAt255Characters)
     EXPECT_EQ(kb.line.refused, 4);
 }
 
-struct WordCase {
-    const char* text;
-    std::vector<int> posted;
-    Strings hostCalls;
-};
-
-void PrintTo(const WordCase& c, std::ostream* out)
+TEST_F(MacroPlayerTest, EveryEnterLetterSendsThroughTheFullRoad)
 {
-    *out << ::testing::PrintToString(std::string(c.text));
+    kb.Type("kill r");
+    Play("\\xn\\r");
+    EXPECT_EQ(kb.line.text, "");
+    Play("s\\Ne\\Rw\\n");
+    EXPECT_STREQ(kb.history.EntryAt(0), "n");
+    kb.state.DragTarget[0] = 0;
+    Play("say hi@ there\\r");
+    Play(".hunt\\r");
+    Play("bob:hi\\r");
+    EXPECT_EQ(kb.sink.sent, (Strings{"drag bob n", "drag bob s", "drag bob e", "drag bob w",
+                                     "say hi there", ".hunt", "bob:hi"}));
+    EXPECT_TRUE(kb.queue.commands.empty()) << "no rewrite of a typed line";
+    Play("tell bob@ hello");
+    EXPECT_EQ(kb.line.text, "tell bob hello");
+    EXPECT_EQ(kb.line.start, 8) << "Enter unset the earlier mark";
+    EXPECT_EQ(kb.line.end, 8);
 }
 
-class MacroWordTest : public MacroPlayerTest, public ::testing::WithParamInterface<WordCase> {};
-
-TEST_P(MacroWordTest, PostsOrCallsTheFrame)
+TEST_F(MacroPlayerTest, QuestionIsAskedOnceAndEmptyOrCancelStops)
 {
-    Play(GetParam().text);
-    EXPECT_EQ(kb.queue.commands, GetParam().posted);
-    EXPECT_EQ(kb.host.calls, GetParam().hostCalls);
+    kb.host.answers = {"rat  "};
+    Play("kill \\?\\rlook \\?");
+    EXPECT_EQ(kb.host.asked, Strings{"kill \\?\\rlook \\?"});
+    EXPECT_EQ(kb.sink.sent, Strings{"kill rat"});
+    EXPECT_EQ(kb.line.text, "look rat");
+    for (const char* answer : {"   ", "<cancel>"}) {
+        kb.line.SetText("typed");
+        kb.host.answers = {answer};
+        Play("x\\?\\r");
+        EXPECT_EQ(kb.line.text, "");
+        EXPECT_EQ(kb.sink.sent.size(), 1u);
+    }
+    kb.host.onPump = [this] { kb.line.TypeCharacter('!'); };
+    Play("a\\pb\\P");
+    EXPECT_EQ(kb.host.calls, (Strings{"pump 1", "pump 1"}));
+    EXPECT_EQ(kb.line.text, "a!b!");
+}
+
+TEST_F(MacroPlayerTest, WordsPostOrCallTheFrameWhenTheyAreTheWholeText)
+{
+    const struct {
+        const char* text;
+        std::vector<int> posted;
+        Strings hostCalls;
+    } rows[] = {{"{script}", {CMD_EXECUTE_SCRIPT}, {}},
+                {"{RECORD}", {CMD_RECORD_SCRIPT}, {}},
+                {"{Drag}", {CMD_DRAG_SOMEONE}, {}},
+                {"{notes}", {CMD_RUN_NOTEPAD}, {}},
+                {"{quit}", {}, {"close"}},
+                {"{copy}", {}, {"copychild"}},
+                {"{=patrol}", {MM_RUN_SCRIPT}, {}},
+                {"{quit} now", {}, {}}};
+    for (const auto& row : rows) {
+        kb.queue.commands.clear();
+        kb.host.calls.clear();
+        Play(row.text);
+        EXPECT_EQ(kb.queue.commands, row.posted) << row.text;
+        EXPECT_EQ(kb.host.calls, row.hostCalls) << row.text;
+    }
     EXPECT_TRUE(kb.sink.calls.empty());
+    EXPECT_EQ(kb.line.text, "{quit} now");
 }
 
-INSTANTIATE_TEST_SUITE_P(Cases, MacroWordTest,
-                         ::testing::Values(WordCase{"{script}", {CMD_EXECUTE_SCRIPT}, {}},
-                                           WordCase{"{RECORD}", {CMD_RECORD_SCRIPT}, {}},
-                                           WordCase{"{Drag}", {CMD_DRAG_SOMEONE}, {}},
-                                           WordCase{"{notes}", {CMD_RUN_NOTEPAD}, {}},
-                                           WordCase{"{quit}", {}, {"close"}},
-                                           WordCase{"{copy}", {}, {"copychild"}},
-                                           WordCase{"{=patrol}", {MM_RUN_SCRIPT}, {}}));
-
-TEST_F(MacroPlayerTest, ClipboardWordsWorkOnTheLine)
+TEST_F(MacroPlayerTest, ClipboardAndSaveWordsWorkOnTheLine)
 {
     kb.Type("kill rat");
     kb.line.SetSelection(5, 8);
@@ -161,43 +124,27 @@ TEST_F(MacroPlayerTest, ClipboardWordsWorkOnTheLine)
     kb.line.SetSelection(0, 5);
     Play("{clear}");
     EXPECT_EQ(kb.line.text, "ratrat");
-}
-
-TEST_F(MacroPlayerTest, AWordMustBeTheWholeText)
-{
-    Play("{quit} now");
-    EXPECT_EQ(kb.line.text, "{quit} now");
-    EXPECT_TRUE(kb.host.calls.empty());
-}
-
-TEST_F(MacroPlayerTest, SaveRemembersTheLineWithoutSending)
-{
-    kb.Type("cast fireball");
     Play("{save}");
     EXPECT_EQ(kb.line.text, "");
     EXPECT_TRUE(kb.sink.calls.empty());
-    EXPECT_STREQ(kb.history.EntryAt(0), "cast fireball");
+    EXPECT_STREQ(kb.history.EntryAt(0), "ratrat");
 }
 
-TEST_F(MacroPlayerTest, ScriptNamesOfMacros)
+TEST_F(MacroPlayerTest, ScriptWordsNameTheirScript)
 {
-    struct Case {
-        const char* macro;
-        const char* name;
-    } cases[] = {{"{=patrol}", "patrol.Stw"}, {"{=walk.txt}", "walk.txt"}, {"{=open", "open.Stw"}};
+    const struct {
+        const char *macro, *name;
+    } rows[] = {{"{=patrol}", "patrol.Stw"}, {"{=walk.txt}", "walk.txt"}, {"{=open", "open.Stw"}};
     std::strcpy(kb.state.ScriptParameters, "kept");
-    for (const Case& c : cases) {
-        Play(c.macro);
-        EXPECT_STREQ(kb.state.ScriptName, c.name) << c.macro;
+    for (const auto& row : rows) {
+        Play(row.macro);
+        EXPECT_STREQ(kb.state.ScriptName, row.name) << row.macro;
     }
     EXPECT_STREQ(kb.state.ScriptParameters, "kept");
-}
-
-TEST_F(MacroPlayerTest, DotScriptGoesThroughTheTypedEnter)
-{
+    kb.queue.commands.clear();
     kb.Type("half");
     Play("{=.hunt rat}");
-    EXPECT_EQ(kb.queue.commands, std::vector<int>{MM_ENTER_KEY});
+    EXPECT_EQ(kb.queue.commands, std::vector<int>{MM_ENTER_KEY}) << "through the typed Enter";
     EXPECT_EQ(kb.line.text, ".hunt rat");
     EXPECT_EQ(kb.line.start, 0);
     kb.ServeQueue();
@@ -206,10 +153,6 @@ TEST_F(MacroPlayerTest, DotScriptGoesThroughTheTypedEnter)
     EXPECT_STREQ(kb.state.ScriptParameters, "rat");
     EXPECT_STREQ(kb.history.EntryAt(0), ".hunt rat");
     EXPECT_TRUE(kb.sink.sent.empty());
-}
-
-TEST_F(MacroPlayerTest, ExpandMacroLooksTheKeyUp)
-{
     kb.macros.SetMacro(KEY_ALT, 'G', "get all");
     kb.player.ExpandMacro(KEY_ALT | KEY_SHIFT, 'G');
     kb.player.ExpandMacro(KEY_CTRL, 'G');
