@@ -1,5 +1,7 @@
 #include "config/IniStore.h"
 #include "config/ConfigFiles.h"
+#include "config/IniFile.h"
+#include "config/StewardOptions.h"
 
 #include "support/TempFolder.h"
 
@@ -24,47 +26,35 @@ class IniStoreTest : public ::testing::Test {
     std::string path = folder.File("Test.Ini");
 };
 
-struct BinaryCase {
-    const char* stored;
-    bool found;
-    std::array<std::uint8_t, 3> bytes;
-};
-
 TEST_F(IniStoreTest, BinaryValuesNeedExactlyTwoDigitsPerByte)
 {
-    const BinaryCase cases[] = {
-        {"0A1B2C", true, {0x0A, 0x1B, 0x2C}},    {"0a1b2c", true, {0x0A, 0x1B, 0x2C}},
-        {"0A1B2", false, {0xEE, 0xEE, 0xEE}},    {"0A1B2C3", false, {0xEE, 0xEE, 0xEE}},
-        {"0A1B2C3D", false, {0xEE, 0xEE, 0xEE}}, {"", false, {0xEE, 0xEE, 0xEE}},
-        {"0A1G2C", true, {0x0A, 0x10, 0x2C}},    {"zz  ff", true, {0x00, 0x00, 0xFF}},
-    };
-    for (const BinaryCase& c : cases) {
+    const struct {
+        const char* stored;
+        bool found;
+        std::array<std::uint8_t, 3> bytes;
+    } cases[] = {{"0A1B2C", true, {0x0A, 0x1B, 0x2C}},    {"0a1b2c", true, {0x0A, 0x1B, 0x2C}},
+                 {"0A1B2", false, {0xEE, 0xEE, 0xEE}},    {"0A1B2C3", false, {0xEE, 0xEE, 0xEE}},
+                 {"0A1B2C3D", false, {0xEE, 0xEE, 0xEE}}, {"", false, {0xEE, 0xEE, 0xEE}},
+                 {"0A1G2C", true, {0x0A, 0x10, 0x2C}},    {"zz  ff", true, {0x00, 0x00, 0xFF}}};
+    for (const auto& c : cases) {
         Store(c.stored);
         std::array<std::uint8_t, 3> out = {0xEE, 0xEE, 0xEE};
         EXPECT_EQ(ReadBinary(path, "S", "k", out.data(), out.size()), c.found) << c.stored;
         EXPECT_EQ(out, c.bytes) << c.stored;
     }
-}
-
-TEST_F(IniStoreTest, BinaryIsWrittenAsUpperCaseHexInByteOrder)
-{
     const std::uint8_t bytes[] = {0x00, 0xAB, 0x7F, 0xFF};
     ASSERT_TRUE(WriteBinary(path, "S", "k", bytes, sizeof bytes));
-    EXPECT_EQ(ReadBytes(path), "[S]\nk=00AB7FFF\n");
+    EXPECT_EQ(ReadBytes(path), "[S]\nk=00AB7FFF\n") << "upper case hex in byte order";
 }
-
-struct IntCase {
-    const char* stored;
-    std::int32_t expected;
-};
 
 TEST_F(IniStoreTest, IntegersAreFourLittleEndianBytes)
 {
-    const IntCase cases[] = {
-        {"68000000", 104}, {"00000068", 0x68000000}, {"FFFFFFFF", -1},
-        {"6800000", -5},   {"680000000", -5},        {"104", -5},
-    };
-    for (const IntCase& c : cases) {
+    const struct {
+        const char* stored;
+        std::int32_t expected;
+    } cases[] = {{"68000000", 104}, {"00000068", 0x68000000}, {"FFFFFFFF", -1},
+                 {"6800000", -5},   {"680000000", -5},        {"104", -5}};
+    for (const auto& c : cases) {
         Store(c.stored);
         EXPECT_EQ(ReadInt(path, "S", "k", -5), c.expected) << c.stored;
     }
@@ -85,24 +75,15 @@ TEST_F(IniStoreTest, StringsAreCutToTheirBufferAndMissingOnesTakeTheDefault)
     EXPECT_STREQ(out, "defau");
     ReadString(path, "S", "gone", out, sizeof out, nullptr);
     EXPECT_STREQ(out, "");
-}
-
-TEST_F(IniStoreTest, EmptyStringsRemoveTheKey)
-{
-    const char* removing[] = {nullptr, "", "\"\""};
-    for (const char* value : removing) {
-        ASSERT_TRUE(WriteString(path, "S", "k", "kept"));
-        ASSERT_TRUE(WriteString(path, "S", "k", value));
-        char out[16];
-        ReadString(path, "S", "k", out, sizeof out, "default");
-        EXPECT_STREQ(out, "default") << (value ? value : "null");
-    }
-}
-
-TEST_F(IniStoreTest, RemovingFromAMissingFileCreatesNothing)
-{
+    std::filesystem::remove(path);
     EXPECT_TRUE(WriteString(path, "S", "k", ""));
-    EXPECT_FALSE(std::filesystem::exists(path));
+    EXPECT_FALSE(std::filesystem::exists(path)) << "removing from a missing file creates nothing";
+    for (const char* removing : {static_cast<const char*>(nullptr), "", "\"\""}) {
+        ASSERT_TRUE(WriteString(path, "S", "k", "kept"));
+        ASSERT_TRUE(WriteString(path, "S", "k", removing));
+        ReadString(path, "S", "k", out, sizeof out, "gone");
+        EXPECT_STREQ(out, "gone") << "an empty string removes the key";
+    }
 }
 
 // Records what a window is told, in order.
@@ -134,7 +115,7 @@ class RecordingWindow : public FontTarget, public PlacementTarget {
     bool canTell = true;
 };
 
-TEST_F(IniStoreTest, FontsGoBackToTheWindowTheyCameFrom)
+TEST_F(IniStoreTest, FontsAndPlacementsGoBackToTheWindowTheyCameFrom)
 {
     RecordingWindow window;
     EXPECT_FALSE(ReadFont(path, "Game Window", "Font", window));
@@ -143,26 +124,19 @@ TEST_F(IniStoreTest, FontsGoBackToTheWindowTheyCameFrom)
     std::strcpy(font.lfFaceName, "DejaVu Sans Mono");
     ASSERT_TRUE(WriteFont(path, "Game Window", "Font", &font));
     EXPECT_TRUE(ReadFont(path, "Game Window", "Font", window));
-    EXPECT_EQ(window.calls,
-              (std::vector<std::string>{"SetFont default", "SetFont DejaVu Sans Mono"}));
-}
-
-TEST_F(IniStoreTest, APlacementIsAppliedWithItsLengthSetOrTheWindowIsShownNormally)
-{
-    RecordingWindow window;
     EXPECT_FALSE(ReadPlacement(path, "Windows", "MainWindow", window));
     window.placement.length = 0;
     window.placement.rcNormalPosition.right = 640;
     ASSERT_TRUE(WritePlacement(path, "Windows", "MainWindow", window));
     EXPECT_TRUE(ReadPlacement(path, "Windows", "MainWindow", window));
-    EXPECT_EQ(window.calls,
-              (std::vector<std::string>{"ShowWindow 1", "UpdateWindow", "SetWindowPlacement 44 640",
-                                        "UpdateWindow"}));
+    EXPECT_EQ(window.calls, (std::vector<std::string>{
+                                "SetFont default", "SetFont DejaVu Sans Mono", "ShowWindow 1",
+                                "UpdateWindow", "SetWindowPlacement 44 640", "UpdateWindow"}));
     window.canTell = false;
     EXPECT_FALSE(WritePlacement(path, "Windows", "Other", window));
 }
 
-TEST(ConfigFolders, ScriptAndSoundPathsFallBackToTheProgramFolder)
+TEST(ConfigFolders, PathsFallBackToTheProgramFolder)
 {
     TempFolder folder;
     const ConfigFiles files = MakeConfigFiles(folder.Path());
@@ -174,20 +148,39 @@ TEST(ConfigFolders, ScriptAndSoundPathsFallBackToTheProgramFolder)
     EXPECT_EQ(SoundPath(files), "/home/p/sounds");
     ASSERT_TRUE(WriteString(files.MainIni, "Config", "Script Path", ""));
     EXPECT_EQ(ScriptPath(files), folder.Path());
+    TempFolder exe;
+    EXPECT_EQ(FindProgramFolder(exe.Path(), folder.Path(), "/nonexistent"),
+              folder.Path() + "/ThornmereSteward");
+    EXPECT_TRUE(std::filesystem::is_directory(folder.Path() + "/ThornmereSteward"));
+    EXPECT_EQ(FindProgramFolder(exe.Path(), "", folder.Path()),
+              folder.Path() + "/.local/share/ThornmereSteward");
+    WriteBytes(exe.File("Thornmere.Ini"), "");
+    EXPECT_EQ(FindProgramFolder(exe.Path(), folder.Path(), "/nonexistent"), exe.Path())
+        << "a portable copy keeps its files beside the program";
+    EXPECT_EQ(FolderOf(exe.Path() + "/thornmere-steward"), exe.Path());
 }
 
-TEST(ConfigFolders, APortableCopyKeepsItsFilesBesideTheProgram)
+TEST(StewardOptionsTest, DamagedValuesReadAsDefaultsAndOtherSectionsStay)
 {
-    TempFolder exe;
-    TempFolder data;
-    EXPECT_EQ(FindProgramFolder(exe.Path(), data.Path(), "/nonexistent"),
-              data.Path() + "/ThornmereSteward");
-    EXPECT_TRUE(std::filesystem::is_directory(data.Path() + "/ThornmereSteward"));
-    EXPECT_EQ(FindProgramFolder(exe.Path(), "", data.Path()),
-              data.Path() + "/.local/share/ThornmereSteward");
-    WriteBytes(exe.File("Thornmere.Ini"), "");
-    EXPECT_EQ(FindProgramFolder(exe.Path(), data.Path(), "/nonexistent"), exe.Path());
-    EXPECT_EQ(FolderOf(exe.Path() + "/thornmere-steward"), exe.Path());
+    struct Row {
+        const char* stored;
+        std::int32_t read;
+    };
+    const Row rows[] = {{"1", 1}, {"0", 0}, {"2", 0}, {"-1", 0}, {"1x", 0}, {"", 0}, {"yes", 0}};
+    TempFolder folder;
+    const std::string ini = folder.File("Thornmere.Ini");
+    for (const Row& row : rows) {
+        SCOPED_TRACE(row.stored);
+        IniFile file = IniFile::Parse("[Config]\nScript Path=/s\n");
+        file.Set(STEWARD_SECTION, "Reconnect", row.stored);
+        ASSERT_TRUE(file.Save(ini));
+        StewardOptions options = StewardOptions::Load(ini);
+        EXPECT_EQ(options.Get(RECONNECT_ON_DROP), row.read);
+        options.Set(SPEAK, 7);
+        ASSERT_TRUE(options.Save(ini));
+        EXPECT_EQ(IniFile::Load(ini).Get("Config", "Script Path"), "/s");
+        EXPECT_EQ(StewardOptions::Load(ini).Get(SPEAK), 1);
+    }
 }
 
 } // namespace

@@ -8,7 +8,7 @@
 namespace steward {
 namespace {
 
-TEST(SettingsBytes, DefaultsLandAtTheirOffsets)
+TEST(SettingsBytes, DefaultsLandAtTheirOffsetsAndFieldsAreLittleEndian)
 {
     const SettingsBytes b = Settings{}.ToBytes();
     SettingsBytes expected{};
@@ -27,19 +27,11 @@ TEST(SettingsBytes, DefaultsLandAtTheirOffsets)
     expected[29] = 40; // CompressedThoughtColor
     expected[36] = 4;  // MinCommandLength
     EXPECT_EQ(b, expected);
-}
-
-TEST(SettingsBytes, EveryByteSurvivesARoundTrip)
-{
     SettingsBytes in{};
     for (std::size_t i = 0; i < in.size(); ++i)
         in[i] = static_cast<std::uint8_t>(i * 7 + 3);
-    EXPECT_EQ(Settings::FromBytes(in).ToBytes(), in);
-}
-
-TEST(SettingsBytes, MultiByteFieldsAreLittleEndianAndSigned)
-{
-    SettingsBytes in = Settings{}.ToBytes();
+    EXPECT_EQ(Settings::FromBytes(in).ToBytes(), in) << "every byte survives a round trip";
+    in = Settings{}.ToBytes();
     in[0] = 0x11;
     in[1] = 0x22;
     in[2] = 0x33;
@@ -53,22 +45,20 @@ TEST(SettingsBytes, MultiByteFieldsAreLittleEndianAndSigned)
     EXPECT_EQ(s.MinCommandLength, -3);
 }
 
-struct CheckCase {
-    std::uint8_t displayMode;
-    std::int16_t minCommandLength;
-    std::int32_t receiveChunkSize;
-    std::uint8_t wantDisplayMode;
-    std::int16_t wantMinCommandLength;
-    std::int32_t wantReceiveChunkSize;
-};
-
 TEST(CheckSettings, BringsLoadedValuesIntoRange)
 {
-    const CheckCase cases[] = {
+    const struct {
+        std::uint8_t displayMode;
+        std::int16_t minCommandLength;
+        std::int32_t receiveChunkSize;
+        std::uint8_t wantDisplayMode;
+        std::int16_t wantMinCommandLength;
+        std::int32_t wantReceiveChunkSize;
+    } cases[] = {
         {0, 4, 1024, 0, 4, 1024},    {2, 0, 256, 2, 0, 256},           {3, -3, 100, 0, 0, 256},
         {255, -1, 5000, 0, 0, 2048}, {1, 30000, 2048, 1, 30000, 2048}, {1, 1, -7, 1, 1, 256},
     };
-    for (const CheckCase& c : cases) {
+    for (const auto& c : cases) {
         Settings s;
         s.DisplayMode = c.displayMode;
         s.MinCommandLength = c.minCommandLength;
@@ -80,7 +70,7 @@ TEST(CheckSettings, BringsLoadedValuesIntoRange)
     }
 }
 
-TEST(BinaryRecords, LogFontKeepsItsLayout)
+TEST(BinaryRecords, FontPlacementAndGaugeRecordsKeepTheirLayout)
 {
     LogFontRecord f;
     f.lfHeight = -13;
@@ -97,37 +87,29 @@ TEST(BinaryRecords, LogFontKeepsItsLayout)
     EXPECT_EQ(b[27], 0x31);
     EXPECT_EQ(b[28], 'C');
     EXPECT_EQ(LogFontRecord::FromBytes(b).ToBytes(), b);
-}
-
-TEST(BinaryRecords, WindowPlacementKeepsItsLayout)
-{
     WindowPlacementRecord p;
     p.showCmd = 3;
     p.rcNormalPosition = {10, 20, 630, 470};
-    const WindowPlacementBytes b = p.ToBytes();
-    EXPECT_EQ(b[0], 44);
-    EXPECT_EQ(b[8], 3);
-    EXPECT_EQ(b[28], 10);
-    EXPECT_EQ(b[40], 0xD6);
-    EXPECT_EQ(b[41], 0x01);
-    const WindowPlacementRecord back = WindowPlacementRecord::FromBytes(b);
+    const WindowPlacementBytes w = p.ToBytes();
+    EXPECT_EQ(w[0], 44);
+    EXPECT_EQ(w[8], 3);
+    EXPECT_EQ(w[28], 10);
+    EXPECT_EQ(w[40], 0xD6);
+    EXPECT_EQ(w[41], 0x01);
+    const WindowPlacementRecord back = WindowPlacementRecord::FromBytes(w);
     EXPECT_EQ(back.rcNormalPosition.right, 630);
-    EXPECT_EQ(back.ToBytes(), b);
-}
-
-TEST(BinaryRecords, GaugeColorsUseTwelveOfTwentyBytes)
-{
-    const GaugeColorBytes b = GaugeColorsToBytes({0x0000FF, 0x00FF00, 0xFF0000});
-    EXPECT_EQ(b[0], 0xFF);
-    EXPECT_EQ(b[5], 0xFF);
-    EXPECT_EQ(b[10], 0xFF);
-    GaugeColorBytes noisy = b;
+    EXPECT_EQ(back.ToBytes(), w);
+    const GaugeColorBytes g = GaugeColorsToBytes({0x0000FF, 0x00FF00, 0xFF0000});
+    EXPECT_EQ(g[0], 0xFF);
+    EXPECT_EQ(g[5], 0xFF);
+    EXPECT_EQ(g[10], 0xFF);
+    GaugeColorBytes noisy = g; // only 12 of the 20 bytes are read
     for (std::size_t i = GAUGE_COLOR_USED_SIZE; i < noisy.size(); ++i)
         noisy[i] = 0xAB;
-    const GaugeColors back = GaugeColorsFromBytes(noisy);
-    EXPECT_EQ(back.GaugeTextColor, 0x0000FFu);
-    EXPECT_EQ(back.BarColor, 0x00FF00u);
-    EXPECT_EQ(back.GaugeBackColor, 0xFF0000u);
+    const GaugeColors colors = GaugeColorsFromBytes(noisy);
+    EXPECT_EQ(colors.GaugeTextColor, 0x0000FFu);
+    EXPECT_EQ(colors.BarColor, 0x00FF00u);
+    EXPECT_EQ(colors.GaugeBackColor, 0xFF0000u);
 }
 
 } // namespace
