@@ -6,7 +6,6 @@
 #include <gtest/gtest.h>
 
 #include <cstring>
-#include <utility>
 
 namespace steward::testing {
 namespace {
@@ -53,7 +52,7 @@ void Check(const std::vector<Case>& cases)
         EXPECT_EQ(Apply(c.entries, c.line).line, c.expected) << c.name;
 }
 
-TEST(HighlightWordBoundary, WholeWordsNeedABoundaryOnBothSides)
+TEST(HighlightMatch, WordsCaseRepeatsEntireLinesAndNesting)
 {
     Check({
         {"inside a longer word", {{"Mara"}}, "Maravel waves.", "Maravel waves."},
@@ -74,41 +73,22 @@ TEST(HighlightWordBoundary, WholeWordsNeedABoundaryOnBothSides)
          {{"red dragon"}},
          "A red dragonfly, a red dragon.",
          "A red dragonfly, a " + Lit(14, "red dragon") + "."},
-    });
-}
-
-TEST(HighlightWordBoundary, ColorCodesCountAsBoundaries)
-{
-    const std::string serverColored = Lit(3, "Mara") + "vel";
-    Check({
         {"server colour around the word",
          {{"Mara"}},
          Lit(3, "Mara") + " waves",
          On(3) + Lit(14, "Mara") + Off(3) + " waves"},
         {"server colour after a word part",
          {{"Mara"}},
-         serverColored,
+         Lit(3, "Mara") + "vel",
          On(3) + Lit(14, "Mara") + Off(3) + "vel"},
         {"colour inside a phrase hides it",
          {{"red dragon"}},
          "red" + Lit(2, " dragon"),
          "red" + Lit(2, " dragon")},
-    });
-}
-
-TEST(HighlightCase, CaseSensitiveEntriesCompareExactly)
-{
-    Check({
         {"folded", {{"Mara"}}, "MARA!", Lit(14, "MARA") + "!"},
         {"exact misses", {{"@Mara"}}, "MARA!", "MARA!"},
         {"exact hits", {{"@Mara"}}, "Mara!", Lit(14, "Mara") + "!"},
         {"only letters fold", {{"*[x]"}}, "{X}", "{X}"},
-    });
-}
-
-TEST(HighlightRepeats, EveryOccurrenceIsColoured)
-{
-    Check({
         {"three times",
          {{"orc"}},
          "orc, orc and orc",
@@ -119,12 +99,6 @@ TEST(HighlightRepeats, EveryOccurrenceIsColoured)
          "an orc",
          "an \x91\x8E"
          "orc\xA1\xA0"},
-    });
-}
-
-TEST(HighlightEntireLine, TheWholeLineIsColouredOnce)
-{
-    Check({
         {"once for many hits", {{"$orc"}}, "orc orc\r\n", Lit(14, "orc orc\r\n")},
         {"after partial entries",
          {{"orc", 2}, {"$orc", 5}},
@@ -135,12 +109,6 @@ TEST(HighlightEntireLine, TheWholeLineIsColouredOnce)
          "an orc",
          On(5) + "an " + Lit(2, "orc") + Off(5)},
         {"boundaries still apply", {{"$orc"}}, "an orchard", "an orchard"},
-    });
-}
-
-TEST(HighlightNesting, LaterEntriesNestInsideEarlierOnes)
-{
-    Check({
         {"same text twice", {{"orc", 1}, {"orc", 2}}, "orc", On(1) + Lit(2, "orc") + Off(1)},
         {"later text inside the earlier",
          {{"red dragon", 1}, {"dragon", 2}},
@@ -193,7 +161,7 @@ TEST(HighlightSound, SoundsPlayPerHitUnlessSquelchedOrQuoted)
         << "a silent hit is still coloured";
 }
 
-TEST(HighlightBounds, HitsStopWhenTheBufferIsFull)
+TEST(HighlightBounds, HitsStopWhenTheBufferIsFullAndALineWithoutItsNulIsLeftAlone)
 {
     // "ab ab ab": each hit needs two more bytes; 8 bytes of text, NUL, room for two hits.
     const Outcome two = Apply({{"{s}ab"}}, "ab ab ab", false, 13);
@@ -205,10 +173,6 @@ TEST(HighlightBounds, HitsStopWhenTheBufferIsFull)
     EXPECT_EQ(Apply({{"ab", 0x1E}}, "ab ab", false, 10).line, "\x91\x8E"
                                                               "ab\xA1\xA0 ab");
     EXPECT_EQ(Apply({{"$ab"}}, "ab", false, 4).line, "ab");
-}
-
-TEST(HighlightBounds, ALineWithoutItsNulIsLeftAlone)
-{
     HighlightList list;
     Fill(list, {{"*a"}});
     char line[4] = {'a', 'a', 'a', 'a'};

@@ -99,57 +99,42 @@ class HighlightSheetTest : public ::testing::Test {
     HighlightStore lists;
     SheetDialogs dialogs;
     SoundFolder sounds{dialogs.player};
-
-  private:
     std::unique_ptr<HighlightSheet> sheet_;
 };
 
-enum class Ending { Ok, Apply, Cancel, ApplyThenCancel };
-
-struct EndingCase {
-    const char* name;
-    Tab tab;
-    Ending ending;
-    bool stored;
-};
-
-class SheetEnding : public HighlightSheetTest, public ::testing::WithParamInterface<EndingCase> {
-  protected:
-    // The colour of the first row of the page's store.
-    unsigned char StoredColor(Tab tab) const
-    {
-        if (tab == DEFAULTS)
-            return settings.SaysColor;
-        return (tab == STRINGS ? lists.StringHighlights : lists.NameHighlights).Color(0);
-    }
-};
-
-TEST_P(SheetEnding, AnEditReachesTheStoreOnlyOnOkOrApply)
+TEST_F(HighlightSheetTest, AnEditReachesTheStoreOnlyOnOkOrApply)
 {
-    const EndingCase& c = GetParam();
-    HighlightPage& page = Open(c.tab);
-    const unsigned char before = StoredColor(c.tab);
-    ClickCell(page, 1, Qt::RightButton);
-    EXPECT_EQ(StoredColor(c.tab), before);
-    EXPECT_TRUE(Sheet().ApplyButton()->isEnabled());
-    if (c.ending == Ending::Apply || c.ending == Ending::ApplyThenCancel)
-        QTest::mouseClick(Sheet().ApplyButton(), Qt::LeftButton);
-    if (c.ending == Ending::Ok)
-        Sheet().accept();
-    if (c.ending == Ending::Cancel || c.ending == Ending::ApplyThenCancel)
-        Sheet().reject();
-    EXPECT_EQ(StoredColor(c.tab), c.stored ? (before & 0x0F) | 0x10 : before);
+    enum class Ending { Ok, Apply, Cancel, ApplyThenCancel };
+    const struct {
+        Tab tab;
+        Ending ending;
+        bool stored;
+    } rows[] = {{DEFAULTS, Ending::Ok, true},   {DEFAULTS, Ending::Cancel, false},
+                {STRINGS, Ending::Apply, true}, {STRINGS, Ending::Cancel, false},
+                {NAMES, Ending::Ok, true},      {NAMES, Ending::ApplyThenCancel, true}};
+    for (const auto& row : rows) {
+        SCOPED_TRACE(static_cast<int>(row.ending) * 10 + row.tab);
+        // The colour of the first row of the page's store.
+        const auto stored = [&] {
+            if (row.tab == DEFAULTS)
+                return settings.SaysColor;
+            return (row.tab == STRINGS ? lists.StringHighlights : lists.NameHighlights).Color(0);
+        };
+        sheet_.reset();
+        HighlightPage& page = Open(row.tab);
+        const unsigned char before = stored();
+        ClickCell(page, 1, Qt::RightButton);
+        EXPECT_EQ(stored(), before);
+        EXPECT_TRUE(Sheet().ApplyButton()->isEnabled());
+        if (row.ending == Ending::Apply || row.ending == Ending::ApplyThenCancel)
+            QTest::mouseClick(Sheet().ApplyButton(), Qt::LeftButton);
+        if (row.ending == Ending::Ok)
+            Sheet().accept();
+        if (row.ending == Ending::Cancel || row.ending == Ending::ApplyThenCancel)
+            Sheet().reject();
+        EXPECT_EQ(stored(), row.stored ? (before & 0x0F) | 0x10 : before);
+    }
 }
-
-INSTANTIATE_TEST_SUITE_P(
-    Pages, SheetEnding,
-    ::testing::Values(EndingCase{"DefaultsOk", DEFAULTS, Ending::Ok, true},
-                      EndingCase{"DefaultsCancel", DEFAULTS, Ending::Cancel, false},
-                      EndingCase{"StringsApply", STRINGS, Ending::Apply, true},
-                      EndingCase{"StringsCancel", STRINGS, Ending::Cancel, false},
-                      EndingCase{"NamesOk", NAMES, Ending::Ok, true},
-                      EndingCase{"NamesApplyThenCancel", NAMES, Ending::ApplyThenCancel, true}),
-    [](const auto& info) { return info.param.name; });
 
 TEST_F(HighlightSheetTest, APageNeverOpenedIsNotWritten)
 {
