@@ -141,8 +141,7 @@ TEST(HistoryFile, FilesLoadWhatTheyCanAndRoundTrip)
          {std::string(COMMAND_LINE_LIMIT, 'x'), "look"}},
         {"repeats and blanks as typed",
          "look\r\nlook\r\n   \r\n  north\r\nlook\r\n",
-         {"look", "north", "look"}},
-    };
+         {"look", "north", "look"}}};
     for (const auto& row : rows) {
         SCOPED_TRACE(row.name);
         testing::WriteBytes(path, row.bytes);

@@ -102,29 +102,27 @@ TEST_F(MacroFileTest, ReadsOrSkipsEachLine)
         KeyModifiers modifiers;
         int key;
         const char* text; // what the key holds after the load; "" when the line is skipped
-    } rows[] = {
-        {"A K \"kick\\r\"\n", KEY_ALT, 'K', "kick\\r"},
-        {"C Q \"quaff\"\n", KEY_CTRL, 'Q', "quaff"},
-        {"A k \"kick\"\n", KEY_ALT, 'K', ""},
-        {"A S \"say \"hello\"\\r\"\n", KEY_ALT, 'S', "say \"hello\"\\r"},
-        {"0 N 11 \"x\"\n", 0, VK_F12, "x"},
-        {"0 N 12 \"x\"\n", 0, VK_F1, ""},
-        {"0 S 00 \"shifted\"\n", KEY_SHIFT, VK_F1, "shifted"},
-        {"0 X 00 \"x\"\n", 0, VK_F1, ""},
-        {"0 N 00 x\"y\"\n", 0, VK_F1, ""},
-        {"K N x \"look\"\n", 0, VK_NUMPAD0, "look"},
-        {"K C * \"exp\"\n", KEY_CTRL, VK_MULTIPLY, "exp"},
-        {"K S 9?\"ne\"\n", KEY_SHIFT, VK_NUMPAD9, "ne"},
-        {"A B \"open\n", KEY_ALT, 'B', ""},
-        {"A B \"\n", KEY_ALT, 'B', ""},
-        {"A B \"\"\n", KEY_ALT, 'B', ""},
-        {"A B \"back\"", KEY_ALT, 'B', "back"},
-        {"Z B \"x\"\n", KEY_ALT, 'B', ""},
-        {"garbage\n0 N 99 \"x\"\nA B \"next\"\n", KEY_ALT, 'B', "next"},
-        {"A L \"" + std::string(300, 'l') + "\"\nA B \"x\"\n", KEY_ALT, 'L', ""},
-        {"A L \"" + std::string(300, 'l') + "\"\nA B \"x\"\n", KEY_ALT, 'B', "x"},
-        {"N 1 \"x\"\nN 2 \"x\"\n", KEY_ALT, 'B', ""},
-    };
+    } rows[] = {{"A K \"kick\\r\"\n", KEY_ALT, 'K', "kick\\r"},
+                {"C Q \"quaff\"\n", KEY_CTRL, 'Q', "quaff"},
+                {"A k \"kick\"\n", KEY_ALT, 'K', ""},
+                {"A S \"say \"hello\"\\r\"\n", KEY_ALT, 'S', "say \"hello\"\\r"},
+                {"0 N 11 \"x\"\n", 0, VK_F12, "x"},
+                {"0 N 12 \"x\"\n", 0, VK_F1, ""},
+                {"0 S 00 \"shifted\"\n", KEY_SHIFT, VK_F1, "shifted"},
+                {"0 X 00 \"x\"\n", 0, VK_F1, ""},
+                {"0 N 00 x\"y\"\n", 0, VK_F1, ""},
+                {"K N x \"look\"\n", 0, VK_NUMPAD0, "look"},
+                {"K C * \"exp\"\n", KEY_CTRL, VK_MULTIPLY, "exp"},
+                {"K S 9?\"ne\"\n", KEY_SHIFT, VK_NUMPAD9, "ne"},
+                {"A B \"open\n", KEY_ALT, 'B', ""},
+                {"A B \"\n", KEY_ALT, 'B', ""},
+                {"A B \"\"\n", KEY_ALT, 'B', ""},
+                {"A B \"back\"", KEY_ALT, 'B', "back"},
+                {"Z B \"x\"\n", KEY_ALT, 'B', ""},
+                {"garbage\n0 N 99 \"x\"\nA B \"next\"\n", KEY_ALT, 'B', "next"},
+                {"A L \"" + std::string(300, 'l') + "\"\nA B \"x\"\n", KEY_ALT, 'L', ""},
+                {"A L \"" + std::string(300, 'l') + "\"\nA B \"x\"\n", KEY_ALT, 'B', "x"},
+                {"N 1 \"x\"\nN 2 \"x\"\n", KEY_ALT, 'B', ""}};
     for (const auto& row : rows) {
         store.SetMacro(KEY_ALT, 'B', "old");
         Load(row.line);

@@ -46,19 +46,6 @@ TEST(CopySpecial, EachClipboardLineBecomesAnEntryOfTheCommandsList)
     EXPECT_STREQ(lists.StringHighlights.Text(0), "Mara");
 }
 
-TEST(HighlightStoreTest, StringsRunFirstAndNamesNestInside)
-{
-    HighlightStore lists;
-    lists.StringHighlights.Add("Mara", 1);
-    lists.NameHighlights.Add("Mara", 2);
-    char line[64] = "Mara waves";
-    RecordedSounds sounds;
-    lists.ApplyHighlights(line, sizeof line, false, sounds);
-    EXPECT_EQ(std::string(line), On(1) + Lit(2, "Mara") + Off(1) + " waves");
-    EXPECT_TRUE(lists.IsNameListed("Mara"));
-    EXPECT_FALSE(lists.IsNameListed("Tam"));
-}
-
 TEST(HighlightStoreTest, LoadAndSaveUseTwoFilesAndTraceEach)
 {
     TempFolder folder;

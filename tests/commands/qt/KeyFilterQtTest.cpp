@@ -110,11 +110,9 @@ TEST_F(KeyFilterQtTest, AltKeysAreTheKeyboardsAndNeverOpenTheMenu)
         quint32 scanCode;
         const char* text;
         int set;
-    } rows[] = {
-        {Qt::Key_Exclam, Qt::AltModifier | Qt::ShiftModifier, 10, "!", 0},
-        {Qt::Key_ParenLeft, Qt::AltModifier, 14, "(", 4},
-        {Qt::Key_0, Qt::AltModifier | Qt::ShiftModifier, 19, "0", 9},
-    };
+    } rows[] = {{Qt::Key_Exclam, Qt::AltModifier | Qt::ShiftModifier, 10, "!", 0},
+                {Qt::Key_ParenLeft, Qt::AltModifier, 14, "(", 4},
+                {Qt::Key_0, Qt::AltModifier | Qt::ShiftModifier, 19, "0", 9}};
     for (const auto& row : rows) {
         macros.SelectMacroSet(5);
         for (QEvent::Type type : {QEvent::ShortcutOverride, QEvent::KeyPress, QEvent::KeyRelease}) {
@@ -209,8 +207,7 @@ TEST(KeyMap, QtKeysBecomeVirtualKeysAndModifiers)
         {Qt::Key_Return, none, false, VK_RETURN, 0, false},
         {Qt::Key_Backtab, Qt::ShiftModifier, false, VK_TAB, KEY_SHIFT, false},
         {Qt::Key_Alt, Qt::AltModifier, false, VK_MENU, KEY_ALT, false},
-        {Qt::Key_Backspace, none, false, 0, 0, false},
-    };
+        {Qt::Key_Backspace, none, false, 0, 0, false}};
     for (const MapCase& c : cases) {
         bool numLock = c.numLockBefore;
         TranslatedKey key = TranslateKey(c.key, c.modifiers, numLock);

@@ -99,7 +99,7 @@ TEST_F(OptionsSheetTest, OkSetsEachFlagCancelLeavesIt)
     }
 }
 
-TEST_F(OptionsSheetTest, PrefixTakesOneCharacterAndEmptyGivesADot)
+TEST_F(OptionsSheetTest, PrefixTakesOneCharacterAndMinCommandLengthUpToThreeDigits)
 {
     profile.Settings.CommandPrefix = 0;
     QLineEdit* prefix = Open<SettingsPage>(SETTINGS_TAB).Prefix();
@@ -113,10 +113,6 @@ TEST_F(OptionsSheetTest, PrefixTakesOneCharacterAndEmptyGivesADot)
     Open<SettingsPage>(SETTINGS_TAB).Prefix()->clear();
     Sheet().accept();
     EXPECT_EQ(profile.Settings.CommandPrefix, '.');
-}
-
-TEST_F(OptionsSheetTest, MinCommandLengthTakesUpToThreeDigits)
-{
     const struct {
         const char* typed;
         std::int16_t stored;
@@ -164,27 +160,22 @@ TEST_F(OptionsSheetTest, PathsGoToTheMainIniAtOnce)
     EXPECT_EQ(IniValue("Sound Path"), "(none)");
 }
 
-TEST_F(OptionsSheetTest, PagesNeverOpenedAndCancelChangeNothing)
+TEST_F(OptionsSheetTest, PagesNeverOpenedAndCancelChangeNothingAndOkWritesTheOptions)
 {
     ASSERT_TRUE(WriteString(files.MainIni, "Config", "Script Path", "/kept"));
     Open<PathsPage>(PATHS_TAB).Path(1)->setText(QStringLiteral("/dropped"));
+    Open<StewardPage>(STEWARD_TAB).Check(RECONNECT_ON_DROP)->setChecked(true);
     Sheet().reject();
+    EXPECT_FALSE(steward.IsOn(RECONNECT_ON_DROP));
     Reopen();
     Sheet().accept();
     EXPECT_EQ(IniValue("Script Path"), "/kept");
     EXPECT_EQ(Sheet().Page(INVENTORY_TAB), nullptr);
     EXPECT_STREQ(profile.EquipWeapon, "ready saber");
-}
-
-TEST_F(OptionsSheetTest, StewardOptionsGoToTheirOwnSectionOnOkOnly)
-{
-    Open<StewardPage>(STEWARD_TAB).Check(RECONNECT_ON_DROP)->setChecked(true);
-    Sheet().reject();
-    EXPECT_FALSE(steward.IsOn(RECONNECT_ON_DROP));
     Reopen();
     Open<StewardPage>(STEWARD_TAB).Check(RECONNECT_ON_DROP)->setChecked(true);
     Sheet().accept();
-    EXPECT_TRUE(steward.IsOn(RECONNECT_ON_DROP));
+    EXPECT_TRUE(steward.IsOn(RECONNECT_ON_DROP)) << "the program's own options go on Ok";
     EXPECT_TRUE(StewardOptions::Load(files.MainIni).IsOn(RECONNECT_ON_DROP));
     EXPECT_FALSE(StewardOptions::Load(files.MainIni).IsOn(SHOW_LIVE_TAIL));
 }
