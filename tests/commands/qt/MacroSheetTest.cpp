@@ -97,7 +97,7 @@ TEST_F(MacroSheetTest, EnterInAnEditIsOkAndEscapeIsCancel)
     }
 }
 
-TEST_F(MacroSheetTest, AKeyTypeChangeStoresTheRowsAtOnce)
+TEST_F(MacroSheetTest, AKeyTypeChangeStoresTheRowsAtOnceAndSetsCarryTheirNames)
 {
     auto& page = Open<FunctionKeyPage>(FKEY_TAB);
     page.Edit(0)->setText("kept");
@@ -109,26 +109,22 @@ TEST_F(MacroSheetTest, AKeyTypeChangeStoresTheRowsAtOnce)
     EXPECT_FALSE(page.Edit(ALT_HIDDEN_FUNCTION_KEY)->isHidden());
     page.ChooseKeyType(KEY_TYPE_STANDARD);
     EXPECT_EQ(page.Edit(0)->text(), "kept");
-    Sheet().reject();
-    EXPECT_EQ(Macro(0, VK_F1), "kept");
-    EXPECT_EQ(Macro(KEY_ALT, VK_F1), "alt text");
-}
-
-TEST_F(MacroSheetTest, TheSetStepsWrapAndCarryTheirNames)
-{
-    auto& page = Open<FunctionKeyPage>(FKEY_TAB);
     page.NameEdit()->setText("first set");
     page.StepSet(false);
-    EXPECT_EQ(store.CurrentMacroSet(), MACRO_SET_COUNT - 1);
+    EXPECT_EQ(store.CurrentMacroSet(), MACRO_SET_COUNT - 1) << "the set steps wrap";
     EXPECT_EQ(page.SetList()->currentText(), "Macro Set 10");
     EXPECT_EQ(page.NameEdit()->text(), "");
     page.StepSet(true);
     EXPECT_EQ(store.CurrentMacroSet(), 0);
     EXPECT_EQ(page.NameEdit()->text(), "first set");
+    Sheet().reject();
+    EXPECT_EQ(Macro(0, VK_F1), "kept");
+    EXPECT_EQ(Macro(KEY_ALT, VK_F1), "alt text");
 }
 
-TEST_F(MacroSheetTest, LongTextsAreCutAtTheEditsLimits)
+TEST_F(MacroSheetTest, LongTextsAreCutAtTheEditsLimitsAndAPageNeverOpenedIsNotWritten)
 {
+    store.SetMacro(KEY_CTRL, 'A', std::string(MACRO_EDIT_LIMIT, 'y').c_str());
     auto& page = Open<LetterPage>(ALT_TAB);
     QApplication::clipboard()->setText(QString(10000, 'x'));
     page.Edit(0)->paste();
@@ -138,12 +134,6 @@ TEST_F(MacroSheetTest, LongTextsAreCutAtTheEditsLimits)
     Sheet().accept();
     EXPECT_EQ(Macro(KEY_ALT, 'A'), std::string(MACRO_EDIT_KEPT, 'x'));
     EXPECT_EQ(std::string(store.MacroSetName(0)), std::string(MACRO_SET_NAME_KEPT, 'x'));
-}
-
-TEST_F(MacroSheetTest, APageNeverOpenedIsNotWritten)
-{
-    store.SetMacro(KEY_CTRL, 'A', std::string(MACRO_EDIT_LIMIT, 'y').c_str());
-    Sheet().accept();
     EXPECT_EQ(Sheet().Page(CTRL_TAB), nullptr);
     EXPECT_EQ(Macro(KEY_CTRL, 'A').size(), std::size_t{MACRO_EDIT_LIMIT});
 }

@@ -136,52 +136,39 @@ TEST_F(HighlightSheetTest, AnEditReachesTheStoreOnlyOnOkOrApply)
     }
 }
 
-TEST_F(HighlightSheetTest, APageNeverOpenedIsNotWritten)
+TEST_F(HighlightSheetTest, NewAndChangeAskAndAPageNeverOpenedIsNotWritten)
 {
+    lists.StringHighlights.SetText(0, "{Gong}$Mara");
     lists.NameHighlights.SetText(2, "after a gap");
-    Open(STRINGS);
-    Sheet().accept();
-    EXPECT_STREQ(lists.NameHighlights.Text(1), "") << "an applied names page closes the gap";
-    EXPECT_EQ(Sheet().Page(NAMES), nullptr);
-}
-
-TEST_F(HighlightSheetTest, NewCountsTheSlotsDownAndAFullListAsksNothing)
-{
     HighlightPage& page = Open(STRINGS);
     EXPECT_EQ(page.SlotsLeft()->text(), QStringLiteral("4095"));
-    dialogs.answers = {"say \"hi\" \xA3\x81", ""};
+    dialogs.answers = {"say \"hi\" \xA3\x81", "", "Orla"};
     Click(page, PageButton::New);
     EXPECT_EQ(page.SlotsLeft()->text(), QStringLiteral("4094"));
     Click(page, PageButton::New);
     EXPECT_EQ(page.SlotsLeft()->text(), QStringLiteral("4094")) << "an empty answer adds nothing";
-    EXPECT_EQ(dialogs.limits, (std::vector<std::size_t>{HIGHLIGHT_ASK_LIMIT, HIGHLIGHT_ASK_LIMIT}));
+    const QPoint item = page.List()->visualRect(page.List()->model()->index(0, 0)).center();
+    QTest::mouseClick(page.List()->viewport(), Qt::LeftButton, {}, item);
+    QTest::mouseDClick(page.List()->viewport(), Qt::LeftButton, {}, item);
+    EXPECT_EQ(dialogs.shown.back(), "Mara") << "change starts from the match text";
+    EXPECT_EQ(dialogs.limits, (std::vector<std::size_t>{HIGHLIGHT_ASK_LIMIT, HIGHLIGHT_ASK_LIMIT,
+                                                        HIGHLIGHT_TEXT_MAX - 7}));
+    QTest::mouseClick(page.Box(HighlightFlag::CaseSensitive), Qt::LeftButton);
     Sheet().accept();
+    EXPECT_STREQ(lists.StringHighlights.Text(0), "{Gong}$@Orla");
     EXPECT_STREQ(lists.StringHighlights.Text(1), "say \"hi\" ??");
+    EXPECT_STREQ(lists.NameHighlights.Text(1), "") << "an applied names page would close the gap";
+    EXPECT_EQ(Sheet().Page(NAMES), nullptr);
 
     HighlightList full;
     for (std::size_t i = 0; i < HIGHLIGHT_SLOTS; ++i)
         full.SetText(i, "x");
     lists.NameHighlights = full;
-    HighlightSheet again({settings, lists, sounds, dialogs, dialogs}, nullptr);
-    again.Tabs()->setCurrentIndex(NAMES);
-    EXPECT_EQ(again.Page(NAMES)->SlotsLeft()->text(), QStringLiteral("   0"));
-    Click(*again.Page(NAMES), PageButton::New);
-    EXPECT_EQ(dialogs.shown.size(), 2u);
-}
-
-TEST_F(HighlightSheetTest, ChangeStartsFromTheMatchTextAndKeepsTheMarkers)
-{
-    lists.StringHighlights.SetText(0, "{Gong}$Mara");
-    HighlightPage& page = Open(STRINGS);
-    dialogs.answers = {"Orla"};
-    const QPoint item = page.List()->visualRect(page.List()->model()->index(0, 0)).center();
-    QTest::mouseClick(page.List()->viewport(), Qt::LeftButton, {}, item);
-    QTest::mouseDClick(page.List()->viewport(), Qt::LeftButton, {}, item);
-    EXPECT_EQ(dialogs.shown, std::vector<std::string>{"Mara"});
-    EXPECT_EQ(dialogs.limits.back(), HIGHLIGHT_TEXT_MAX - 7);
-    QTest::mouseClick(page.Box(HighlightFlag::CaseSensitive), Qt::LeftButton);
-    Sheet().accept();
-    EXPECT_STREQ(lists.StringHighlights.Text(0), "{Gong}$@Orla");
+    sheet_.reset();
+    Open(NAMES);
+    EXPECT_EQ(Sheet().Page(NAMES)->SlotsLeft()->text(), QStringLiteral("   0"));
+    Click(*Sheet().Page(NAMES), PageButton::New);
+    EXPECT_EQ(dialogs.shown.size(), 3u) << "a full list asks nothing";
 }
 
 TEST_F(HighlightSheetTest, TheSoundChooserTakesWaveFilesAndSaysWhatItCannotTake)
@@ -236,38 +223,31 @@ TEST_F(HighlightSheetTest, TheListDrawsTheMatchTextInItsColoursBesideTheIcons)
 
 TEST_F(HighlightSheetTest, TabWalksThePageEnterIsOkAndEscapeIsCancel)
 {
-    HighlightPage& page = Open(STRINGS);
-    Sheet().show();
-    QApplication::setActiveWindow(&Sheet());
-    ASSERT_TRUE(QTest::qWaitForWindowActive(&Sheet()));
-    page.List()->setFocus();
-    const QWidget* expected[] = {page.Button(PageButton::New),
-                                 page.Button(PageButton::Change),
-                                 page.Button(PageButton::Delete),
-                                 page.Button(PageButton::Sort),
-                                 page.SoundList(),
-                                 page.Button(PageButton::Browse),
-                                 page.Box(HighlightFlag::EntireLine)};
-    for (const QWidget* next : expected) {
-        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
-        EXPECT_EQ(QApplication::focusWidget(), next) << next->metaObject()->className();
+    for (Qt::Key key : {Qt::Key_Escape, Qt::Key_Return}) {
+        sheet_.reset();
+        HighlightPage& page = Open(STRINGS);
+        Sheet().show();
+        QApplication::setActiveWindow(&Sheet());
+        ASSERT_TRUE(QTest::qWaitForWindowActive(&Sheet()));
+        page.List()->setFocus();
+        const QWidget* expected[] = {page.Button(PageButton::New),
+                                     page.Button(PageButton::Change),
+                                     page.Button(PageButton::Delete),
+                                     page.Button(PageButton::Sort),
+                                     page.SoundList(),
+                                     page.Button(PageButton::Browse),
+                                     page.Box(HighlightFlag::EntireLine)};
+        for (const QWidget* next : expected) {
+            QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+            EXPECT_EQ(QApplication::focusWidget(), next) << next->metaObject()->className();
+        }
+        ClickCell(page, 12, Qt::LeftButton);
+        page.List()->setFocus();
+        QTest::keyClick(page.List(), key);
+        const bool ok = key == Qt::Key_Return;
+        EXPECT_EQ(Sheet().result(), ok ? QDialog::Accepted : QDialog::Rejected);
+        EXPECT_EQ(lists.StringHighlights.Color(0), ok ? 12 : 14);
     }
-    ClickCell(page, 12, Qt::LeftButton);
-    page.List()->setFocus();
-    QTest::keyClick(page.List(), Qt::Key_Escape);
-    EXPECT_EQ(Sheet().result(), QDialog::Rejected);
-    EXPECT_EQ(lists.StringHighlights.Color(0), 14);
-
-    HighlightSheet again({settings, lists, sounds, dialogs, dialogs}, nullptr);
-    again.Tabs()->setCurrentIndex(STRINGS);
-    again.show();
-    QApplication::setActiveWindow(&again);
-    ASSERT_TRUE(QTest::qWaitForWindowActive(&again));
-    ClickCell(*again.Page(STRINGS), 12, Qt::LeftButton);
-    again.Page(STRINGS)->List()->setFocus();
-    QTest::keyClick(again.Page(STRINGS)->List(), Qt::Key_Return);
-    EXPECT_EQ(again.result(), QDialog::Accepted);
-    EXPECT_EQ(lists.StringHighlights.Color(0), 12);
 }
 
 } // namespace
