@@ -1,14 +1,16 @@
 #include "config/IniStore.h"
+#include "config/BinaryRecords.h"
 #include "config/ConfigFiles.h"
 #include "config/IniFile.h"
+#include "config/Settings.h"
 #include "config/StewardOptions.h"
-
 #include "support/TempFolder.h"
 
 #include <gtest/gtest.h>
 
 #include <array>
 #include <cstring>
+#include <random>
 #include <vector>
 
 namespace steward {
@@ -181,6 +183,216 @@ TEST(StewardOptionsTest, DamagedValuesReadAsDefaultsAndOtherSectionsStay)
         EXPECT_EQ(IniFile::Load(ini).Get("Config", "Script Path"), "/s");
         EXPECT_EQ(StewardOptions::Load(ini).Get(SPEAK), 1);
     }
+}
+
+TEST(IniFileRead, NamesAreComparedWithoutRegardToCase)
+{
+    const IniFile ini = IniFile::Parse("[Config]\nEquipWeapon=ready axe\n");
+    const char* sections[] = {"Config", "config", "CONFIG", " Config "};
+    const char* keys[] = {"EquipWeapon", "equipweapon", "EQUIPWEAPON"};
+    for (const char* section : sections)
+        for (const char* key : keys)
+            EXPECT_EQ(ini.Get(section, key), "ready axe") << section << "/" << key;
+}
+
+TEST(IniFileRead, ValuesAsThePrivateProfileFunctionsGiveThem)
+{
+    const struct {
+        const char* text;
+        std::optional<std::string> expected;
+    } cases[] = {{"[S]\nk=v\n", "v"},
+                 {"[S]\r\nk=v\r\n", "v"},
+                 {"  [ S ]  \n  k  =  v w  \n", "v w"},
+                 {"[S]\nk=\"quoted value\"\n", "quoted value"},
+                 {"[S]\nk='single'\n", "single"},
+                 {"[S]\nk=\"half\n", "\"half"},
+                 {"[S]\nk=\n", ""},
+                 {"[S]\nk=a=b\n", "a=b"},
+                 {"[S]\nk=first\nk=second\n", "first"},
+                 {"[S]\n;k=comment\n", std::nullopt},
+                 {"[S]\nk\n", std::nullopt},
+                 {"[T]\nk=v\n[S]\nj=v\n", std::nullopt},
+                 {"k=outside\n[S]\n", std::nullopt},
+                 {"[S]\nk=v", "v"},
+                 {"", std::nullopt},
+                 {"[S\nk=unclosed header\n", "unclosed header"}};
+    for (const auto& c : cases)
+        EXPECT_EQ(IniFile::Parse(c.text).Get("S", "k"), c.expected) << c.text;
+}
+
+TEST(IniFileRead, RandomBytesNeverBreakAReadOrAnEdit)
+{
+    std::mt19937 random(7);
+    const char alphabet[] = "[]=;\"' \t\r\nabcSk\x80\xff";
+    for (int round = 0; round < 200; ++round) {
+        std::string text(random() % 300, '\0');
+        for (char& c : text)
+            c = alphabet[random() % (sizeof alphabet - 1)];
+        IniFile ini = IniFile::Parse(text);
+        ini.Get("S", "k");
+        ini.Set("S", "k", "v");
+        EXPECT_EQ(IniFile::Parse(ini.Text()).Get("S", "k"), "v") << text;
+        EXPECT_TRUE(ini.Remove("S", "k"));
+    }
+    std::string text = "\x01\x02garbage\n]]]\n[\n=\n==\n[S]\n\xff\xfe=\x80\nk=v\n";
+    text += std::string(3, '\0') + "\n";
+    EXPECT_EQ(IniFile::Parse(text).Get("S", "k"), "v");
+    const IniFile huge =
+        IniFile::Parse("[S]\nk=" + std::string(INI_LINE_MAX * 3, 'x') + "\nj=after\n");
+    EXPECT_EQ(huge.Get("S", "k")->size(), INI_LINE_MAX - 2) << "a huge line is cut at its limit";
+    EXPECT_EQ(huge.Get("S", "j"), "after");
+}
+
+TEST(IniFileFiles, AMissingFileReadsAsEmptyAndOnlyTheFirstMegabyteIsRead)
+{
+    TempFolder folder;
+    const std::string path = folder.File("New.Ini");
+    IniFile ini = IniFile::Load(path);
+    EXPECT_EQ(ini.Get("S", "k"), std::nullopt);
+    ini.Set("S", "k", "v");
+    ASSERT_TRUE(ini.Save(path));
+    EXPECT_EQ(ReadBytes(path), "[S]\nk=v\n");
+    EXPECT_FALSE(std::filesystem::exists(path + ".tmp"));
+    EXPECT_FALSE(ini.Save(folder.File("no/such/folder.Ini")));
+    const std::string filler(INI_LINE_MAX - 1, ';');
+    std::string text = "[S]\nfirst=1\n";
+    while (text.size() < INI_FILE_MAX)
+        text += filler + "\n";
+    WriteBytes(path, text + "last=2\n");
+    const IniFile big = IniFile::Load(path);
+    EXPECT_EQ(big.Get("S", "first"), "1");
+    EXPECT_EQ(big.Get("S", "last"), std::nullopt);
+}
+
+TEST(IniFileWrite, EditsKeepEveryOtherLine)
+{
+    const struct {
+        const char *name, *before, *after;
+    } cases[] = {
+        {"replace keeps neighbours", "; note\n[S]\nx=1\nK=old\ny=2\n",
+         "; note\n[S]\nx=1\nk=new\ny=2\n"},
+        {"add after the section's last key", "[S]\nx=1\n\n[T]\nz=3\n",
+         "[S]\nx=1\nk=new\n\n[T]\nz=3\n"},
+        {"add to an empty section", "[S]\n[T]\n", "[S]\nk=new\n[T]\n"},
+        {"new section at the end", "junk line\n[T]\nz=3\n", "junk line\n[T]\nz=3\n\n[S]\nk=new\n"},
+        {"CRLF is kept", "[S]\r\nx=1\r\n", "[S]\r\nx=1\r\nk=new\r\n"}};
+    for (const auto& c : cases) {
+        IniFile ini = IniFile::Parse(c.before);
+        ini.Set("S", "k", "new");
+        EXPECT_EQ(ini.Text(), c.after) << c.name;
+    }
+    IniFile ini = IniFile::Parse("[S]\nx=1\nK=2\ny=3\n[T]\nk=4\n");
+    EXPECT_TRUE(ini.Remove("s", "k"));
+    EXPECT_EQ(ini.Text(), "[S]\nx=1\ny=3\n[T]\nk=4\n");
+    EXPECT_FALSE(ini.Remove("S", "k"));
+    EXPECT_FALSE(ini.Remove("Missing", "k"));
+    ini = IniFile::Parse("");
+    ini.Set("S", "k", "one\r\n[Evil]\nx=1");
+    EXPECT_EQ(ini.Text(), "[S]\nk=one\n") << "a value is cut at its first line break";
+}
+
+TEST(SettingsBytes, DefaultsLandAtTheirOffsetsAndFieldsAreLittleEndian)
+{
+    const SettingsBytes b = Settings{}.ToBytes();
+    SettingsBytes expected{};
+    expected[4] = expected[5] = expected[6] = 0xFF; // white text
+    expected[8] = 1;                                // BufferedUpdates
+    expected[12] = 1;                               // ShowCursor
+    expected[13] = 1;                               // AutoArrange
+    expected[14] = '.';                             // CommandPrefix
+    expected[18] = 1;                               // reserved, written as 1
+    expected[20] = 0x00;                            // ReceiveChunkSize 1024
+    expected[21] = 0x04;
+    expected[25] = 1;  // LocalEcho
+    expected[26] = 10; // SaysColor
+    expected[27] = 11; // WhispersColor
+    expected[28] = 40; // ThoughtColor
+    expected[29] = 40; // CompressedThoughtColor
+    expected[36] = 4;  // MinCommandLength
+    EXPECT_EQ(b, expected);
+    SettingsBytes in{};
+    for (std::size_t i = 0; i < in.size(); ++i)
+        in[i] = static_cast<std::uint8_t>(i * 7 + 3);
+    EXPECT_EQ(Settings::FromBytes(in).ToBytes(), in) << "every byte survives a round trip";
+    in = Settings{}.ToBytes();
+    in[0] = 0x11;
+    in[1] = 0x22;
+    in[2] = 0x33;
+    in[20] = 0x88;
+    in[21] = 0x13; // 5000
+    in[36] = 0xFD;
+    in[37] = 0xFF; // -3
+    const Settings s = Settings::FromBytes(in);
+    EXPECT_EQ(s.DefaultBackColor, 0x332211u);
+    EXPECT_EQ(s.ReceiveChunkSize, 5000);
+    EXPECT_EQ(s.MinCommandLength, -3);
+}
+
+TEST(CheckSettings, BringsLoadedValuesIntoRange)
+{
+    const struct {
+        std::uint8_t displayMode;
+        std::int16_t minCommandLength;
+        std::int32_t receiveChunkSize;
+        std::uint8_t wantDisplayMode;
+        std::int16_t wantMinCommandLength;
+        std::int32_t wantReceiveChunkSize;
+    } cases[] = {
+        {0, 4, 1024, 0, 4, 1024},    {2, 0, 256, 2, 0, 256},           {3, -3, 100, 0, 0, 256},
+        {255, -1, 5000, 0, 0, 2048}, {1, 30000, 2048, 1, 30000, 2048}, {1, 1, -7, 1, 1, 256},
+    };
+    for (const auto& c : cases) {
+        Settings s;
+        s.DisplayMode = c.displayMode;
+        s.MinCommandLength = c.minCommandLength;
+        s.ReceiveChunkSize = c.receiveChunkSize;
+        CheckSettings(s);
+        EXPECT_EQ(s.DisplayMode, c.wantDisplayMode) << int(c.displayMode);
+        EXPECT_EQ(s.MinCommandLength, c.wantMinCommandLength) << c.minCommandLength;
+        EXPECT_EQ(s.ReceiveChunkSize, c.wantReceiveChunkSize) << c.receiveChunkSize;
+    }
+}
+
+TEST(BinaryRecords, FontPlacementAndGaugeRecordsKeepTheirLayout)
+{
+    LogFontRecord f;
+    f.lfHeight = -13;
+    f.lfWeight = 700;
+    f.lfItalic = 1;
+    f.lfPitchAndFamily = 0x31;
+    std::memcpy(f.lfFaceName, "Courier New", 12);
+    const LogFontBytes b = f.ToBytes();
+    EXPECT_EQ(b[0], 0xF3);
+    EXPECT_EQ(b[3], 0xFF);
+    EXPECT_EQ(b[16], 0xBC);
+    EXPECT_EQ(b[17], 0x02);
+    EXPECT_EQ(b[20], 1);
+    EXPECT_EQ(b[27], 0x31);
+    EXPECT_EQ(b[28], 'C');
+    EXPECT_EQ(LogFontRecord::FromBytes(b).ToBytes(), b);
+    WindowPlacementRecord p;
+    p.showCmd = 3;
+    p.rcNormalPosition = {10, 20, 630, 470};
+    const WindowPlacementBytes w = p.ToBytes();
+    EXPECT_EQ(w[0], 44);
+    EXPECT_EQ(w[8], 3);
+    EXPECT_EQ(w[28], 10);
+    EXPECT_EQ(w[40], 0xD6);
+    EXPECT_EQ(w[41], 0x01);
+    const WindowPlacementRecord back = WindowPlacementRecord::FromBytes(w);
+    EXPECT_EQ(back.rcNormalPosition.right, 630);
+    EXPECT_EQ(back.ToBytes(), w);
+    const GaugeColorBytes g = GaugeColorsToBytes({0x0000FF, 0x00FF00, 0xFF0000});
+    EXPECT_EQ(g[0], 0xFF);
+    EXPECT_EQ(g[5], 0xFF);
+    EXPECT_EQ(g[10], 0xFF);
+    GaugeColorBytes noisy = g; // only 12 of the 20 bytes are read
+    for (std::size_t i = GAUGE_COLOR_USED_SIZE; i < noisy.size(); ++i)
+        noisy[i] = 0xAB;
+    const GaugeColors colors = GaugeColorsFromBytes(noisy);
+    EXPECT_EQ(colors.GaugeTextColor, 0x0000FFu);
+    EXPECT_EQ(colors.BarColor, 0x00FF00u);
+    EXPECT_EQ(colors.GaugeBackColor, 0xFF0000u);
 }
 
 } // namespace
