@@ -119,7 +119,7 @@ TEST_F(MacroFileTest, ReadsOrSkipsEachLine)
                 {"A B \"\"\n", KEY_ALT, 'B', ""},
                 {"A B \"back\"", KEY_ALT, 'B', "back"},
                 {"Z B \"x\"\n", KEY_ALT, 'B', ""},
-                {"garbage\n0 N 99 \"x\"\nA B \"next\"\n", KEY_ALT, 'B', "next"},
+                {"garbage\n0 N 99 \"x\"\nA Z \"zap\"\n", KEY_ALT, 'Z', "zap"},
                 {"A L \"" + std::string(300, 'l') + "\"\nA B \"x\"\n", KEY_ALT, 'L', ""},
                 {"A L \"" + std::string(300, 'l') + "\"\nA B \"x\"\n", KEY_ALT, 'B', "x"},
                 {"N 1 \"x\"\nN 2 \"x\"\n", KEY_ALT, 'B', ""}};
