@@ -6,6 +6,7 @@
 #include <gtest/gtest.h>
 
 #include <cstring>
+#include <optional>
 
 namespace steward::testing {
 namespace {
@@ -42,17 +43,23 @@ Outcome Apply(const Entries& entries, const std::string& line, bool squelch = fa
 struct Case {
     const char* name;
     Entries entries;
-    std::string line;
-    std::string expected;
+    std::string line, expected;
+    std::optional<Sounds> sounds = std::nullopt; // looked at when given
+    bool squelch = false;
 };
 
 void Check(const std::vector<Case>& cases)
 {
-    for (const Case& c : cases)
-        EXPECT_EQ(Apply(c.entries, c.line).line, c.expected) << c.name;
+    for (const Case& c : cases) {
+        const Outcome outcome = Apply(c.entries, c.line, c.squelch);
+        EXPECT_EQ(outcome.line, c.expected) << c.name;
+        if (c.sounds) {
+            EXPECT_EQ(outcome.sounds, *c.sounds) << c.name;
+        }
+    }
 }
 
-TEST(HighlightMatch, WordsCaseRepeatsEntireLinesAndNesting)
+TEST(HighlightMatch, WordsCaseRepeatsEntireLinesNestingRunsAndSounds)
 {
     Check({
         {"inside a longer word", {{"Mara"}}, "Maravel waves.", "Maravel waves."},
@@ -118,47 +125,35 @@ TEST(HighlightMatch, WordsCaseRepeatsEntireLinesAndNesting)
          {{"red", 1}, {"red dragon", 2}},
          "a red dragon",
          "a " + Lit(1, "red") + " dragon"},
+        {"unclosed sound", {{"orc"}, {"{gong"}, {"elf"}}, "orc elf", Lit(14, "orc") + " elf"},
+        {"markers only", {{"orc"}, {"{gong}$*@"}, {"elf"}}, "orc elf", Lit(14, "orc") + " elf"},
+        {"markers out of order are text", {{"*$orc"}}, "a $orc", "a " + Lit(14, "$orc")},
+        {"empty sound is fine", {{"{}orc"}}, "orc", Lit(14, "orc")},
+        {"a sound per hit",
+         {{"{gong}orc"}},
+         "orc orc",
+         Lit(14, "orc") + " " + Lit(14, "orc"),
+         Sounds{"gong", "gong"}},
+        {"entire line once", {{"{gong}$orc"}}, "orc orc", Lit(14, "orc orc"), Sounds{"gong"}},
+        {"sounds in slot order",
+         {{"{b}elf"}, {"{a}orc"}},
+         "orc elf",
+         Lit(14, "orc") + " " + Lit(14, "elf"),
+         Sounds{"b", "a"}},
+        {"a quote anywhere silences but colours",
+         {{"{gong}orc"}},
+         "orc says, \"x\"",
+         Lit(14, "orc") + " says, \"x\"",
+         Sounds{}},
+        {"squelched", {{"{gong}orc"}}, "orc", Lit(14, "orc"), Sounds{}, true},
+        {"no hit no sound", {{"{gong}orc"}}, "orchard", "orchard", Sounds{}},
     });
-}
-
-TEST(HighlightRun, TheRunEndsAtAFreeSlotOrAMalformedEntry)
-{
     HighlightList list;
     Fill(list, {{"orc"}, {""}, {"elf"}});
     char line[64] = "orc elf";
     RecordedSounds sounds;
     ApplyHighlights(list, line, sizeof line, false, sounds);
-    EXPECT_EQ(std::string(line), Lit(14, "orc") + " elf");
-    Check({
-        {"unclosed sound", {{"orc"}, {"{gong"}, {"elf"}}, "orc elf", Lit(14, "orc") + " elf"},
-        {"markers only", {{"orc"}, {"{gong}$*@"}, {"elf"}}, "orc elf", Lit(14, "orc") + " elf"},
-        {"markers out of order are text", {{"*$orc"}}, "a $orc", "a " + Lit(14, "$orc")},
-        {"empty sound is fine", {{"{}orc"}}, "orc", Lit(14, "orc")},
-    });
-}
-
-TEST(HighlightSound, SoundsPlayPerHitUnlessSquelchedOrQuoted)
-{
-    const struct {
-        const char* name;
-        Entries entries;
-        std::string line;
-        bool squelch;
-        Sounds expected;
-    } cases[] = {
-        {"one per hit", {{"{gong}orc"}}, "orc orc", false, {"gong", "gong"}},
-        {"entire line once", {{"{gong}$orc"}}, "orc orc", false, {"gong"}},
-        {"in slot order", {{"{b}elf"}, {"{a}orc"}}, "orc elf", false, {"b", "a"}},
-        {"quote anywhere silences", {{"{gong}orc"}}, "orc says, \"x\"", false, {}},
-        {"squelched", {{"{gong}orc"}}, "orc", true, {}},
-        {"no hit no sound", {{"{gong}orc"}}, "orchard", false, {}},
-    };
-    for (const auto& c : cases) {
-        const Outcome outcome = Apply(c.entries, c.line, c.squelch);
-        EXPECT_EQ(outcome.sounds, c.expected) << c.name;
-    }
-    EXPECT_EQ(Apply({{"{gong}orc"}}, "orc says, \"x\"").line, Lit(14, "orc") + " says, \"x\"")
-        << "a silent hit is still coloured";
+    EXPECT_EQ(std::string(line), Lit(14, "orc") + " elf") << "the run ends at a free slot";
 }
 
 TEST(HighlightBounds, HitsStopWhenTheBufferIsFullAndALineWithoutItsNulIsLeftAlone)
