@@ -159,8 +159,7 @@ TEST(CommandLineEdit, ActsAsAnEditControl)
     line.SetText("tell bob hi");
     EXPECT_EQ(line.cursorPosition(), 0);
     line.SetSelection(5, 8);
-    int start = 0;
-    int end = 0;
+    int start = 0, end = 0;
     line.GetSelection(start, end);
     EXPECT_EQ(start, 5);
     EXPECT_EQ(end, 8);
@@ -179,20 +178,17 @@ TEST(CommandLineEdit, ActsAsAnEditControl)
     EXPECT_STREQ(text, "tell X ");
 }
 
-struct MapCase {
-    Qt::Key key;
-    Qt::KeyboardModifiers modifiers;
-    bool numLockBefore;
-    int virtualKey;
-    KeyModifiers expected;
-    bool numLockAfter;
-};
-
 TEST(KeyMap, QtKeysBecomeVirtualKeysAndModifiers)
 {
-    const Qt::KeyboardModifiers none = Qt::NoModifier;
-    const Qt::KeyboardModifiers pad = Qt::KeypadModifier;
-    const MapCase cases[] = {
+    const Qt::KeyboardModifiers none = Qt::NoModifier, pad = Qt::KeypadModifier;
+    const struct {
+        Qt::Key key;
+        Qt::KeyboardModifiers modifiers;
+        bool numLockBefore;
+        int virtualKey;
+        KeyModifiers expected;
+        bool numLockAfter;
+    } cases[] = {
         {Qt::Key_A, Qt::AltModifier | Qt::ShiftModifier, false, 'A', KEY_ALT | KEY_SHIFT, false},
         {Qt::Key_7, Qt::ControlModifier, true, '7', KEY_CTRL | KEY_NUMLOCK, true},
         {Qt::Key_F12, none, false, VK_F12, 0, false},
@@ -208,7 +204,7 @@ TEST(KeyMap, QtKeysBecomeVirtualKeysAndModifiers)
         {Qt::Key_Backtab, Qt::ShiftModifier, false, VK_TAB, KEY_SHIFT, false},
         {Qt::Key_Alt, Qt::AltModifier, false, VK_MENU, KEY_ALT, false},
         {Qt::Key_Backspace, none, false, 0, 0, false}};
-    for (const MapCase& c : cases) {
+    for (const auto& c : cases) {
         bool numLock = c.numLockBefore;
         TranslatedKey key = TranslateKey(c.key, c.modifiers, numLock);
         EXPECT_EQ(key.VirtualKey, c.virtualKey) << c.key;

@@ -30,10 +30,7 @@ namespace {
 // The sheet's dialogs answer from lists; every message is kept.
 class SheetDialogs : public HighlightDialogs, public MessageBoxes {
   public:
-    void ShowMessage(QWidget*, const char* text, const char*) override
-    {
-        messages.emplace_back(text);
-    }
+    void ShowMessage(QWidget*, const char* text, const char*) override { messages.push_back(text); }
     void Beep() override {}
     bool AskString(QWidget*, const char*, char* answer, std::size_t capacity) override
     {
@@ -48,10 +45,8 @@ class SheetDialogs : public HighlightDialogs, public MessageBoxes {
     std::string ChooseSoundFile(QWidget*, const std::string&) override { return soundFile; }
 
     QtSoundPlayer player;
-    std::vector<std::string> answers;
-    std::vector<std::string> shown;
+    std::vector<std::string> answers, shown, messages;
     std::vector<std::size_t> limits;
-    std::vector<std::string> messages;
     std::string soundFile;
 };
 
@@ -87,7 +82,7 @@ class HighlightSheetTest : public ::testing::Test {
     {
         QTest::mouseClick(page.Button(button), Qt::LeftButton);
     }
-    void WriteFile(const QString& name, const QByteArray& bytes)
+    static void WriteFile(const QString& name, const QByteArray& bytes)
     {
         QFile file(name);
         ASSERT_TRUE(file.open(QIODevice::WriteOnly));
