@@ -1,18 +1,11 @@
 #pragma once
 
+#include "base/FrameCommand.h"
 #include "base/FrameQueue.h"
-#include "commands/CommandHistory.h"
 #include "commands/CommandLineEdit.h"
-#include "commands/CommandParts.h"
-#include "commands/CommandSender.h"
 #include "commands/CommandSink.h"
-#include "commands/KeyFilter.h"
 #include "commands/Keyboard.h"
 #include "commands/KeyboardHost.h"
-#include "commands/MacroPlayer.h"
-#include "commands/MacroStore.h"
-
-#include "base/FrameCommand.h"
 #include "config/Settings.h"
 
 #include <algorithm>
@@ -30,10 +23,8 @@ class EditLine : public CommandLineEdit {
   public:
     std::size_t GetText(char* out, std::size_t capacity) const override
     {
-        std::size_t length = std::min(text.size(), capacity - 1);
-        std::memcpy(out, text.data(), length);
-        out[length] = 0;
-        return length;
+        std::snprintf(out, capacity, "%s", text.c_str());
+        return std::min(text.size(), capacity - 1);
     }
     void SetText(const char* value) override
     {
@@ -46,38 +37,21 @@ class EditLine : public CommandLineEdit {
         start = std::clamp(std::min(from, to), 0, length);
         end = std::clamp(std::max(from, to), 0, length);
     }
-    void GetSelection(int& from, int& to) const override
-    {
-        from = start;
-        to = end;
-    }
+    void GetSelection(int& from, int& to) const override { from = start, to = end; }
     void TypeCharacter(char c) override { Replace(std::string(1, c)); }
-    void Cut() override
-    {
-        Copy();
-        Replace("");
-    }
-    void Copy() override
-    {
-        if (start != end)
-            clipboard = text.substr(start, end - start);
-    }
+    void Cut() override { Copy(), Replace(""); }
+    void Copy() override { clipboard = start != end ? text.substr(start, end - start) : clipboard; }
     void Paste() override { Replace(clipboard); }
     void Clear() override { Replace(""); }
     void SetFocus() override { ++focused; }
 
-    std::string text;
-    int start = 0;
-    int end = 0;
-    std::string clipboard;
-    int focused = 0;
-    int refused = 0;
+    std::string text, clipboard;
+    int start = 0, end = 0, focused = 0, refused = 0;
 
   private:
     void Replace(const std::string& piece)
     {
-        std::size_t kept = text.size() - (end - start);
-        if (kept + piece.size() > static_cast<std::size_t>(COMMAND_LINE_LIMIT)) {
+        if (text.size() - (end - start) + piece.size() > std::size_t{COMMAND_LINE_LIMIT}) {
             ++refused;
             return;
         }
@@ -100,8 +74,7 @@ class RecordingSink : public CommandSink {
     {
         calls.push_back("record " + std::string(text));
     }
-    std::vector<std::string> calls;
-    std::vector<std::string> sent;
+    std::vector<std::string> calls, sent;
 };
 
 class RecordingQueue : public FrameQueue {
@@ -133,25 +106,21 @@ class RecordingHost : public KeyboardHost {
     void NextChildWindow() override { calls.push_back("mdinext"); }
     void ToggleGameWindowMaximized() override { calls.push_back("toggle"); }
     bool ScriptRunning() const override { return script; }
-    void AbortScript() override
-    {
-        script = false;
-        calls.push_back("abort");
-    }
+    void AbortScript() override { script = false, calls.push_back("abort"); }
     void EndScrollback() override { calls.push_back("endscrollback"); }
     void SetFrameTitle(const char* text) override { title = text; }
     const char* CurrentCharacter() const override { return "Ayla"; }
     void CopyFromActiveChild() override { calls.push_back("copychild"); }
     void PostClose() override { calls.push_back("close"); }
+    // Answers from the list; "<cancel>" is a cancelled question.
     bool AskString(const char* text, char* answer, std::size_t capacity) override
     {
         asked.push_back(text);
         if (answers.empty())
             return false;
-        std::string given = answers.front();
+        std::snprintf(answer, capacity, "%s", answers.front().c_str());
         answers.pop_front();
-        std::snprintf(answer, capacity, "%s", given.c_str());
-        return given != "<cancel>";
+        return std::string(answer) != "<cancel>";
     }
     void PumpFor(int seconds) override
     {
@@ -160,11 +129,8 @@ class RecordingHost : public KeyboardHost {
             onPump();
     }
 
-    bool rest = false;
-    bool script = false;
-    std::vector<std::string> printed;
-    std::vector<std::string> calls;
-    std::vector<std::string> asked;
+    bool rest = false, script = false;
+    std::vector<std::string> printed, calls, asked;
     std::deque<std::string> answers;
     std::string title;
     std::function<void()> onPump;

@@ -6,9 +6,7 @@
 
 #include <gtest/gtest.h>
 
-#include <cstdio>
 #include <cstring>
-#include <vector>
 
 namespace steward {
 namespace {
@@ -22,53 +20,38 @@ class RecordingParts : public ProfileHost, public TraceSink {
   public:
     RecordingParts() : previous_(SetTraceSink(this)) {}
     ~RecordingParts() override { SetTraceSink(previous_); }
-    void TraceLine(const char* line) override { calls.push_back(std::string("Trace ") + line); }
+    bool Note(const std::string& call) { return calls.push_back(call), true; }
+    void TraceLine(const char* line) override { Note(std::string("Trace ") + line); }
     GaugeColors GetGaugeColors(ProfileGauge gauge) override
     {
-        calls.push_back(std::string("GetGaugeColors ") + GAUGE_COLOR_KEYS[gauge]);
+        Note(std::string("GetGaugeColors ") + GAUGE_COLOR_KEYS[gauge]);
         return colors[gauge];
     }
     void SetGaugeColors(ProfileGauge gauge, const GaugeColors& c) override
     {
-        calls.push_back(std::string("SetGaugeColors ") + GAUGE_COLOR_KEYS[gauge]);
+        Note(std::string("SetGaugeColors ") + GAUGE_COLOR_KEYS[gauge]);
         colors[gauge] = c;
     }
-    void SetNumLockOff() override { calls.push_back("SetNumLockOff"); }
-    void RestoreChildWindows(const std::string& path) override
+    void SetNumLockOff() override { Note("SetNumLockOff"); }
+    void RestoreChildWindows(const std::string& p) override { Note("RestoreChildWindows " + p); }
+    bool SaveChildWindows(const std::string& p) override { return Note("SaveChildWindows " + p); }
+    void LoadMacros(const std::string& p) override { Note("LoadMacros " + p); }
+    bool SaveMacros(const std::string& p) override { return Note("SaveMacros " + p); }
+    void LoadHighlights(const std::string& s, const std::string& n) override
     {
-        calls.push_back("RestoreChildWindows " + path);
+        Note("LoadHighlights " + s + " " + n);
     }
-    bool SaveChildWindows(const std::string& path) override
+    bool SaveHighlights(const std::string& s, const std::string& n) override
     {
-        calls.push_back("SaveChildWindows " + path);
-        return true;
+        return Note("SaveHighlights " + s + " " + n);
     }
-    void LoadMacros(const std::string& path) override { calls.push_back("LoadMacros " + path); }
-    bool SaveMacros(const std::string& path) override
+    void LoadHistory(const std::string& p) override { Note("LoadHistory " + p); }
+    bool SaveHistory(const std::string& p) override { return Note("SaveHistory " + p); }
+    void SetDefaultMacros(bool fresh) override
     {
-        calls.push_back("SaveMacros " + path);
-        return true;
+        Note(fresh ? "SetDefaultMacros new" : "SetDefaultMacros");
     }
-    void LoadHighlights(const std::string& strings, const std::string& names) override
-    {
-        calls.push_back("LoadHighlights " + strings + " " + names);
-    }
-    bool SaveHighlights(const std::string& strings, const std::string& names) override
-    {
-        calls.push_back("SaveHighlights " + strings + " " + names);
-        return true;
-    }
-    void LoadHistory(const std::string& path) override { calls.push_back("LoadHistory " + path); }
-    bool SaveHistory(const std::string& path) override
-    {
-        calls.push_back("SaveHistory " + path);
-        return true;
-    }
-    void SetDefaultMacros(bool newProfile) override
-    {
-        calls.push_back(newProfile ? "SetDefaultMacros new" : "SetDefaultMacros");
-    }
-    void UpdateTitle() override { calls.push_back("UpdateTitle"); }
+    void UpdateTitle() override { Note("UpdateTitle"); }
 
     std::vector<std::string> calls;
     GaugeColors colors[PROFILE_GAUGE_COUNT] = {};
@@ -159,43 +142,22 @@ TEST_F(ProfileTest, ASettingsValueOfTheWrongLengthStartsTheProfileAfresh)
     EXPECT_STREQ(equip, "gone");
 }
 
-struct CheckCase {
-    std::int32_t storedChunk;
-    std::int16_t storedMin;
-    std::uint8_t storedMode;
-    std::int32_t chunk;
-    std::int16_t min;
-    std::uint8_t mode;
-};
-
-TEST_F(ProfileTest, LoadedSettingsAreBroughtIntoRangeAndSavedSo)
+TEST_F(ProfileTest, LoadedSettingsAreBroughtIntoRangeAndEmptyEquipmentComesBackAsItsDefault)
 {
-    const CheckCase cases[] = {
-        {100, -3, 3, 256, 0, 0},
-        {5000, 12, 2, 2048, 12, 2},
-    };
-    for (const CheckCase& c : cases) {
-        Settings stored;
-        stored.ReceiveChunkSize = c.storedChunk;
-        stored.MinCommandLength = c.storedMin;
-        stored.DisplayMode = c.storedMode;
-        StoreSettings("Rook", stored);
-        Load("Rook");
-        EXPECT_EQ(profile.Settings.ReceiveChunkSize, c.chunk) << c.storedChunk;
-        EXPECT_EQ(profile.Settings.MinCommandLength, c.min) << c.storedMin;
-        EXPECT_EQ(profile.Settings.DisplayMode, c.mode) << int(c.storedMode);
-        Save("Rook");
-        EXPECT_EQ(StoredSettings("Rook").ReceiveChunkSize, c.chunk);
-    }
-}
-
-TEST_F(ProfileTest, AnEmptyEquipmentCommandComesBackAsItsDefault)
-{
+    Settings stored;
+    stored.ReceiveChunkSize = 100;
+    stored.MinCommandLength = -3;
+    stored.DisplayMode = 3;
+    StoreSettings("Rook", stored);
     Load("Rook");
+    EXPECT_EQ(profile.Settings.ReceiveChunkSize, 256);
+    EXPECT_EQ(profile.Settings.MinCommandLength, 0);
+    EXPECT_EQ(profile.Settings.DisplayMode, 0);
     std::strcpy(profile.EquipShield, "");
     std::strcpy(profile.UnequipShield, "\"\"");
     std::strcpy(profile.EquipWeapon, "wield axe");
     Save("Rook");
+    EXPECT_EQ(StoredSettings("Rook").ReceiveChunkSize, 256);
     CharacterProfile reloaded;
     LoadProfile(files, reloaded, parts, "Rook", false);
     EXPECT_STREQ(reloaded.EquipShield, "ready shield");
@@ -225,19 +187,20 @@ TEST_F(ProfileTest, SavingWritesUnderTheGivenNameInOrder)
     EXPECT_EQ(GaugeColorsFromBytes(pause).GaugeBackColor, 0x33u);
 }
 
-TEST_F(ProfileTest, CreateOnlyNamesTheProfileAndReadsNothing)
+TEST_F(ProfileTest, CreateOnlyNamesTheProfileAndWithoutANameTheLastCharacterIsLoaded)
 {
     EXPECT_FALSE(LoadProfile(files, profile, parts, "Wren", true));
     EXPECT_STREQ(profile.CurrentCharacter, "Wren");
     EXPECT_EQ(profile.ProfilePath, Dat("Wren"));
     EXPECT_TRUE(parts.calls.empty());
     EXPECT_FALSE(std::filesystem::exists(Dat("Wren")));
-}
-
-TEST_F(ProfileTest, WithoutANameTheLastCharacterIsLoaded)
-{
     LoadProfile(files, profile, parts, nullptr, true);
     EXPECT_STREQ(profile.CurrentCharacter, "Default");
+    const std::string longName(100, 'n');
+    LoadProfile(files, profile, parts, longName.c_str(), true);
+    EXPECT_EQ(profile.CurrentCharacter, longName.substr(0, CHARACTER_NAME_SIZE - 1));
+    LoadProfile(files, profile, parts, profile.CurrentCharacter, true);
+    EXPECT_EQ(profile.CurrentCharacter, longName.substr(0, CHARACTER_NAME_SIZE - 1));
     LoadProfile(files, profile, parts, "Rook", true);
     ASSERT_TRUE(WriteLastChar(files, profile));
     CharacterProfile next;
@@ -248,31 +211,19 @@ TEST_F(ProfileTest, WithoutANameTheLastCharacterIsLoaded)
     EXPECT_STREQ(next.CurrentCharacter, "Default");
 }
 
-TEST_F(ProfileTest, ALongNameIsCutToItsBuffer)
-{
-    const std::string longName(100, 'n');
-    LoadProfile(files, profile, parts, longName.c_str(), true);
-    EXPECT_EQ(profile.CurrentCharacter, longName.substr(0, CHARACTER_NAME_SIZE - 1));
-    LoadProfile(files, profile, parts, profile.CurrentCharacter, true);
-    EXPECT_EQ(profile.CurrentCharacter, longName.substr(0, CHARACTER_NAME_SIZE - 1));
-}
-
-struct WindowsCase {
-    const char* stored;
-    const char* letters;
-};
-
 TEST_F(ProfileTest, OpenWindowsDefaultsToThoughtAndAFocusedGameWindow)
 {
     const std::string path = Dat("Rook");
     EXPECT_EQ(ReadOpenWindows(path), "tG");
-    const WindowsCase cases[] = {
+    const struct {
+        const char *stored, *letters;
+    } cases[] = {
         {"{none}", "tG"},
         {"gTa", "gTa"},
         {"", ""},
         {"0123456789012345678901234567890123", "012345678901234567890123456789"},
     };
-    for (const WindowsCase& c : cases) {
+    for (const auto& c : cases) {
         WriteBytes(path, std::string("[Windows]\nOpen Windows=") + c.stored + "\n");
         EXPECT_EQ(ReadOpenWindows(path), c.letters) << c.stored;
     }

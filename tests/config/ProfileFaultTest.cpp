@@ -14,9 +14,7 @@
 #include <chrono>
 #include <csignal>
 #include <cstring>
-#include <filesystem>
 #include <random>
-#include <string>
 #include <sys/wait.h>
 #include <thread>
 #include <unistd.h>
@@ -39,10 +37,7 @@ class SavingParts : public ProfileHost {
     void SetGaugeColors(ProfileGauge, const GaugeColors&) override {}
     void SetNumLockOff() override {}
     void RestoreChildWindows(const std::string&) override {}
-    bool SaveChildWindows(const std::string& path) override
-    {
-        return WriteOpenWindows(path, "gTa");
-    }
+    bool SaveChildWindows(const std::string& p) override { return WriteOpenWindows(p, "gTa"); }
     void LoadMacros(const std::string&) override {}
     bool SaveMacros(const std::string& path) override { return macros.SaveMacros(path.c_str()); }
     void LoadHighlights(const std::string&, const std::string&) override {}
@@ -108,12 +103,10 @@ class ProfileFaultTest : public ::testing::Test {
     // What each state's save writes, from a clean folder.
     ProfileBytes SavedBytesOf(ProfileState& state)
     {
-        TempFolder clean;
-        const ConfigFiles cleanFiles = MakeConfigFiles(clean.Path());
-        EXPECT_TRUE(state.Save(cleanFiles));
-        ProfileBytes bytes;
-        for (std::size_t i = 0; i < PROFILE_FILES.size(); ++i)
-            bytes[i] = ReadBytes(clean.File(PROFILE_FILES[i]));
+        EXPECT_TRUE(state.Save(files));
+        const ProfileBytes bytes = Stored();
+        for (const char* name : PROFILE_FILES)
+            std::filesystem::remove(folder.File(name));
         return bytes;
     }
 

@@ -4,12 +4,9 @@
 #include "highlights/ClipboardHighlights.h"
 #include "highlights/HighlightList.h"
 #include "highlights/SoundPlayer.h"
+#include "support/TempFolder.h"
 
-#include <cstdio>
-#include <filesystem>
-#include <random>
 #include <string>
-#include <utility>
 #include <vector>
 
 namespace steward::testing {
@@ -53,7 +50,6 @@ inline std::string On(unsigned char color)
     char out[8];
     return std::string(out, AppendColorOn(out, color));
 }
-
 inline std::string Off(unsigned char color)
 {
     char out[8];
@@ -79,24 +75,5 @@ inline void Fill(HighlightList& list, const std::vector<Entry>& entries)
         list.SetText(i, entries[i].text.c_str());
     }
 }
-
-// A folder of its own under the system's temporary folder, removed at the end of the test.
-class TempFolder {
-  public:
-    TempFolder()
-    {
-        std::random_device random;
-        char name[64];
-        std::snprintf(name, sizeof name, "steward-highlights-%08x%08x", random(), random());
-        path_ = std::filesystem::temp_directory_path() / name;
-        std::filesystem::create_directories(path_);
-    }
-    ~TempFolder() { std::filesystem::remove_all(path_); }
-    std::string File(const std::string& name) const { return (path_ / name).string(); }
-    std::string Path() const { return path_.string(); }
-
-  private:
-    std::filesystem::path path_;
-};
 
 } // namespace steward::testing

@@ -9,48 +9,32 @@
 namespace steward::testing {
 namespace {
 
-struct ItemCase {
-    const char* name;
-    const char* item;
-    HighlightItem parsed;
-};
-
-class ItemText : public ::testing::TestWithParam<ItemCase> {};
-
-// Every kind of entry reads into its fields and composes back to the same item text.
-TEST_P(ItemText, ParsesIntoItsFieldsAndComposesBack)
+TEST(ItemText, EveryKindParsesIntoItsFieldsAndComposesBack)
 {
-    const ItemCase& c = GetParam();
-    const HighlightItem parsed = ParseItem(c.item);
-    EXPECT_EQ(parsed.Color, c.parsed.Color);
-    EXPECT_EQ(parsed.Sound, c.parsed.Sound);
-    EXPECT_EQ(parsed.EntireLine, c.parsed.EntireLine);
-    EXPECT_EQ(parsed.NotOnWordBoundary, c.parsed.NotOnWordBoundary);
-    EXPECT_EQ(parsed.CaseSensitive, c.parsed.CaseSensitive);
-    EXPECT_EQ(parsed.Match, c.parsed.Match);
-    EXPECT_EQ(ComposeItem(parsed), c.item);
-}
-
-INSTANTIATE_TEST_SUITE_P(
-    Kinds, ItemText,
-    ::testing::Values(
-        ItemCase{"Plain", "014,Mara", {14, "", false, false, false, "Mara"}},
-        ItemCase{"Sound", "012,{Gong}Attention", {12, "Gong", false, false, false, "Attention"}},
-        ItemCase{"EntireLine", "010,$thunder", {10, "", true, false, false, "thunder"}},
-        ItemCase{"Anywhere", "030,*ara", {30, "", false, true, false, "ara"}},
-        ItemCase{"CaseSensitive", "255,@MARA", {255, "", false, false, true, "MARA"}},
-        ItemCase{"AllMarkers", "000,{Chime.wav}$*@x", {0, "Chime.wav", true, true, true, "x"}},
-        ItemCase{"MarkerCharactersFurtherOn",
-                 "014,a$b*c@{d}",
-                 {14, "", false, false, false, "a$b*c@{d}"}},
-        ItemCase{
-            "QuotesAndBlanks", "014,say \"hi\" ", {14, "", false, false, false, "say \"hi\" "}}),
-    [](const auto& info) { return info.param.name; });
-
-TEST(ItemText, SoundsReadInTheSoundListsFormAndMarkersComeOutInTheirOrder)
-{
+    const struct {
+        const char* item;
+        HighlightItem parsed;
+    } rows[] = {{"014,Mara", {14, "", false, false, false, "Mara"}},
+                {"012,{Gong}Attention", {12, "Gong", false, false, false, "Attention"}},
+                {"010,$thunder", {10, "", true, false, false, "thunder"}},
+                {"030,*ara", {30, "", false, true, false, "ara"}},
+                {"255,@MARA", {255, "", false, false, true, "MARA"}},
+                {"000,{Chime.wav}$*@x", {0, "Chime.wav", true, true, true, "x"}},
+                {"014,a$b*c@{d}", {14, "", false, false, false, "a$b*c@{d}"}},
+                {"014,say \"hi\" ", {14, "", false, false, false, "say \"hi\" "}}};
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.item);
+        const HighlightItem parsed = ParseItem(row.item);
+        EXPECT_EQ(parsed.Color, row.parsed.Color);
+        EXPECT_EQ(parsed.Sound, row.parsed.Sound);
+        EXPECT_EQ(parsed.EntireLine, row.parsed.EntireLine);
+        EXPECT_EQ(parsed.NotOnWordBoundary, row.parsed.NotOnWordBoundary);
+        EXPECT_EQ(parsed.CaseSensitive, row.parsed.CaseSensitive);
+        EXPECT_EQ(parsed.Match, row.parsed.Match);
+        EXPECT_EQ(ComposeItem(parsed), row.item);
+    }
     const HighlightItem read = ParseItem("014,{gONG}@Text");
-    EXPECT_EQ(read.Sound, "Gong");
+    EXPECT_EQ(read.Sound, "Gong") << "sounds read in the sound list's form";
     ItemChanges changes;
     changes.EntireLine = true;
     EXPECT_EQ(ComposeItem(WithChanges(read, changes)), "014,{Gong}$@Text");
@@ -62,113 +46,101 @@ TEST(ItemText, SoundsReadInTheSoundListsFormAndMarkersComeOutInTheirOrder)
 std::vector<std::string> Shown(const HighlightItems& items)
 {
     std::vector<std::string> out;
-    for (std::size_t i = 0; i < items.Count(); ++i) {
-        const std::string mark = static_cast<int>(i) == items.Selected() ? ">" : "";
-        out.push_back(mark + items.Item(i));
-    }
+    for (std::size_t i = 0; i < items.Count(); ++i)
+        out.push_back((static_cast<int>(i) == items.Selected() ? ">" : "") + items.Item(i));
     return out;
 }
 
-struct EditCase {
-    const char* name;
-    std::vector<Entry> list;
-    int select;
-    std::function<void(HighlightItems&)> edit;
-    std::vector<std::string> shown;
-};
-
-class PageEdit : public ::testing::TestWithParam<EditCase> {};
-
-TEST_P(PageEdit, ChangesTheItemsAsTheButtonSays)
+TEST(HighlightItems, EachButtonChangesTheItemsAsItSays)
 {
-    const EditCase& c = GetParam();
-    HighlightList list;
-    Fill(list, c.list);
-    HighlightItems items;
-    items.OpenList(list);
-    items.Select(c.select);
-    c.edit(items);
-    EXPECT_EQ(Shown(items), c.shown);
+    using Edit = std::function<void(HighlightItems&)>;
+    const std::string longest(HIGHLIGHT_ASK_LIMIT, 'm');
+    const struct {
+        const char* name;
+        std::vector<Entry> list;
+        int select;
+        Edit edit;
+        std::vector<std::string> shown;
+    } rows[] = {
+        {"new takes colour 14 and is selected",
+         {{"a", 2}},
+         0,
+         [](auto& i) { i.New("Mara"); },
+         {"002,a", ">014,Mara"}},
+        {"new with empty text does nothing", {{"a", 2}}, 0, [](auto& i) { i.New(""); }, {">002,a"}},
+        {"typed colour bytes become question marks",
+         {},
+         -1,
+         [](auto& i) { i.New("a\x82z\xA3 \"q\"  "); },
+         {">014,a?z? \"q\""}},
+        {"change keeps markers and sound",
+         {{"{Gong}$*old", 5}},
+         0,
+         [](auto& i) { i.Change("new"); },
+         {">005,{Gong}$*new"}},
+        {"delete selects the next item",
+         {{"a"}, {"b"}, {"c"}},
+         1,
+         [](auto& i) { i.Delete(); },
+         {"014,a", ">014,c"}},
+        {"delete of the last leaves no selection and flags do nothing",
+         {{"a"}, {"b"}},
+         1,
+         [](auto& i) {
+             i.Delete();
+             i.SetFlag(HighlightFlag::EntireLine, true);
+             i.LeftClickCell(3);
+         },
+         {"014,a"}},
+        {"sort is stable by the whole colour byte",
+         {{"a", 0x21}, {"b", 3}, {"c", 0x21}, {"d", 3}},
+         2,
+         [](auto& i) { i.SortItems(); },
+         {">003,b", "003,d", "033,a", "033,c"}},
+        {"transparent keeps the foreground or makes yellow",
+         {{"a", 0x2E}, {"b", 0x21}, {"c", 0x2A}},
+         0,
+         [](auto& i) { i.SetAllBackgroundsTransparent(); },
+         {">014,a", "014,b", "010,c"}},
+        {"left cell 0 keeps, right cell 0 clears the background",
+         {{"a", 0x3C}},
+         0,
+         [](auto& i) {
+             i.LeftClickCell(0);
+             i.RightClickCell(0);
+             i.LeftClickCell(15);
+             i.RightClickCell(16);
+         },
+         {">015,a"}},
+        {"flags and sound in their fixed order",
+         {{"Text"}},
+         0,
+         [](auto& i) {
+             i.SetFlag(HighlightFlag::CaseSensitive, true);
+             i.SetSound("Gong");
+             i.SetFlag(HighlightFlag::EntireLine, true);
+         },
+         {">014,{Gong}$@Text"}},
+        {"a marker that would pass eighty bytes is refused",
+         {{"*" + longest}},
+         0,
+         [](auto& i) {
+             i.SetFlag(HighlightFlag::EntireLine, true);
+             i.SetSound("Gong");
+         },
+         {">014,*" + longest}}};
+    for (const auto& row : rows) {
+        HighlightList list;
+        Fill(list, row.list);
+        HighlightItems items;
+        items.OpenList(list);
+        items.Select(row.select);
+        row.edit(items);
+        EXPECT_EQ(Shown(items), row.shown) << row.name;
+    }
 }
 
-const std::string LONGEST(HIGHLIGHT_ASK_LIMIT, 'm');
-
-INSTANTIATE_TEST_SUITE_P(
-    Buttons, PageEdit,
-    ::testing::Values(EditCase{"NewTakesColour14AndIsSelected",
-                               {{"a", 2}},
-                               0,
-                               [](HighlightItems& i) { i.New("Mara"); },
-                               {"002,a", ">014,Mara"}},
-                      EditCase{"NewWithEmptyTextDoesNothing",
-                               {{"a", 2}},
-                               0,
-                               [](HighlightItems& i) { i.New(""); },
-                               {">002,a"}},
-                      EditCase{"TypedColourBytesBecomeQuestionMarks",
-                               {},
-                               -1,
-                               [](HighlightItems& i) { i.New("a\x82z\xA3 \"q\"  "); },
-                               {">014,a?z? \"q\""}},
-                      EditCase{"ChangeKeepsMarkersAndSound",
-                               {{"{Gong}$*old", 5}},
-                               0,
-                               [](HighlightItems& i) { i.Change("new"); },
-                               {">005,{Gong}$*new"}},
-                      EditCase{"DeleteSelectsTheNextItem",
-                               {{"a"}, {"b"}, {"c"}},
-                               1,
-                               [](HighlightItems& i) { i.Delete(); },
-                               {"014,a", ">014,c"}},
-                      EditCase{"DeleteOfTheLastLeavesNoSelectionAndFlagsDoNothing",
-                               {{"a"}, {"b"}},
-                               1,
-                               [](HighlightItems& i) {
-                                   i.Delete();
-                                   i.SetFlag(HighlightFlag::EntireLine, true);
-                                   i.LeftClickCell(3);
-                               },
-                               {"014,a"}},
-                      EditCase{"SortIsStableByTheWholeColourByte",
-                               {{"a", 0x21}, {"b", 3}, {"c", 0x21}, {"d", 3}},
-                               2,
-                               [](HighlightItems& i) { i.SortItems(); },
-                               {">003,b", "003,d", "033,a", "033,c"}},
-                      EditCase{"TransparentKeepsTheForegroundOrMakesYellow",
-                               {{"a", 0x2E}, {"b", 0x21}, {"c", 0x2A}},
-                               0,
-                               [](HighlightItems& i) { i.SetAllBackgroundsTransparent(); },
-                               {">014,a", "014,b", "010,c"}},
-                      EditCase{"LeftCellZeroKeepsRightCellZeroClearsTheBackground",
-                               {{"a", 0x3C}},
-                               0,
-                               [](HighlightItems& i) {
-                                   i.LeftClickCell(0);
-                                   i.RightClickCell(0);
-                                   i.LeftClickCell(15);
-                                   i.RightClickCell(16);
-                               },
-                               {">015,a"}},
-                      EditCase{"FlagsAndSoundInTheirFixedOrder",
-                               {{"Text"}},
-                               0,
-                               [](HighlightItems& i) {
-                                   i.SetFlag(HighlightFlag::CaseSensitive, true);
-                                   i.SetSound("Gong");
-                                   i.SetFlag(HighlightFlag::EntireLine, true);
-                               },
-                               {">014,{Gong}$@Text"}},
-                      EditCase{"AMarkerThatWouldPassEightyBytesIsRefused",
-                               {{"*" + LONGEST}},
-                               0,
-                               [](HighlightItems& i) {
-                                   i.SetFlag(HighlightFlag::EntireLine, true);
-                                   i.SetSound("Gong");
-                               },
-                               {">014,*" + LONGEST}}),
-    [](const auto& info) { return info.param.name; });
-
-TEST(HighlightItems, AListWithAGapOpensWithoutItAndApplyWritesTheItemsSlotForSlot)
+TEST(HighlightItems, AListOpensWithoutItsGapsAndApplyWritesTheItemsSlotForSlot)
 {
     HighlightList list;
     Fill(list, {{"a", 1}, {"", 9}, {"b", 2}});
@@ -183,19 +155,13 @@ TEST(HighlightItems, AListWithAGapOpensWithoutItAndApplyWritesTheItemsSlotForSlo
     EXPECT_STREQ(list.Text(1), "b");
     EXPECT_EQ(list.Color(0), 0x41);
     EXPECT_STREQ(list.Text(2), "");
-}
-
-TEST(HighlightItems, AFullListTakesNoNewItemAndTheAskLimitLeavesRoomForTheMarkers)
-{
-    HighlightList list;
     for (std::size_t i = 0; i < HIGHLIGHT_SLOTS; ++i)
         list.SetText(i, "{Chime}$x");
-    HighlightItems items;
     items.OpenList(list);
     EXPECT_EQ(items.SlotsLeft(), 0);
-    EXPECT_FALSE(items.New("more"));
+    EXPECT_FALSE(items.New("more")) << "a full list takes no new item";
     EXPECT_EQ(items.Count(), HIGHLIGHT_SLOTS);
-    EXPECT_EQ(items.AskLimit(), HIGHLIGHT_TEXT_MAX - 8);
+    EXPECT_EQ(items.AskLimit(), HIGHLIGHT_TEXT_MAX - 8) << "room for the markers";
     EXPECT_TRUE(items.Change(std::string(HIGHLIGHT_TEXT_MAX - 8, 'y')));
     EXPECT_FALSE(items.Change(std::string(HIGHLIGHT_TEXT_MAX - 7, 'y')));
 }

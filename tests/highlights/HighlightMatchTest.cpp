@@ -6,7 +6,7 @@
 #include <gtest/gtest.h>
 
 #include <cstring>
-#include <utility>
+#include <optional>
 
 namespace steward::testing {
 namespace {
@@ -43,17 +43,23 @@ Outcome Apply(const Entries& entries, const std::string& line, bool squelch = fa
 struct Case {
     const char* name;
     Entries entries;
-    std::string line;
-    std::string expected;
+    std::string line, expected;
+    std::optional<Sounds> sounds = std::nullopt; // looked at when given
+    bool squelch = false;
 };
 
 void Check(const std::vector<Case>& cases)
 {
-    for (const Case& c : cases)
-        EXPECT_EQ(Apply(c.entries, c.line).line, c.expected) << c.name;
+    for (const Case& c : cases) {
+        const Outcome outcome = Apply(c.entries, c.line, c.squelch);
+        EXPECT_EQ(outcome.line, c.expected) << c.name;
+        if (c.sounds) {
+            EXPECT_EQ(outcome.sounds, *c.sounds) << c.name;
+        }
+    }
 }
 
-TEST(HighlightWordBoundary, WholeWordsNeedABoundaryOnBothSides)
+TEST(HighlightMatch, WordsCaseRepeatsEntireLinesNestingRunsAndSounds)
 {
     Check({
         {"inside a longer word", {{"Mara"}}, "Maravel waves.", "Maravel waves."},
@@ -74,41 +80,22 @@ TEST(HighlightWordBoundary, WholeWordsNeedABoundaryOnBothSides)
          {{"red dragon"}},
          "A red dragonfly, a red dragon.",
          "A red dragonfly, a " + Lit(14, "red dragon") + "."},
-    });
-}
-
-TEST(HighlightWordBoundary, ColorCodesCountAsBoundaries)
-{
-    const std::string serverColored = Lit(3, "Mara") + "vel";
-    Check({
         {"server colour around the word",
          {{"Mara"}},
          Lit(3, "Mara") + " waves",
          On(3) + Lit(14, "Mara") + Off(3) + " waves"},
         {"server colour after a word part",
          {{"Mara"}},
-         serverColored,
+         Lit(3, "Mara") + "vel",
          On(3) + Lit(14, "Mara") + Off(3) + "vel"},
         {"colour inside a phrase hides it",
          {{"red dragon"}},
          "red" + Lit(2, " dragon"),
          "red" + Lit(2, " dragon")},
-    });
-}
-
-TEST(HighlightCase, CaseSensitiveEntriesCompareExactly)
-{
-    Check({
         {"folded", {{"Mara"}}, "MARA!", Lit(14, "MARA") + "!"},
         {"exact misses", {{"@Mara"}}, "MARA!", "MARA!"},
         {"exact hits", {{"@Mara"}}, "Mara!", Lit(14, "Mara") + "!"},
         {"only letters fold", {{"*[x]"}}, "{X}", "{X}"},
-    });
-}
-
-TEST(HighlightRepeats, EveryOccurrenceIsColoured)
-{
-    Check({
         {"three times",
          {{"orc"}},
          "orc, orc and orc",
@@ -119,12 +106,6 @@ TEST(HighlightRepeats, EveryOccurrenceIsColoured)
          "an orc",
          "an \x91\x8E"
          "orc\xA1\xA0"},
-    });
-}
-
-TEST(HighlightEntireLine, TheWholeLineIsColouredOnce)
-{
-    Check({
         {"once for many hits", {{"$orc"}}, "orc orc\r\n", Lit(14, "orc orc\r\n")},
         {"after partial entries",
          {{"orc", 2}, {"$orc", 5}},
@@ -135,12 +116,6 @@ TEST(HighlightEntireLine, TheWholeLineIsColouredOnce)
          "an orc",
          On(5) + "an " + Lit(2, "orc") + Off(5)},
         {"boundaries still apply", {{"$orc"}}, "an orchard", "an orchard"},
-    });
-}
-
-TEST(HighlightNesting, LaterEntriesNestInsideEarlierOnes)
-{
-    Check({
         {"same text twice", {{"orc", 1}, {"orc", 2}}, "orc", On(1) + Lit(2, "orc") + Off(1)},
         {"later text inside the earlier",
          {{"red dragon", 1}, {"dragon", 2}},
@@ -150,50 +125,38 @@ TEST(HighlightNesting, LaterEntriesNestInsideEarlierOnes)
          {{"red", 1}, {"red dragon", 2}},
          "a red dragon",
          "a " + Lit(1, "red") + " dragon"},
+        {"unclosed sound", {{"orc"}, {"{gong"}, {"elf"}}, "orc elf", Lit(14, "orc") + " elf"},
+        {"markers only", {{"orc"}, {"{gong}$*@"}, {"elf"}}, "orc elf", Lit(14, "orc") + " elf"},
+        {"markers out of order are text", {{"*$orc"}}, "a $orc", "a " + Lit(14, "$orc")},
+        {"empty sound is fine", {{"{}orc"}}, "orc", Lit(14, "orc")},
+        {"a sound per hit",
+         {{"{gong}orc"}},
+         "orc orc",
+         Lit(14, "orc") + " " + Lit(14, "orc"),
+         Sounds{"gong", "gong"}},
+        {"entire line once", {{"{gong}$orc"}}, "orc orc", Lit(14, "orc orc"), Sounds{"gong"}},
+        {"sounds in slot order",
+         {{"{b}elf"}, {"{a}orc"}},
+         "orc elf",
+         Lit(14, "orc") + " " + Lit(14, "elf"),
+         Sounds{"b", "a"}},
+        {"a quote anywhere silences but colours",
+         {{"{gong}orc"}},
+         "orc says, \"x\"",
+         Lit(14, "orc") + " says, \"x\"",
+         Sounds{}},
+        {"squelched", {{"{gong}orc"}}, "orc", Lit(14, "orc"), Sounds{}, true},
+        {"no hit no sound", {{"{gong}orc"}}, "orchard", "orchard", Sounds{}},
     });
-}
-
-TEST(HighlightRun, TheRunEndsAtAFreeSlotOrAMalformedEntry)
-{
     HighlightList list;
     Fill(list, {{"orc"}, {""}, {"elf"}});
     char line[64] = "orc elf";
     RecordedSounds sounds;
     ApplyHighlights(list, line, sizeof line, false, sounds);
-    EXPECT_EQ(std::string(line), Lit(14, "orc") + " elf");
-    Check({
-        {"unclosed sound", {{"orc"}, {"{gong"}, {"elf"}}, "orc elf", Lit(14, "orc") + " elf"},
-        {"markers only", {{"orc"}, {"{gong}$*@"}, {"elf"}}, "orc elf", Lit(14, "orc") + " elf"},
-        {"markers out of order are text", {{"*$orc"}}, "a $orc", "a " + Lit(14, "$orc")},
-        {"empty sound is fine", {{"{}orc"}}, "orc", Lit(14, "orc")},
-    });
+    EXPECT_EQ(std::string(line), Lit(14, "orc") + " elf") << "the run ends at a free slot";
 }
 
-TEST(HighlightSound, SoundsPlayPerHitUnlessSquelchedOrQuoted)
-{
-    const struct {
-        const char* name;
-        Entries entries;
-        std::string line;
-        bool squelch;
-        Sounds expected;
-    } cases[] = {
-        {"one per hit", {{"{gong}orc"}}, "orc orc", false, {"gong", "gong"}},
-        {"entire line once", {{"{gong}$orc"}}, "orc orc", false, {"gong"}},
-        {"in slot order", {{"{b}elf"}, {"{a}orc"}}, "orc elf", false, {"b", "a"}},
-        {"quote anywhere silences", {{"{gong}orc"}}, "orc says, \"x\"", false, {}},
-        {"squelched", {{"{gong}orc"}}, "orc", true, {}},
-        {"no hit no sound", {{"{gong}orc"}}, "orchard", false, {}},
-    };
-    for (const auto& c : cases) {
-        const Outcome outcome = Apply(c.entries, c.line, c.squelch);
-        EXPECT_EQ(outcome.sounds, c.expected) << c.name;
-    }
-    EXPECT_EQ(Apply({{"{gong}orc"}}, "orc says, \"x\"").line, Lit(14, "orc") + " says, \"x\"")
-        << "a silent hit is still coloured";
-}
-
-TEST(HighlightBounds, HitsStopWhenTheBufferIsFull)
+TEST(HighlightBounds, HitsStopWhenTheBufferIsFullAndALineWithoutItsNulIsLeftAlone)
 {
     // "ab ab ab": each hit needs two more bytes; 8 bytes of text, NUL, room for two hits.
     const Outcome two = Apply({{"{s}ab"}}, "ab ab ab", false, 13);
@@ -205,10 +168,6 @@ TEST(HighlightBounds, HitsStopWhenTheBufferIsFull)
     EXPECT_EQ(Apply({{"ab", 0x1E}}, "ab ab", false, 10).line, "\x91\x8E"
                                                               "ab\xA1\xA0 ab");
     EXPECT_EQ(Apply({{"$ab"}}, "ab", false, 4).line, "ab");
-}
-
-TEST(HighlightBounds, ALineWithoutItsNulIsLeftAlone)
-{
     HighlightList list;
     Fill(list, {{"*a"}});
     char line[4] = {'a', 'a', 'a', 'a'};

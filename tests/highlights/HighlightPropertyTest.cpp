@@ -83,17 +83,6 @@ class CaseMaker {
     std::mt19937 random_;
 };
 
-std::string Printable(const std::string& bytes)
-{
-    std::string out;
-    for (const unsigned char c : bytes) {
-        char piece[8];
-        std::snprintf(piece, sizeof piece, c >= 0x20 && c < 0x7F ? "%c" : "\\x%02X", c);
-        out += piece;
-    }
-    return out;
-}
-
 // Fills the list with up to 12 random entries and returns their texts.
 std::vector<std::string> RandomList(CaseMaker& make, HighlightList& list, std::size_t count)
 {
@@ -105,14 +94,6 @@ std::vector<std::string> RandomList(CaseMaker& make, HighlightList& list, std::s
         list.SetText(i, texts.back().c_str());
     }
     return texts;
-}
-
-std::string Describe(const std::vector<std::string>& texts)
-{
-    std::string out;
-    for (const std::string& text : texts)
-        out.append("[").append(Printable(text)).append("] ");
-    return out;
 }
 
 // Both lists of the session through their shared index, against the plain form run on the
@@ -136,10 +117,11 @@ TEST(HighlightProperty, TheIndexGivesTheBytesAndSoundsOfThePlainForm)
             ApplyHighlights(lists.NameHighlights, plain, capacity, false, plainSounds);
             lists.ApplyHighlights(fast, capacity, false, fastSounds);
             if (std::strcmp(plain, fast) != 0 || plainSounds.played != fastSounds.played) {
-                FAIL() << "case " << cases << " line [" << Printable(line) << "] capacity "
-                       << capacity << "\nstrings " << Describe(strings) << "\nnames "
-                       << Describe(names) << "\nplain [" << Printable(plain) << "]\nfast  ["
-                       << Printable(fast) << "]";
+                using ::testing::PrintToString;
+                FAIL() << "case " << cases << " line " << PrintToString(line) << " capacity "
+                       << capacity << "\nstrings " << PrintToString(strings) << "\nnames "
+                       << PrintToString(names) << "\nplain " << PrintToString(std::string(plain))
+                       << "\nfast  " << PrintToString(std::string(fast));
             }
         }
     }

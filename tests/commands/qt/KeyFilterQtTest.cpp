@@ -13,10 +13,6 @@
 #include <QTest>
 #include <gtest/gtest.h>
 
-#include <memory>
-#include <string>
-#include <vector>
-
 namespace steward::test {
 namespace {
 
@@ -59,7 +55,7 @@ class KeyFilterQtTest : public ::testing::Test {
     KeyFilterQt qtFilter{keyboard.Filter, *line};
 };
 
-TEST_F(KeyFilterQtTest, TypedLineGoesOutOnEnter)
+TEST_F(KeyFilterQtTest, TypedKeysReachTheKeyboardAndTheLine)
 {
     QTest::keyClicks(line, "look");
     Click(Qt::Key_Return);
@@ -67,96 +63,70 @@ TEST_F(KeyFilterQtTest, TypedLineGoesOutOnEnter)
     ServeQueue();
     EXPECT_EQ(sink.sent, Strings{"look"});
     EXPECT_EQ(Text(), "");
-    EXPECT_STREQ(history.EntryAt(0), "look");
-}
-
-TEST_F(KeyFilterQtTest, AltFIsAMacroKeyAndNeverOpensTheFileMenu)
-{
-    QSignalSpy shown(fileMenu, &QMenu::aboutToShow);
-    Click(Qt::Key_F, Qt::AltModifier);
-    EXPECT_EQ(shown.count(), 0);
-    EXPECT_EQ(QApplication::activePopupWidget(), nullptr);
-    EXPECT_EQ(Text(), "");
-    macros.SetMacro(KEY_ALT, 'F', "flee");
-    Click(Qt::Key_F, Qt::AltModifier);
-    EXPECT_EQ(Text(), "flee");
-    EXPECT_EQ(shown.count(), 0);
-}
-
-TEST_F(KeyFilterQtTest, AltWithAMainRowDigitKeySelectsItsSetWhateverTheKeyTypes)
-{
-    // The XKB key codes of the main row's "1", "5" and "0" keys.
-    const struct {
-        const char* name;
-        Qt::Key key;
-        Qt::KeyboardModifiers modifiers;
-        quint32 scanCode;
-        const char* text;
-        int set;
-    } cases[] = {
-        {"ShiftedOne", Qt::Key_Exclam, Qt::AltModifier | Qt::ShiftModifier, 10, "!", 0},
-        {"FiveOfALayoutWithShiftedDigits", Qt::Key_ParenLeft, Qt::AltModifier, 14, "(", 4},
-        {"ShiftedZeroOfThatLayout", Qt::Key_0, Qt::AltModifier | Qt::ShiftModifier, 19, "0", 9},
-    };
-    for (const auto& c : cases) {
-        macros.SelectMacroSet(5);
-        for (QEvent::Type type : {QEvent::ShortcutOverride, QEvent::KeyPress, QEvent::KeyRelease}) {
-            QKeyEvent event(type, c.key, c.modifiers, c.scanCode, 0, 0,
-                            QString::fromLatin1(c.text));
-            QApplication::sendEvent(line, &event);
-        }
-        EXPECT_EQ(macros.CurrentMacroSet(), c.set) << c.name;
-        EXPECT_EQ(Text(), "") << c.name;
-    }
-}
-
-TEST_F(KeyFilterQtTest, BareAltKeepsTheFocusOnTheLine)
-{
-    Click(Qt::Key_Alt, Qt::AltModifier);
-    EXPECT_EQ(QApplication::focusWidget(), line);
-    EXPECT_EQ(window.menuBar()->activeAction(), nullptr);
-    QTest::keyClicks(line, "ok");
-    EXPECT_EQ(Text(), "ok");
-}
-
-TEST_F(KeyFilterQtTest, HonouredNumLockTypesDigitsAndOffPlaysMacros)
-{
-    options.HonorNumLock = 1;
-    Click(Qt::Key_8, Qt::KeypadModifier);
-    Click(Qt::Key_Asterisk, Qt::KeypadModifier);
-    EXPECT_EQ(Text(), "8*");
-    EXPECT_TRUE(qtFilter.NumLockOn());
-    Click(Qt::Key_Up, Qt::KeypadModifier);
-    EXPECT_FALSE(qtFilter.NumLockOn());
-    EXPECT_EQ(sink.sent, Strings{"n"}); // the macro's \x drops the typed digits
-    Click(Qt::Key_Asterisk, Qt::KeypadModifier);
-    EXPECT_EQ(sink.sent, (Strings{"n", "exp"}));
-}
-
-TEST_F(KeyFilterQtTest, ArrowsBrowseTheHistory)
-{
-    history.RememberCommand("look", 4);
     history.RememberCommand("kill rat", 4);
     Click(Qt::Key_Up);
     Click(Qt::Key_Up);
     EXPECT_EQ(Text(), "look");
     EXPECT_EQ(line->cursorPosition(), 4);
     Click(Qt::Key_Down);
-    EXPECT_EQ(Text(), "kill rat");
     Click(Qt::Key_Left);
     Click(Qt::Key_Backspace);
     EXPECT_EQ(Text(), "kill rt");
-}
-
-TEST_F(KeyFilterQtTest, EscapeEmptiesTheLineAndLeavesScrollback)
-{
-    QTest::keyClicks(line, "half");
     Click(Qt::Key_Escape);
     EXPECT_EQ(Text(), "");
     EXPECT_EQ(host.calls, Strings{"endscrollback"});
+    QTest::keyClicks(line, "caf");
+    QKeyEvent accent(QEvent::KeyPress, Qt::Key_Eacute, Qt::NoModifier,
+                     QString::fromUtf8("\xc3\xa9"));
+    QApplication::sendEvent(line, &accent);
+    QTest::keyClick(line, '!');
+    EXPECT_EQ(Text(), "caf?!") << "characters outside ASCII become question marks";
+    QTest::keyClicks(line, QString(300, 'a'));
+    EXPECT_EQ(line->text().size(), 255);
+    line->SetSelection(0, 1);
+    line->TypeCharacter('b');
+    EXPECT_EQ(line->text().left(2).toStdString(), "ba");
+    EXPECT_EQ(line->text().size(), 255);
 }
 
-TEST_F(KeyFilterQtTest, ModalDialogsKeepTheirKeys)
+TEST_F(KeyFilterQtTest, AltKeysAreTheKeyboardsAndNeverOpenTheMenu)
+{
+    QSignalSpy shown(fileMenu, &QMenu::aboutToShow);
+    Click(Qt::Key_F, Qt::AltModifier);
+    EXPECT_EQ(Text(), "");
+    macros.SetMacro(KEY_ALT, 'F', "flee");
+    Click(Qt::Key_F, Qt::AltModifier);
+    EXPECT_EQ(Text(), "flee");
+    EXPECT_EQ(shown.count(), 0);
+    EXPECT_EQ(QApplication::activePopupWidget(), nullptr);
+    line->clear();
+    Click(Qt::Key_Alt, Qt::AltModifier);
+    EXPECT_EQ(QApplication::focusWidget(), line);
+    EXPECT_EQ(window.menuBar()->activeAction(), nullptr);
+    // With Alt, a main row digit key selects its set whatever it types: XKB codes 10, 14, 19.
+    const struct {
+        Qt::Key key;
+        Qt::KeyboardModifiers modifiers;
+        quint32 scanCode;
+        const char* text;
+        int set;
+    } rows[] = {{Qt::Key_Exclam, Qt::AltModifier | Qt::ShiftModifier, 10, "!", 0},
+                {Qt::Key_ParenLeft, Qt::AltModifier, 14, "(", 4},
+                {Qt::Key_0, Qt::AltModifier | Qt::ShiftModifier, 19, "0", 9}};
+    for (const auto& row : rows) {
+        macros.SelectMacroSet(5);
+        for (QEvent::Type type : {QEvent::ShortcutOverride, QEvent::KeyPress, QEvent::KeyRelease}) {
+            QKeyEvent event(type, row.key, row.modifiers, row.scanCode, 0, 0,
+                            QString::fromLatin1(row.text));
+            QApplication::sendEvent(line, &event);
+        }
+        EXPECT_EQ(macros.CurrentMacroSet(), row.set) << row.text;
+    }
+    QTest::keyClicks(line, "ok");
+    EXPECT_EQ(Text(), "ok");
+}
+
+TEST_F(KeyFilterQtTest, ModalDialogsKeepTheirKeysAndNumLockIsFollowed)
 {
     macros.SetMacro(KEY_ALT, 'F', "flee");
     QDialog dialog(&window);
@@ -170,26 +140,17 @@ TEST_F(KeyFilterQtTest, ModalDialogsKeepTheirKeys)
     EXPECT_EQ(field->text().toStdString(), "f8");
     EXPECT_TRUE(sink.sent.empty());
     dialog.reject();
-}
-
-TEST_F(KeyFilterQtTest, TypedCharactersOutsideAsciiBecomeQuestionMarks)
-{
-    QTest::keyClicks(line, "caf");
-    QKeyEvent accent(QEvent::KeyPress, Qt::Key_Eacute, Qt::NoModifier,
-                     QString::fromUtf8("\xc3\xa9"));
-    QApplication::sendEvent(line, &accent);
-    QTest::keyClick(line, '!');
-    EXPECT_EQ(Text(), "caf?!");
-}
-
-TEST_F(KeyFilterQtTest, TheLineHoldsAt255Characters)
-{
-    QTest::keyClicks(line, QString(300, 'a'));
-    EXPECT_EQ(line->text().size(), 255);
-    line->SetSelection(0, 1);
-    line->TypeCharacter('b');
-    EXPECT_EQ(line->text().left(2).toStdString(), "ba");
-    EXPECT_EQ(line->text().size(), 255);
+    line->setFocus();
+    options.HonorNumLock = 1;
+    QTest::keyClick(line, Qt::Key_8, Qt::KeypadModifier);
+    QTest::keyClick(line, Qt::Key_Asterisk, Qt::KeypadModifier);
+    EXPECT_EQ(Text(), "8*");
+    EXPECT_TRUE(qtFilter.NumLockOn());
+    QTest::keyClick(line, Qt::Key_Up, Qt::KeypadModifier);
+    EXPECT_FALSE(qtFilter.NumLockOn());
+    EXPECT_EQ(sink.sent, Strings{"n"}); // the macro's \x drops the typed digits
+    QTest::keyClick(line, Qt::Key_Asterisk, Qt::KeypadModifier);
+    EXPECT_EQ(sink.sent, (Strings{"n", "exp"}));
 }
 
 TEST(CommandLineEdit, ActsAsAnEditControl)
@@ -198,8 +159,7 @@ TEST(CommandLineEdit, ActsAsAnEditControl)
     line.SetText("tell bob hi");
     EXPECT_EQ(line.cursorPosition(), 0);
     line.SetSelection(5, 8);
-    int start = 0;
-    int end = 0;
+    int start = 0, end = 0;
     line.GetSelection(start, end);
     EXPECT_EQ(start, 5);
     EXPECT_EQ(end, 8);
@@ -218,20 +178,17 @@ TEST(CommandLineEdit, ActsAsAnEditControl)
     EXPECT_STREQ(text, "tell X ");
 }
 
-struct MapCase {
-    Qt::Key key;
-    Qt::KeyboardModifiers modifiers;
-    bool numLockBefore;
-    int virtualKey;
-    KeyModifiers expected;
-    bool numLockAfter;
-};
-
 TEST(KeyMap, QtKeysBecomeVirtualKeysAndModifiers)
 {
-    const Qt::KeyboardModifiers none = Qt::NoModifier;
-    const Qt::KeyboardModifiers pad = Qt::KeypadModifier;
-    const MapCase cases[] = {
+    const Qt::KeyboardModifiers none = Qt::NoModifier, pad = Qt::KeypadModifier;
+    const struct {
+        Qt::Key key;
+        Qt::KeyboardModifiers modifiers;
+        bool numLockBefore;
+        int virtualKey;
+        KeyModifiers expected;
+        bool numLockAfter;
+    } cases[] = {
         {Qt::Key_A, Qt::AltModifier | Qt::ShiftModifier, false, 'A', KEY_ALT | KEY_SHIFT, false},
         {Qt::Key_7, Qt::ControlModifier, true, '7', KEY_CTRL | KEY_NUMLOCK, true},
         {Qt::Key_F12, none, false, VK_F12, 0, false},
@@ -246,9 +203,8 @@ TEST(KeyMap, QtKeysBecomeVirtualKeysAndModifiers)
         {Qt::Key_Return, none, false, VK_RETURN, 0, false},
         {Qt::Key_Backtab, Qt::ShiftModifier, false, VK_TAB, KEY_SHIFT, false},
         {Qt::Key_Alt, Qt::AltModifier, false, VK_MENU, KEY_ALT, false},
-        {Qt::Key_Backspace, none, false, 0, 0, false},
-    };
-    for (const MapCase& c : cases) {
+        {Qt::Key_Backspace, none, false, 0, 0, false}};
+    for (const auto& c : cases) {
         bool numLock = c.numLockBefore;
         TranslatedKey key = TranslateKey(c.key, c.modifiers, numLock);
         EXPECT_EQ(key.VirtualKey, c.virtualKey) << c.key;

@@ -42,84 +42,62 @@ class MacroSheetTest : public ::testing::Test {
         return *sheet_;
     }
 
+    void Reopen() { sheet_.reset(); }
+
     MacroStore store;
 
   private:
     std::unique_ptr<MacroSheet> sheet_;
 };
 
-struct EditCase {
-    const char* name;
-    Tab tab;
-    int row;
-    KeyModifiers modifiers;
-    int key;
-};
-
-class MacroSheetEdit : public MacroSheetTest, public ::testing::WithParamInterface<EditCase> {
-  protected:
-    QLineEdit* EditOf(const EditCase& c)
-    {
-        if (c.tab == ALT_TAB || c.tab == CTRL_TAB)
-            return Open<LetterPage>(c.tab).Edit(c.row);
-        return Open<KeyTypePage>(c.tab).Edit(c.row);
+TEST_F(MacroSheetTest, AnEditReachesTheStoreOnOkOnly)
+{
+    const struct {
+        Tab tab;
+        int row;
+        KeyModifiers modifiers;
+        int key;
+    } rows[] = {{ALT_TAB, 16, KEY_ALT, 'Q'},
+                {CTRL_TAB, 25, KEY_CTRL, 'Z'},
+                {FKEY_TAB, 11, 0, VK_F1 + 11},
+                {KEYPAD_TAB, 14, 0, VK_ADD}};
+    for (const auto& row : rows) {
+        for (bool ok : {false, true}) {
+            SCOPED_TRACE(row.key);
+            store.SetMacro(row.modifiers, row.key, "before");
+            Reopen();
+            QLineEdit* edit = row.tab == ALT_TAB || row.tab == CTRL_TAB
+                                  ? Open<LetterPage>(row.tab).Edit(row.row)
+                                  : Open<KeyTypePage>(row.tab).Edit(row.row);
+            EXPECT_EQ(edit->text(), "before");
+            edit->setText("after");
+            EXPECT_EQ(Macro(row.modifiers, row.key), "before");
+            if (ok)
+                Sheet().accept();
+            else
+                Sheet().reject();
+            EXPECT_EQ(Macro(row.modifiers, row.key), ok ? "after" : "before");
+        }
     }
-};
-
-TEST_P(MacroSheetEdit, ReachesTheStoreOnOkOnly)
-{
-    const EditCase& c = GetParam();
-    store.SetMacro(c.modifiers, c.key, "before");
-    QLineEdit* edit = EditOf(c);
-    EXPECT_EQ(edit->text(), "before");
-    edit->setText("after");
-    EXPECT_EQ(Macro(c.modifiers, c.key), "before");
-    Sheet().accept();
-    EXPECT_EQ(Macro(c.modifiers, c.key), "after");
 }
 
-TEST_P(MacroSheetEdit, CancelDropsTheEdit)
+TEST_F(MacroSheetTest, EnterInAnEditIsOkAndEscapeIsCancel)
 {
-    const EditCase& c = GetParam();
-    EditOf(c)->setText("dropped");
-    Sheet().reject();
-    EXPECT_EQ(Macro(c.modifiers, c.key), "");
+    for (Qt::Key key : {Qt::Key_Escape, Qt::Key_Return}) {
+        Reopen();
+        Sheet().show();
+        QApplication::setActiveWindow(&Sheet());
+        ASSERT_TRUE(QTest::qWaitForWindowActive(&Sheet()));
+        QLineEdit* edit = Open<LetterPage>(ALT_TAB).Edit(1);
+        edit->setFocus();
+        QTest::keyClicks(edit, "typed");
+        QTest::keyClick(edit, key);
+        EXPECT_FALSE(Sheet().isVisible());
+        EXPECT_EQ(Macro(KEY_ALT, 'B'), key == Qt::Key_Return ? "typed" : "");
+    }
 }
 
-INSTANTIATE_TEST_SUITE_P(Pages, MacroSheetEdit,
-                         ::testing::Values(EditCase{"AltQ", ALT_TAB, 16, KEY_ALT, 'Q'},
-                                           EditCase{"CtrlZ", CTRL_TAB, 25, KEY_CTRL, 'Z'},
-                                           EditCase{"F12", FKEY_TAB, 11, 0, VK_F1 + 11},
-                                           EditCase{"KeypadPlus", KEYPAD_TAB, 14, 0, VK_ADD}),
-                         [](const auto& info) { return info.param.name; });
-
-struct KeyCase {
-    const char* name;
-    Qt::Key key;
-    const char* stored;
-};
-
-class MacroSheetKey : public MacroSheetTest, public ::testing::WithParamInterface<KeyCase> {};
-
-TEST_P(MacroSheetKey, EnterInAnEditIsOkAndEscapeIsCancel)
-{
-    Sheet().show();
-    QApplication::setActiveWindow(&Sheet());
-    ASSERT_TRUE(QTest::qWaitForWindowActive(&Sheet()));
-    QLineEdit* edit = Open<LetterPage>(ALT_TAB).Edit(1);
-    edit->setFocus();
-    QTest::keyClicks(edit, "typed");
-    QTest::keyClick(edit, GetParam().key);
-    EXPECT_FALSE(Sheet().isVisible());
-    EXPECT_EQ(Macro(KEY_ALT, 'B'), GetParam().stored);
-}
-
-INSTANTIATE_TEST_SUITE_P(Keys, MacroSheetKey,
-                         ::testing::Values(KeyCase{"Enter", Qt::Key_Return, "typed"},
-                                           KeyCase{"Escape", Qt::Key_Escape, ""}),
-                         [](const auto& info) { return info.param.name; });
-
-TEST_F(MacroSheetTest, AKeyTypeChangeStoresTheRowsAtOnce)
+TEST_F(MacroSheetTest, AKeyTypeChangeStoresTheRowsAtOnceAndSetsCarryTheirNames)
 {
     auto& page = Open<FunctionKeyPage>(FKEY_TAB);
     page.Edit(0)->setText("kept");
@@ -131,26 +109,22 @@ TEST_F(MacroSheetTest, AKeyTypeChangeStoresTheRowsAtOnce)
     EXPECT_FALSE(page.Edit(ALT_HIDDEN_FUNCTION_KEY)->isHidden());
     page.ChooseKeyType(KEY_TYPE_STANDARD);
     EXPECT_EQ(page.Edit(0)->text(), "kept");
-    Sheet().reject();
-    EXPECT_EQ(Macro(0, VK_F1), "kept");
-    EXPECT_EQ(Macro(KEY_ALT, VK_F1), "alt text");
-}
-
-TEST_F(MacroSheetTest, TheSetStepsWrapAndCarryTheirNames)
-{
-    auto& page = Open<FunctionKeyPage>(FKEY_TAB);
     page.NameEdit()->setText("first set");
     page.StepSet(false);
-    EXPECT_EQ(store.CurrentMacroSet(), MACRO_SET_COUNT - 1);
+    EXPECT_EQ(store.CurrentMacroSet(), MACRO_SET_COUNT - 1) << "the set steps wrap";
     EXPECT_EQ(page.SetList()->currentText(), "Macro Set 10");
     EXPECT_EQ(page.NameEdit()->text(), "");
     page.StepSet(true);
     EXPECT_EQ(store.CurrentMacroSet(), 0);
     EXPECT_EQ(page.NameEdit()->text(), "first set");
+    Sheet().reject();
+    EXPECT_EQ(Macro(0, VK_F1), "kept");
+    EXPECT_EQ(Macro(KEY_ALT, VK_F1), "alt text");
 }
 
-TEST_F(MacroSheetTest, LongTextsAreCutAtTheEditsLimits)
+TEST_F(MacroSheetTest, LongTextsAreCutAtTheEditsLimitsAndAPageNeverOpenedIsNotWritten)
 {
+    store.SetMacro(KEY_CTRL, 'A', std::string(MACRO_EDIT_LIMIT, 'y').c_str());
     auto& page = Open<LetterPage>(ALT_TAB);
     QApplication::clipboard()->setText(QString(10000, 'x'));
     page.Edit(0)->paste();
@@ -160,12 +134,6 @@ TEST_F(MacroSheetTest, LongTextsAreCutAtTheEditsLimits)
     Sheet().accept();
     EXPECT_EQ(Macro(KEY_ALT, 'A'), std::string(MACRO_EDIT_KEPT, 'x'));
     EXPECT_EQ(std::string(store.MacroSetName(0)), std::string(MACRO_SET_NAME_KEPT, 'x'));
-}
-
-TEST_F(MacroSheetTest, APageNeverOpenedIsNotWritten)
-{
-    store.SetMacro(KEY_CTRL, 'A', std::string(MACRO_EDIT_LIMIT, 'y').c_str());
-    Sheet().accept();
     EXPECT_EQ(Sheet().Page(CTRL_TAB), nullptr);
     EXPECT_EQ(Macro(KEY_CTRL, 'A').size(), std::size_t{MACRO_EDIT_LIMIT});
 }

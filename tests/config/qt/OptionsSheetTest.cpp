@@ -5,6 +5,7 @@
 
 #include <QCheckBox>
 #include <QLineEdit>
+#include <QSpinBox>
 #include <QTabWidget>
 #include <QTemporaryDir>
 #include <QTest>
@@ -12,6 +13,7 @@
 
 #include <memory>
 #include <string>
+#include <vector>
 
 namespace steward {
 namespace {
@@ -69,43 +71,35 @@ class OptionsSheetTest : public ::testing::Test {
     std::unique_ptr<OptionsSheet> sheet_;
 };
 
-struct FlagCase {
-    const char* name;
-    int index;
-    std::uint8_t Settings::*field;
-};
-
-class SettingsFlags : public OptionsSheetTest, public ::testing::WithParamInterface<FlagCase> {};
-
-TEST_P(SettingsFlags, OkSetsTheFieldCancelLeavesIt)
+TEST_F(OptionsSheetTest, OkSetsEachFlagCancelLeavesIt)
 {
-    Settings& settings = profile.Settings;
-    const std::uint8_t before = settings.*GetParam().field;
-    QCheckBox* box = Open<SettingsPage>(SETTINGS_TAB).Flag(GetParam().index);
-    EXPECT_EQ(box->isChecked(), before != 0);
-    box->setChecked(before == 0);
-    Sheet().reject();
-    EXPECT_EQ(settings.*GetParam().field, before);
-    Reopen();
-    Open<SettingsPage>(SETTINGS_TAB).Flag(GetParam().index)->setChecked(before == 0);
-    Sheet().accept();
-    EXPECT_EQ(settings.*GetParam().field, before == 0 ? 1 : 0);
+    std::uint8_t Settings::*const fields[] = {&Settings::BufferedUpdates,
+                                              &Settings::ShowCursor,
+                                              &Settings::HonorNumLock,
+                                              &Settings::SquelchSounds,
+                                              &Settings::CompressThoughtMessages,
+                                              &Settings::IgnoreYells,
+                                              &Settings::OnlyListedArrivals,
+                                              &Settings::ShowStatusPrompt,
+                                              &Settings::LocalEcho};
+    for (int index = 0; index < 9; ++index) {
+        SCOPED_TRACE(index);
+        std::uint8_t& field = profile.Settings.*fields[index];
+        const std::uint8_t before = field;
+        Reopen();
+        QCheckBox* box = Open<SettingsPage>(SETTINGS_TAB).Flag(index);
+        EXPECT_EQ(box->isChecked(), before != 0);
+        box->setChecked(before == 0);
+        Sheet().reject();
+        EXPECT_EQ(field, before);
+        Reopen();
+        Open<SettingsPage>(SETTINGS_TAB).Flag(index)->setChecked(before == 0);
+        Sheet().accept();
+        EXPECT_EQ(field, before == 0 ? 1 : 0);
+    }
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Flags, SettingsFlags,
-    ::testing::Values(FlagCase{"BufferedUpdates", 0, &Settings::BufferedUpdates},
-                      FlagCase{"ShowCursor", 1, &Settings::ShowCursor},
-                      FlagCase{"HonorNumLock", 2, &Settings::HonorNumLock},
-                      FlagCase{"SquelchSounds", 3, &Settings::SquelchSounds},
-                      FlagCase{"CompressThoughts", 4, &Settings::CompressThoughtMessages},
-                      FlagCase{"IgnoreYells", 5, &Settings::IgnoreYells},
-                      FlagCase{"OnlyListedArrivals", 6, &Settings::OnlyListedArrivals},
-                      FlagCase{"ShowStatusPrompt", 7, &Settings::ShowStatusPrompt},
-                      FlagCase{"LocalEcho", 8, &Settings::LocalEcho}),
-    [](const auto& info) { return std::string(info.param.name); });
-
-TEST_F(OptionsSheetTest, PrefixTakesOneCharacterAndEmptyGivesADot)
+TEST_F(OptionsSheetTest, PrefixTakesOneCharacterAndMinCommandLengthUpToThreeDigits)
 {
     profile.Settings.CommandPrefix = 0;
     QLineEdit* prefix = Open<SettingsPage>(SETTINGS_TAB).Prefix();
@@ -119,32 +113,19 @@ TEST_F(OptionsSheetTest, PrefixTakesOneCharacterAndEmptyGivesADot)
     Open<SettingsPage>(SETTINGS_TAB).Prefix()->clear();
     Sheet().accept();
     EXPECT_EQ(profile.Settings.CommandPrefix, '.');
+    const struct {
+        const char* typed;
+        std::int16_t stored;
+    } rows[] = {{"999", 999}, {"1234", 123}, {"-x5", 5}, {"", 0}};
+    for (const auto& row : rows) {
+        Reopen();
+        QLineEdit* edit = Open<SettingsPage>(SETTINGS_TAB).MinLength();
+        edit->clear();
+        QTest::keyClicks(edit, QString::fromLatin1(row.typed));
+        Sheet().accept();
+        EXPECT_EQ(profile.Settings.MinCommandLength, row.stored) << row.typed;
+    }
 }
-
-struct LengthCase {
-    const char* name;
-    const char* typed;
-    std::int16_t stored;
-};
-
-class MinCommandLength : public OptionsSheetTest,
-                         public ::testing::WithParamInterface<LengthCase> {};
-
-TEST_P(MinCommandLength, TakesUpToThreeDigits)
-{
-    QLineEdit* edit = Open<SettingsPage>(SETTINGS_TAB).MinLength();
-    edit->clear();
-    QTest::keyClicks(edit, QString::fromLatin1(GetParam().typed));
-    Sheet().accept();
-    EXPECT_EQ(profile.Settings.MinCommandLength, GetParam().stored);
-}
-
-INSTANTIATE_TEST_SUITE_P(Typed, MinCommandLength,
-                         ::testing::Values(LengthCase{"Largest", "999", 999},
-                                           LengthCase{"FourthDigitRefused", "1234", 123},
-                                           LengthCase{"SignAndLettersRefused", "-x5", 5},
-                                           LengthCase{"EmptyIsZero", "", 0}),
-                         [](const auto& info) { return std::string(info.param.name); });
 
 TEST_F(OptionsSheetTest, InventoryCommandsAreCopiedAndCut)
 {
@@ -179,29 +160,52 @@ TEST_F(OptionsSheetTest, PathsGoToTheMainIniAtOnce)
     EXPECT_EQ(IniValue("Sound Path"), "(none)");
 }
 
-TEST_F(OptionsSheetTest, PagesNeverOpenedAndCancelChangeNothing)
+TEST_F(OptionsSheetTest, PagesNeverOpenedAndCancelChangeNothingAndOkWritesTheOptions)
 {
     ASSERT_TRUE(WriteString(files.MainIni, "Config", "Script Path", "/kept"));
     Open<PathsPage>(PATHS_TAB).Path(1)->setText(QStringLiteral("/dropped"));
+    Open<StewardPage>(STEWARD_TAB).Check(RECONNECT_ON_DROP)->setChecked(true);
     Sheet().reject();
+    EXPECT_FALSE(steward.IsOn(RECONNECT_ON_DROP));
     Reopen();
     Sheet().accept();
     EXPECT_EQ(IniValue("Script Path"), "/kept");
     EXPECT_EQ(Sheet().Page(INVENTORY_TAB), nullptr);
     EXPECT_STREQ(profile.EquipWeapon, "ready saber");
-}
-
-TEST_F(OptionsSheetTest, StewardOptionsGoToTheirOwnSectionOnOkOnly)
-{
-    Open<StewardPage>(STEWARD_TAB).Check(RECONNECT_ON_DROP)->setChecked(true);
-    Sheet().reject();
-    EXPECT_FALSE(steward.IsOn(RECONNECT_ON_DROP));
     Reopen();
     Open<StewardPage>(STEWARD_TAB).Check(RECONNECT_ON_DROP)->setChecked(true);
     Sheet().accept();
-    EXPECT_TRUE(steward.IsOn(RECONNECT_ON_DROP));
+    EXPECT_TRUE(steward.IsOn(RECONNECT_ON_DROP)) << "the program's own options go on Ok";
     EXPECT_TRUE(StewardOptions::Load(files.MainIni).IsOn(RECONNECT_ON_DROP));
     EXPECT_FALSE(StewardOptions::Load(files.MainIni).IsOn(SHOW_LIVE_TAIL));
+}
+
+TEST(OptionGateTest, ARefusedOptionIsUntickedAndStaysOffOnOk)
+{
+    const struct {
+        StewardOption option;
+        bool allowed;
+    } cases[] = {{SPEAK, false}, {SPEAK, true}, {RECONNECT_ON_DROP, true}};
+    for (const auto& c : cases) {
+        SCOPED_TRACE(StewardOptionTable[c.option].Key);
+        QTemporaryDir folder;
+        const ConfigFiles files = MakeConfigFiles(folder.path().toStdString());
+        StewardOptions options;
+        std::vector<StewardOption> asked;
+        StewardPage page(options, files, [&](StewardOption option, QWidget*) {
+            asked.push_back(option);
+            return c.allowed;
+        });
+        page.Check(c.option)->setChecked(true);
+        page.Check(c.option)->setChecked(false);
+        EXPECT_EQ(asked, std::vector<StewardOption>{c.option});
+        page.Check(c.option)->setChecked(true);
+        page.Number(SPEAK_HP_BELOW)->setValue(40);
+        page.Apply();
+        EXPECT_EQ(options.IsOn(c.option), c.allowed);
+        EXPECT_EQ(StewardOptions::Load(files.MainIni).IsOn(c.option), c.allowed);
+        EXPECT_EQ(StewardOptions::Load(files.MainIni).Get(SPEAK_HP_BELOW), 40);
+    }
 }
 
 } // namespace

@@ -30,10 +30,7 @@ namespace {
 // The sheet's dialogs answer from lists; every message is kept.
 class SheetDialogs : public HighlightDialogs, public MessageBoxes {
   public:
-    void ShowMessage(QWidget*, const char* text, const char*) override
-    {
-        messages.emplace_back(text);
-    }
+    void ShowMessage(QWidget*, const char* text, const char*) override { messages.push_back(text); }
     void Beep() override {}
     bool AskString(QWidget*, const char*, char* answer, std::size_t capacity) override
     {
@@ -48,10 +45,8 @@ class SheetDialogs : public HighlightDialogs, public MessageBoxes {
     std::string ChooseSoundFile(QWidget*, const std::string&) override { return soundFile; }
 
     QtSoundPlayer player;
-    std::vector<std::string> answers;
-    std::vector<std::string> shown;
+    std::vector<std::string> answers, shown, messages;
     std::vector<std::size_t> limits;
-    std::vector<std::string> messages;
     std::string soundFile;
 };
 
@@ -87,7 +82,7 @@ class HighlightSheetTest : public ::testing::Test {
     {
         QTest::mouseClick(page.Button(button), Qt::LeftButton);
     }
-    void WriteFile(const QString& name, const QByteArray& bytes)
+    static void WriteFile(const QString& name, const QByteArray& bytes)
     {
         QFile file(name);
         ASSERT_TRUE(file.open(QIODevice::WriteOnly));
@@ -99,104 +94,76 @@ class HighlightSheetTest : public ::testing::Test {
     HighlightStore lists;
     SheetDialogs dialogs;
     SoundFolder sounds{dialogs.player};
-
-  private:
     std::unique_ptr<HighlightSheet> sheet_;
 };
 
-enum class Ending { Ok, Apply, Cancel, ApplyThenCancel };
-
-struct EndingCase {
-    const char* name;
-    Tab tab;
-    Ending ending;
-    bool stored;
-};
-
-class SheetEnding : public HighlightSheetTest, public ::testing::WithParamInterface<EndingCase> {
-  protected:
-    // The colour of the first row of the page's store.
-    unsigned char StoredColor(Tab tab) const
-    {
-        if (tab == DEFAULTS)
-            return settings.SaysColor;
-        return (tab == STRINGS ? lists.StringHighlights : lists.NameHighlights).Color(0);
+TEST_F(HighlightSheetTest, AnEditReachesTheStoreOnlyOnOkOrApply)
+{
+    enum class Ending { Ok, Apply, Cancel, ApplyThenCancel };
+    const struct {
+        Tab tab;
+        Ending ending;
+        bool stored;
+    } rows[] = {{DEFAULTS, Ending::Ok, true},   {DEFAULTS, Ending::Cancel, false},
+                {STRINGS, Ending::Apply, true}, {STRINGS, Ending::Cancel, false},
+                {NAMES, Ending::Ok, true},      {NAMES, Ending::ApplyThenCancel, true}};
+    for (const auto& row : rows) {
+        SCOPED_TRACE(static_cast<int>(row.ending) * 10 + row.tab);
+        // The colour of the first row of the page's store.
+        const auto stored = [&] {
+            if (row.tab == DEFAULTS)
+                return settings.SaysColor;
+            return (row.tab == STRINGS ? lists.StringHighlights : lists.NameHighlights).Color(0);
+        };
+        sheet_.reset();
+        HighlightPage& page = Open(row.tab);
+        const unsigned char before = stored();
+        ClickCell(page, 1, Qt::RightButton);
+        EXPECT_EQ(stored(), before);
+        EXPECT_TRUE(Sheet().ApplyButton()->isEnabled());
+        if (row.ending == Ending::Apply || row.ending == Ending::ApplyThenCancel)
+            QTest::mouseClick(Sheet().ApplyButton(), Qt::LeftButton);
+        if (row.ending == Ending::Ok)
+            Sheet().accept();
+        if (row.ending == Ending::Cancel || row.ending == Ending::ApplyThenCancel)
+            Sheet().reject();
+        EXPECT_EQ(stored(), row.stored ? (before & 0x0F) | 0x10 : before);
     }
-};
-
-TEST_P(SheetEnding, AnEditReachesTheStoreOnlyOnOkOrApply)
-{
-    const EndingCase& c = GetParam();
-    HighlightPage& page = Open(c.tab);
-    const unsigned char before = StoredColor(c.tab);
-    ClickCell(page, 1, Qt::RightButton);
-    EXPECT_EQ(StoredColor(c.tab), before);
-    EXPECT_TRUE(Sheet().ApplyButton()->isEnabled());
-    if (c.ending == Ending::Apply || c.ending == Ending::ApplyThenCancel)
-        QTest::mouseClick(Sheet().ApplyButton(), Qt::LeftButton);
-    if (c.ending == Ending::Ok)
-        Sheet().accept();
-    if (c.ending == Ending::Cancel || c.ending == Ending::ApplyThenCancel)
-        Sheet().reject();
-    EXPECT_EQ(StoredColor(c.tab), c.stored ? (before & 0x0F) | 0x10 : before);
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Pages, SheetEnding,
-    ::testing::Values(EndingCase{"DefaultsOk", DEFAULTS, Ending::Ok, true},
-                      EndingCase{"DefaultsCancel", DEFAULTS, Ending::Cancel, false},
-                      EndingCase{"StringsApply", STRINGS, Ending::Apply, true},
-                      EndingCase{"StringsCancel", STRINGS, Ending::Cancel, false},
-                      EndingCase{"NamesOk", NAMES, Ending::Ok, true},
-                      EndingCase{"NamesApplyThenCancel", NAMES, Ending::ApplyThenCancel, true}),
-    [](const auto& info) { return info.param.name; });
-
-TEST_F(HighlightSheetTest, APageNeverOpenedIsNotWritten)
+TEST_F(HighlightSheetTest, NewAndChangeAskAndAPageNeverOpenedIsNotWritten)
 {
+    lists.StringHighlights.SetText(0, "{Gong}$Mara");
     lists.NameHighlights.SetText(2, "after a gap");
-    Open(STRINGS);
-    Sheet().accept();
-    EXPECT_STREQ(lists.NameHighlights.Text(1), "") << "an applied names page closes the gap";
-    EXPECT_EQ(Sheet().Page(NAMES), nullptr);
-}
-
-TEST_F(HighlightSheetTest, NewCountsTheSlotsDownAndAFullListAsksNothing)
-{
     HighlightPage& page = Open(STRINGS);
     EXPECT_EQ(page.SlotsLeft()->text(), QStringLiteral("4095"));
-    dialogs.answers = {"say \"hi\" \xA3\x81", ""};
+    dialogs.answers = {"say \"hi\" \xA3\x81", "", "Orla"};
     Click(page, PageButton::New);
     EXPECT_EQ(page.SlotsLeft()->text(), QStringLiteral("4094"));
     Click(page, PageButton::New);
     EXPECT_EQ(page.SlotsLeft()->text(), QStringLiteral("4094")) << "an empty answer adds nothing";
-    EXPECT_EQ(dialogs.limits, (std::vector<std::size_t>{HIGHLIGHT_ASK_LIMIT, HIGHLIGHT_ASK_LIMIT}));
+    const QPoint item = page.List()->visualRect(page.List()->model()->index(0, 0)).center();
+    QTest::mouseClick(page.List()->viewport(), Qt::LeftButton, {}, item);
+    QTest::mouseDClick(page.List()->viewport(), Qt::LeftButton, {}, item);
+    EXPECT_EQ(dialogs.shown.back(), "Mara") << "change starts from the match text";
+    EXPECT_EQ(dialogs.limits, (std::vector<std::size_t>{HIGHLIGHT_ASK_LIMIT, HIGHLIGHT_ASK_LIMIT,
+                                                        HIGHLIGHT_TEXT_MAX - 7}));
+    QTest::mouseClick(page.Box(HighlightFlag::CaseSensitive), Qt::LeftButton);
     Sheet().accept();
+    EXPECT_STREQ(lists.StringHighlights.Text(0), "{Gong}$@Orla");
     EXPECT_STREQ(lists.StringHighlights.Text(1), "say \"hi\" ??");
+    EXPECT_STREQ(lists.NameHighlights.Text(1), "") << "an applied names page would close the gap";
+    EXPECT_EQ(Sheet().Page(NAMES), nullptr);
 
     HighlightList full;
     for (std::size_t i = 0; i < HIGHLIGHT_SLOTS; ++i)
         full.SetText(i, "x");
     lists.NameHighlights = full;
-    HighlightSheet again({settings, lists, sounds, dialogs, dialogs}, nullptr);
-    again.Tabs()->setCurrentIndex(NAMES);
-    EXPECT_EQ(again.Page(NAMES)->SlotsLeft()->text(), QStringLiteral("   0"));
-    Click(*again.Page(NAMES), PageButton::New);
-    EXPECT_EQ(dialogs.shown.size(), 2u);
-}
-
-TEST_F(HighlightSheetTest, ChangeStartsFromTheMatchTextAndKeepsTheMarkers)
-{
-    lists.StringHighlights.SetText(0, "{Gong}$Mara");
-    HighlightPage& page = Open(STRINGS);
-    dialogs.answers = {"Orla"};
-    const QPoint item = page.List()->visualRect(page.List()->model()->index(0, 0)).center();
-    QTest::mouseClick(page.List()->viewport(), Qt::LeftButton, {}, item);
-    QTest::mouseDClick(page.List()->viewport(), Qt::LeftButton, {}, item);
-    EXPECT_EQ(dialogs.shown, std::vector<std::string>{"Mara"});
-    EXPECT_EQ(dialogs.limits.back(), HIGHLIGHT_TEXT_MAX - 7);
-    QTest::mouseClick(page.Box(HighlightFlag::CaseSensitive), Qt::LeftButton);
-    Sheet().accept();
-    EXPECT_STREQ(lists.StringHighlights.Text(0), "{Gong}$@Orla");
+    sheet_.reset();
+    Open(NAMES);
+    EXPECT_EQ(Sheet().Page(NAMES)->SlotsLeft()->text(), QStringLiteral("   0"));
+    Click(*Sheet().Page(NAMES), PageButton::New);
+    EXPECT_EQ(dialogs.shown.size(), 3u) << "a full list asks nothing";
 }
 
 TEST_F(HighlightSheetTest, TheSoundChooserTakesWaveFilesAndSaysWhatItCannotTake)
@@ -251,38 +218,31 @@ TEST_F(HighlightSheetTest, TheListDrawsTheMatchTextInItsColoursBesideTheIcons)
 
 TEST_F(HighlightSheetTest, TabWalksThePageEnterIsOkAndEscapeIsCancel)
 {
-    HighlightPage& page = Open(STRINGS);
-    Sheet().show();
-    QApplication::setActiveWindow(&Sheet());
-    ASSERT_TRUE(QTest::qWaitForWindowActive(&Sheet()));
-    page.List()->setFocus();
-    const QWidget* expected[] = {page.Button(PageButton::New),
-                                 page.Button(PageButton::Change),
-                                 page.Button(PageButton::Delete),
-                                 page.Button(PageButton::Sort),
-                                 page.SoundList(),
-                                 page.Button(PageButton::Browse),
-                                 page.Box(HighlightFlag::EntireLine)};
-    for (const QWidget* next : expected) {
-        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
-        EXPECT_EQ(QApplication::focusWidget(), next) << next->metaObject()->className();
+    for (Qt::Key key : {Qt::Key_Escape, Qt::Key_Return}) {
+        sheet_.reset();
+        HighlightPage& page = Open(STRINGS);
+        Sheet().show();
+        QApplication::setActiveWindow(&Sheet());
+        ASSERT_TRUE(QTest::qWaitForWindowActive(&Sheet()));
+        page.List()->setFocus();
+        const QWidget* expected[] = {page.Button(PageButton::New),
+                                     page.Button(PageButton::Change),
+                                     page.Button(PageButton::Delete),
+                                     page.Button(PageButton::Sort),
+                                     page.SoundList(),
+                                     page.Button(PageButton::Browse),
+                                     page.Box(HighlightFlag::EntireLine)};
+        for (const QWidget* next : expected) {
+            QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+            EXPECT_EQ(QApplication::focusWidget(), next) << next->metaObject()->className();
+        }
+        ClickCell(page, 12, Qt::LeftButton);
+        page.List()->setFocus();
+        QTest::keyClick(page.List(), key);
+        const bool ok = key == Qt::Key_Return;
+        EXPECT_EQ(Sheet().result(), ok ? QDialog::Accepted : QDialog::Rejected);
+        EXPECT_EQ(lists.StringHighlights.Color(0), ok ? 12 : 14);
     }
-    ClickCell(page, 12, Qt::LeftButton);
-    page.List()->setFocus();
-    QTest::keyClick(page.List(), Qt::Key_Escape);
-    EXPECT_EQ(Sheet().result(), QDialog::Rejected);
-    EXPECT_EQ(lists.StringHighlights.Color(0), 14);
-
-    HighlightSheet again({settings, lists, sounds, dialogs, dialogs}, nullptr);
-    again.Tabs()->setCurrentIndex(STRINGS);
-    again.show();
-    QApplication::setActiveWindow(&again);
-    ASSERT_TRUE(QTest::qWaitForWindowActive(&again));
-    ClickCell(*again.Page(STRINGS), 12, Qt::LeftButton);
-    again.Page(STRINGS)->List()->setFocus();
-    QTest::keyClick(again.Page(STRINGS)->List(), Qt::Key_Return);
-    EXPECT_EQ(again.result(), QDialog::Accepted);
-    EXPECT_EQ(lists.StringHighlights.Color(0), 12);
 }
 
 } // namespace

@@ -14,23 +14,19 @@
 namespace steward::testing {
 namespace {
 
-TEST(QtSoundPlayer, FindsOnlyFilesThatExistAndNeverFailsWithoutAudio)
+TEST(QtSoundPlayer, DefaultSoundsKeepThePlayersFilesAndPlayByTheNameRule)
 {
     QTemporaryDir folder;
     ASSERT_TRUE(folder.isValid());
+    QFile mine(folder.filePath(QStringLiteral("Gong.wav")));
+    ASSERT_TRUE(mine.open(QIODevice::WriteOnly));
+    mine.write("mine");
+    mine.close();
     InstallDefaultSounds(folder.path());
-    QtSoundPlayer player;
-    const QByteArray gong = QFile::encodeName(folder.filePath(QStringLiteral("Gong.wav")));
-    EXPECT_TRUE(player.PlayFile(gong.constData()));
-    EXPECT_TRUE(player.PlayFile(gong.constData())) << "a second sound cuts the first";
-    EXPECT_FALSE(player.PlayFile(QFile::encodeName(folder.filePath("Gong.WAV")).constData()));
-}
-
-TEST(QtSoundPlayer, TheNameRuleFindsTheShippedLowerCaseFiles)
-{
-    QTemporaryDir folder;
-    ASSERT_TRUE(folder.isValid());
-    InstallDefaultSounds(folder.path());
+    EXPECT_EQ(QDir(folder.path()).entryList(QDir::Files),
+              (QStringList{"Chime.wav", "Gong.wav", "T_STARTMUSIC.wav"}));
+    EXPECT_EQ(QFileInfo(mine).size(), 4) << "never overwritten";
+    EXPECT_GT(QFileInfo(folder.filePath(QStringLiteral("Chime.wav"))).size(), 1000);
     struct Probe : SoundPlayer {
         QtSoundPlayer real;
         QStringList found;
@@ -46,23 +42,12 @@ TEST(QtSoundPlayer, TheNameRuleFindsTheShippedLowerCaseFiles)
     sounds.SetSoundPath(QFile::encodeName(folder.path()).toStdString());
     PlayStartMusic(sounds, false);
     sounds.PlayHighlightSound("Chime");
+    sounds.PlayHighlightSound("Chime");
     EXPECT_EQ(probe.found,
-              (QStringList{folder.filePath("T_STARTMUSIC.wav"), folder.filePath("Chime.wav")}));
-}
-
-TEST(QtSoundPlayer, DefaultSoundsNeverOverwriteThePlayersFiles)
-{
-    QTemporaryDir folder;
-    ASSERT_TRUE(folder.isValid());
-    QFile mine(folder.filePath(QStringLiteral("Gong.wav")));
-    ASSERT_TRUE(mine.open(QIODevice::WriteOnly));
-    mine.write("mine");
-    mine.close();
-    InstallDefaultSounds(folder.path());
-    EXPECT_EQ(QDir(folder.path()).entryList(QDir::Files),
-              (QStringList{"Chime.wav", "Gong.wav", "T_STARTMUSIC.wav"}));
-    EXPECT_EQ(QFileInfo(mine).size(), 4);
-    EXPECT_GT(QFileInfo(folder.filePath(QStringLiteral("Chime.wav"))).size(), 1000);
+              (QStringList{folder.filePath("T_STARTMUSIC.wav"), folder.filePath("Chime.wav"),
+                           folder.filePath("Chime.wav")}))
+        << "a second sound cuts the first, with or without audio";
+    EXPECT_FALSE(probe.real.PlayFile(QFile::encodeName(folder.filePath("Gong.WAV")).constData()));
 }
 
 TEST(QtClipboardReader, ReadsTextWithCharactersBeyondAsciiAsQuestionMarks)
