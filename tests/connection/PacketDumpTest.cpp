@@ -84,6 +84,7 @@ TEST_F(PacketDumpTest, ReceivedBlocksAnnounceFullBufferAndClosedDump)
 {
     RecordingPrinter host;
     AnnouncePacketDump(dump, host);
+    EXPECT_EQ(host.printed.size(), 1u);
     testing::RecordingSink sink;
     Settings settings;
     StreamDecoder decoder{sink, dump, settings};
@@ -262,6 +263,7 @@ TEST(ReplayFile, TellsTheFormatByTheFirstBytesAndCutsRawBytesIntoBlocks)
     const struct { const char* name; std::string content; ReplayFormat format; Blocks blocks; } cases[] = {
         {"empty", "", ReplayFormat::Empty, {}},
         {"dump", "\r\n\r\n---- (3 bytes)\r\n" + ROW_ABC + "\r\n", ReplayFormat::PacketDump, {"abc"}},
+        {"header first", "---- (3 bytes)\r\n" + ROW_ABC + "\r\n", ReplayFormat::PacketDump, {"abc"}},
         {"text", "Welcome, Tester!", ReplayFormat::RawBytes, {"Welco", "me, T", "ester", "!"}},
         {"no header", "\r\n\r\n-- x", ReplayFormat::RawBytes, {"\r\n\r\n-", "- x"}},
     };

@@ -9,10 +9,11 @@
 namespace steward {
 namespace {
 
-std::string Escaped(const std::string& source, bool plusForSpace = true)
+std::string Escaped(const std::string& source, bool plusForSpace = true,
+                    std::size_t capacity = URL_BUFFER_SIZE)
 {
     std::vector<char> target(URL_BUFFER_SIZE, '#');
-    EscapeUrl(source.c_str(), target.data(), target.size(), plusForSpace);
+    EscapeUrl(source.c_str(), target.data(), capacity, plusForSpace);
     return target.data();
 }
 
@@ -48,6 +49,9 @@ TEST(EscapeUrl, LongAddressesAreCutBeforeAWholeEscape)
         EXPECT_EQ(escaped.size(), URL_ESCAPABLE_LENGTH * 3) << length;
         EXPECT_EQ(escaped.substr(escaped.size() - 3), "%5F") << length;
     }
+    // The NUL stays inside the target: a byte or escape that would take its place is left out.
+    EXPECT_EQ(Escaped("abcdef", true, 4), "abc");
+    EXPECT_EQ(Escaped("ab_", true, 5), "ab");
 }
 
 TEST(OpenUrl, TemplateWordsInAnyCaseAndGrowthCutAtTheBuffer)

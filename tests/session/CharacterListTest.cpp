@@ -1,6 +1,7 @@
 #include "session/CharacterList.h"
 
 #include "config/ConfigFiles.h"
+#include "session/MenuBar.h"
 #include "support/TempFolder.h"
 
 #include <gtest/gtest.h>
@@ -79,6 +80,16 @@ TEST_F(CharacterListTest, NewCharacterNamesAreRefusedWithAMessage)
     };
     for (const auto& [given, refused] : cases)
         EXPECT_EQ(CheckCharacterName(Files(), given) != nullptr, refused) << given;
+}
+
+// A maximised child window puts its own item in front of the menus.
+TEST(ConfigurationMenuPosition, FindsTheMenuWithOrWithoutAChildItemInFront)
+{
+    const int menus = static_cast<int>(MainMenu().size());
+    for (int inFront : {0, 1})
+        EXPECT_STREQ(MainMenu()[ConfigurationMenuPosition(menus + inFront) - inFront].Title,
+                     "Configuration")
+            << inFront;
 }
 
 } // namespace

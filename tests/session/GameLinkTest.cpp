@@ -1,4 +1,5 @@
 #include "analysis/PipelineFixture.h"
+#include "session/Session.h"
 
 namespace steward::testing {
 namespace {
@@ -13,14 +14,21 @@ TEST_F(GameLinkTest, ALineCutBetweenBlocksReachesTheGameWindowWhole)
     EXPECT_EQ(In(Game()), "You see a rat.\nThe rat flees.\n");
 }
 
+// The connection string the client writes itself opens its host and port; a sent "quit" keeps
+// the drop that follows from being tried again.
 TEST_F(GameLinkTest, ASentCommandGoesOutWithItsLineEndOnlyWhileConnected)
 {
     link.SendLine("north");
-    ASSERT_EQ(link.ConnectToGame("/H127.0.0.1/P34283"), CONNECT_OK);
+    char connection[CONNECTION_STRING_SIZE] = {};
+    FormatConnectionString(connection, "127.0.0.1", 34283);
+    ASSERT_EQ(link.ConnectToGame(connection), CONNECT_OK);
+    EXPECT_EQ(socket.opened.front().substr(0, 16), "127.0.0.1:34283 ");
     link.SendLine("south");
+    link.SendLine("quit");
     link.ShutdownConnection();
     link.SendLine("east");
-    EXPECT_EQ(socket.sent, "south\n\r");
+    EXPECT_EQ(socket.sent, "south\n\rquit\n\r");
+    EXPECT_EQ(link.Reconnect().Dropped(true), 0);
 }
 
 } // namespace

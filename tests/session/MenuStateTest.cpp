@@ -1,7 +1,12 @@
 #include "session/MenuState.h"
 #include "base/FrameCommand.h"
+#include "session/CommandTable.h"
+#include "session/MenuBar.h"
 
 #include <gtest/gtest.h>
+
+#include <cstring>
+#include <utility>
 
 namespace steward {
 namespace {
@@ -94,6 +99,8 @@ TEST(MenuState, OpenWindowItemsAreGreyWhileTheirWindowIsOpen)
     EXPECT_FALSE(After(in, CMD_OPEN_GAME_WINDOW).Enabled);
     EXPECT_TRUE(After(in, CMD_OPEN_THOUGHT_WINDOW).Enabled);
     EXPECT_FALSE(After(in, CMD_OPEN_ARRIVAL_WINDOW).Enabled);
+    in.ThoughtWindowOpen = true;
+    EXPECT_FALSE(After(in, CMD_OPEN_THOUGHT_WINDOW).Enabled);
 }
 
 struct ScriptMenuCase {
@@ -131,6 +138,21 @@ TEST(MenuState, ItemsWithoutARuleAreEnabled)
     for (int command : {CMD_HIGHLIGHT_STRINGS, CMD_MACRO_KEYS, CMD_COPY_TO_COMMAND_LINE, CMD_ABOUT,
                         CMD_OPTIONS, CMD_NEW_CHARACTER, CMD_HOME_PAGE, CMD_INFO_GENERAL, CMD_EXIT})
         EXPECT_TRUE(After(in, command).Enabled) << command;
+}
+
+// The Info menu's items send their words as if typed; any other command sends nothing.
+TEST(FindFixedText, InfoItemsSendTheirWords)
+{
+    const auto infoItem = [](const char* text) -> int {
+        for (const MenuItem& item : MainMenu()[3].Items)
+            if (item.Text && std::strcmp(item.Text, text) == 0)
+                return item.Command;
+        return CMD_CONNECT;
+    };
+    const std::pair<const char*, const char*> cases[] = {
+        {"&General", "info"}, {"&Magick", "info magick"}, {"W&orld", "world"}, {"none", nullptr}};
+    for (const auto& [item, words] : cases)
+        EXPECT_STREQ(FindFixedText(infoItem(item)), words) << item;
 }
 
 } // namespace
