@@ -77,7 +77,9 @@ TEST(MacroStore, DefaultsFillTheKeypadAndTheClipboardKeys)
     EXPECT_STREQ(store.LookupMacro(0, VK_NUMPAD0 + 5), "\\xgo gate\\r");
     EXPECT_STREQ(store.LookupMacro(0, VK_ADD), "\\xlook\\r");
     EXPECT_STREQ(store.LookupMacro(0, VK_SUBTRACT), "");
+    EXPECT_STREQ(store.LookupMacro(KEY_CTRL, 'C'), "{copy}");
     EXPECT_STREQ(store.LookupMacro(KEY_CTRL, 'X'), "{cut}");
+    EXPECT_STREQ(store.LookupMacro(KEY_CTRL, 'V'), "{paste}");
     EXPECT_STREQ(store.LookupMacro(KEY_ALT, 'A'), "");
     SetDefaultMacros(store, true);
     EXPECT_STREQ(store.LookupMacro(KEY_ALT, 'A'), "attack\\r");

@@ -166,5 +166,20 @@ TEST(HighlightItems, AListOpensWithoutItsGapsAndApplyWritesTheItemsSlotForSlot)
     EXPECT_FALSE(items.Change(std::string(HIGHLIGHT_TEXT_MAX - 7, 'y')));
 }
 
+TEST(HighlightItems, TheSamplePageWritesEveryRowsColourBack)
+{
+    Settings settings;
+    HighlightItems items;
+    items.OpenSamples(settings);
+    for (std::size_t row = 0; row < SAMPLE_ROW_COUNT; ++row) {
+        items.Select(static_cast<int>(row));
+        items.RightClickCell(static_cast<int>(row) + 1);
+    }
+    EXPECT_FALSE(items.New("more")) << "the samples take no new row";
+    items.ApplySamples(settings);
+    for (std::size_t row = 0; row < SAMPLE_ROW_COUNT; ++row)
+        EXPECT_EQ(settings.*SAMPLE_ROWS[row].Field >> 4, static_cast<int>(row) + 1) << row;
+}
+
 } // namespace
 } // namespace steward::testing

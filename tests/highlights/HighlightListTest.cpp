@@ -32,7 +32,10 @@ TEST(HighlightListStore, SlotsTakeTextsUpToTheMaximumAndAddFillsTheFirstFree)
     EXPECT_EQ(list.Text(5), longest);
     list.SetText(6, (longest + "b").c_str());
     EXPECT_STREQ(list.Text(6), "");
+    const auto version = list.Version();
     list.SetText(HIGHLIGHT_SLOTS, "out of range");
+    list.SetColor(HIGHLIGHT_SLOTS, 7);
+    EXPECT_EQ(list.Version(), version) << "a slot out of range changes nothing";
     list.Add("Mara", 3);
     list.Add(std::string(HIGHLIGHT_TEXT_MAX + 1, 'x').c_str(), 9);
     EXPECT_EQ(list.Color(1), 9) << "a refused text still leaves its colour";

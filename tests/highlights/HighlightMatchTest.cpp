@@ -2,9 +2,11 @@
 #include "PlainHighlights.h"
 #include "highlights/HighlightMatcher.h"
 #include "highlights/HighlightStore.h"
+#include "highlights/PatternAutomaton.h"
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cstring>
 #include <optional>
 
@@ -57,6 +59,19 @@ void Check(const std::vector<Case>& cases)
             EXPECT_EQ(outcome.sounds, *c.sounds) << c.name;
         }
     }
+}
+
+TEST(PatternAutomaton, ReportsEveryPatternInAnyCaseAndAnyByteOnce)
+{
+    PatternAutomaton automaton;
+    automaton.Build({"rat", "Tower", "\xFF\x80", "at", ""});
+    ASSERT_TRUE(automaton.Usable()) << "a small list is matched in one pass";
+    const std::string line = "The RAT in the tower \xFF\x80 sat";
+    std::vector<std::uint32_t> found;
+    automaton.Scan(line.data(), line.size(), [&](std::uint32_t i) { found.push_back(i); });
+    std::sort(found.begin(), found.end());
+    found.erase(std::unique(found.begin(), found.end()), found.end());
+    EXPECT_EQ(found, (std::vector<std::uint32_t>{0, 1, 2, 3}));
 }
 
 TEST(HighlightMatch, WordsCaseRepeatsEntireLinesNestingRunsAndSounds)
