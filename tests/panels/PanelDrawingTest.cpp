@@ -188,7 +188,9 @@ TEST(CompassDrawingTest, ZonesLitFromExitBits)
         {0x04000700,
          {"picture 6,17 9x9 from 68,17", "picture 3,3 15x13 from 65,3",
           "picture 3,27 15x13 from 127,27"}},
-        {0x00000082, {"picture 47,5 9x9 from 109,5", "picture 23,5 9x9 from 85,5"}},
+        {0x000000A2,
+         {"picture 47,5 9x9 from 109,5", "picture 23,29 9x9 from 85,29",
+          "picture 23,5 9x9 from 85,5"}},
     };
     for (const Case& c : cases) {
         CompassState compass;
