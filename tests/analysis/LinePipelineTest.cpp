@@ -125,6 +125,7 @@ TEST(LinePipelineTest, VitalsLinesSetTheirGaugeAndAreLoggedButNotShown)
         EXPECT_EQ(rig.panel.Hp.GetMax(), row.hpMax);
         EXPECT_EQ(rig.panel.Ftg.GetValue(), row.ftg);
         EXPECT_EQ(rig.panel.Ftg.GetMax(), row.ftgMax);
+        EXPECT_EQ(rig.panel.Ftg.GetMin(), 0);
         EXPECT_EQ(rig.In(rig.Game()), "");
         EXPECT_EQ(rig.Logged(), row.line);
     }
@@ -163,6 +164,10 @@ TEST_F(PipelineTest, ArrivalsGoToTheArrivalWindowWithTheClockAndOnlyListedNamesW
     listed.highlights.NameHighlights.Add("Mara", 14);
     listed.pipeline.ProcessGameLine(" ** Mara just arrived in the world.\r\n");
     listed.pipeline.ProcessGameLine(" ** Bo just arrived in the world.\r\n");
+    // A name is cut to its buffer before the list sees it: this one ends in "Mar".
+    listed.pipeline.ProcessGameLine(
+        (" ** " + std::string(STAR_NAME_SIZE - 5, 'x') + " Mara just arrived in the world.\r\n")
+            .c_str());
     EXPECT_EQ(listed.In(listed.Arrival()),
               "\n" + On(14) + "Mara" + Off(14) + " arrived at 5:30 pm.");
 }

@@ -29,6 +29,28 @@ TEST(ByteText, InsertTextMovesTheRestUpAndReturnsTheNewEnd)
     }
 }
 
+// Whatever the piece, the result ends inside the buffer; no room at all leaves it untouched.
+TEST(ByteText, CutHelpersEndInsideTheBuffer)
+{
+    const struct {
+        bool copy; // CopyCut, else InsertCut at the end
+        std::size_t capacity;
+        const char* piece;
+        const char* expected;
+    } cases[] = {
+        {true, 4, "abcdef", "abc"}, {true, 1, "abc", ""},  {false, 6, "defg", "xydef"},
+        {false, 3, "d", "xy"},      {false, 0, "d", "xy"},
+    };
+    for (const auto& c : cases) {
+        char buffer[16] = "xy";
+        if (c.copy)
+            CopyCut(buffer, c.capacity, c.piece);
+        else
+            InsertCut(buffer, c.capacity, 2, c.piece);
+        EXPECT_STREQ(buffer, c.expected) << c.capacity << " " << c.piece;
+    }
+}
+
 TEST(ByteText, RemovePrefixDropsTheFirstBytes)
 {
     char buffer[16] = "abcdef";

@@ -77,6 +77,26 @@ TEST(GaugeGeometryTest, AnUprightBarGrowsUpwardsAndTicksShowWhileAboveMinimum)
     EXPECT_TRUE(gauge.HasTicks());
     gauge.SetFlags(BoxFlags | GF_NOTICKS);
     EXPECT_FALSE(gauge.HasTicks());
+    // Three ticks at the quarters of the long side, and nothing written behind them.
+    int ticks[4] = {0, 0, 0, -1};
+    gauge.TickPositions({2, 0, 62, 16}, ticks);
+    EXPECT_EQ(std::vector<int>(ticks, ticks + 4), (std::vector<int>{17, 32, 47, -1}));
+}
+
+class RecordingView : public GaugeView {
+  public:
+    void Repaint(bool erase) override { erases.push_back(erase); }
+    std::vector<bool> erases;
+};
+
+TEST(GaugeViewTest, ANewValueRepaintsAndNewColoursEraseFirst)
+{
+    RecordingView view;
+    Gauge gauge("Hp:", BoxFlags, true, {});
+    gauge.SetView(&view);
+    gauge.SetValue(5);
+    gauge.SetColors({1, 2, 3});
+    EXPECT_EQ(view.erases, (std::vector<bool>{false, true}));
 }
 
 TEST(GaugeCountdownTest, CountsDownBySecondsRestartsAndStops)

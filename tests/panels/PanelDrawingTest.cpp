@@ -81,7 +81,8 @@ TEST(BitmapFontGridTest, WidthsAndPlaces)
     struct Case {
         const char* text;
         int width;
-    } cases[] = {{"", 0}, {"44444444", 64}, {"Hp:", 18}, {"a\x80|", 13}};
+    } cases[] = {{"", 0},        {"44444444", 64}, {"Hp:", 18},
+                 {"a\x80|", 13}, {"30/100", 43},   {"north", 35}};
     for (const Case& c : cases)
         EXPECT_EQ(Alphabet.TextWidth(c.text), c.width) << c.text;
     // Two stacked digits take 22 pixels, centred in an upright bar's client area.
@@ -187,6 +188,9 @@ TEST(CompassDrawingTest, ZonesLitFromExitBits)
         {0x04000700,
          {"picture 6,17 9x9 from 68,17", "picture 3,3 15x13 from 65,3",
           "picture 3,27 15x13 from 127,27"}},
+        {0x000000A2,
+         {"picture 47,5 9x9 from 109,5", "picture 23,29 9x9 from 85,29",
+          "picture 23,5 9x9 from 85,5"}},
     };
     for (const Case& c : cases) {
         CompassState compass;
@@ -197,7 +201,14 @@ TEST(CompassDrawingTest, ZonesLitFromExitBits)
         std::vector<std::string> expected{"picture 0,0 62x43 from 0,0"};
         expected.insert(expected.end(), c.zones.begin(), c.zones.end());
         EXPECT_EQ(canvas.calls, expected) << std::hex << c.masks;
+        EXPECT_FALSE(handler.NeedsPaint()) << std::hex << c.masks;
     }
+    // A screen reader hears the lit exits by name.
+    CompassState compass;
+    compass.SetExits(0x00010101);
+    char text[64];
+    CompassHandler(compass).AccessibleValue(text, sizeof text);
+    EXPECT_STREQ(text, "north (special), out");
 }
 
 TEST(FigureDrawingTest, BaseAndOverlaysForEachPostureBit)

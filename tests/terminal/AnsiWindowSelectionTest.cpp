@@ -64,6 +64,10 @@ TEST_F(WindowTest, DraggingAboveTheWindowScrollsTheSelectionIntoTheFrozenView)
     for (int line = 18; line < 30; ++line)
         expected += "line " + std::to_string(line) + "\r\n";
     EXPECT_EQ(host.clipboard, expected);
+    // The next click drops the highlight at once.
+    const int updates = host.updates;
+    window->LButtonDown(12, RowY(9), false);
+    EXPECT_EQ(host.updates, updates + 1);
 }
 
 } // namespace

@@ -4,6 +4,8 @@
 #include "support/TempFolder.h"
 
 #include <cstring>
+#include <filesystem>
+#include <vector>
 
 namespace steward::testing {
 namespace {
@@ -55,6 +57,34 @@ TEST_F(StateTest, AStateInfoOfTheWrongLengthGivesTheDefaults)
     WriteBytes(profile, "[Thought Window]\nStateInfo=1122330044556600AA\n");
     settings.DefaultTextColor = MakeRgb(9, 9, 9);
     EXPECT_EQ(MakeSaved("Thought Window")->GetTextColor(), MakeRgb(9, 9, 9));
+}
+
+// Hands the editor its file and keeps the messages.
+class EditorServices : public TextWindowServices {
+  public:
+    void ForwardCommand(int) override {}
+    bool AskSaveFileName(const SaveFileRequest&, char*, std::size_t) override { return false; }
+    void ShowMessage(const char* text, const char*) override { messages.push_back(text); }
+    void RunNotepad(const std::string& path) override { edited = path; }
+    std::string ProgramFolder() const override { return {}; }
+
+    std::vector<std::string> messages;
+    std::string edited;
+};
+
+TEST_F(StateTest, EditAllGivesTheEditorANewFileWithThePlainText)
+{
+    EditorServices services;
+    auto window =
+        AnsiWindow::Create("Thought Window", {host, settings, nullptr, nullptr, &services});
+    window->AppendText("one \x81red\xA0 two\n");
+    window->EditAll();
+    ASSERT_FALSE(services.edited.empty())
+        << (services.messages.empty() ? "" : services.messages[0]);
+    const std::string text = ReadBytes(services.edited);
+    std::filesystem::remove(services.edited);
+    EXPECT_NE(text.find("one red two\r\n"), std::string::npos);
+    EXPECT_TRUE(services.messages.empty());
 }
 
 } // namespace

@@ -64,6 +64,9 @@ TEST(TextBufferExport, FullRingIsTranscribedWithoutColours)
             expected += c;
     }
     EXPECT_EQ(buffer->ExportPlainText(), expected + "\r\n");
+    EXPECT_EQ(
+        buffer->PlainDistance(buffer->TailStart(buffer->GetCapacity()), buffer->GetWritePos()),
+        static_cast<std::int32_t>(expected.size()));
 
     buffer = BufferWith("oldest\n", GAME_BUFFER_CAPACITY);
     buffer->AppendText(std::string(GAME_BUFFER_CAPACITY - 110, '\n').c_str(), true);
