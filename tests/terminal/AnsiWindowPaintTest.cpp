@@ -157,7 +157,8 @@ TEST_F(PaintTextTest, TheBandsAroundTheRowsAreFilledWithTheWindowColours)
 
     // (109 - 100) / 2 leaves 4 pixels above the rows and 5 below.
     host.client = {0, 0, 300, 109};
-    const DrawCall* strip = FillAt(Paint(*Make("Thought Window")), 0, 104);
+    const std::vector<DrawCall> banded = Paint(*Make("Thought Window"));
+    const DrawCall* strip = FillAt(banded, 0, 104);
     ASSERT_NE(strip, nullptr);
     EXPECT_EQ(strip->rect.bottom, 109);
     EXPECT_EQ(strip->backColor, BLACK);
