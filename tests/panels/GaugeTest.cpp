@@ -59,6 +59,8 @@ TEST(GaugeTextTest, ShowsTheChosenNumbersOrTheCutCustomText)
     EXPECT_EQ(TextOf(seconds), "2");
     seconds.SetValue(0);
     EXPECT_EQ(TextOf(seconds), "");
+    char untouched[] = "x";
+    EXPECT_STREQ(gauge.BuildText(untouched, 0), "x") << "no room: nothing written";
 }
 
 TEST(GaugeGeometryTest, AnUprightBarGrowsUpwardsAndTicksShowWhileAboveMinimum)
@@ -69,6 +71,9 @@ TEST(GaugeGeometryTest, AnUprightBarGrowsUpwardsAndTicksShowWhileAboveMinimum)
     const Rect bar = upright.BarRect({0, 0, 10, 40});
     EXPECT_EQ(bar.top, 30);
     EXPECT_EQ(bar.bottom, 40);
+    upright.SetValue(0);
+    const Rect empty = upright.BarRect({0, 0, 10, 40});
+    EXPECT_EQ(empty.right, empty.left) << "a bar at its minimum has no width";
 
     Gauge gauge("Hp:", BoxFlags, true, {});
     gauge.SetMax(100);
@@ -131,6 +136,8 @@ TEST(GaugeCountdownTest, CountsDownBySecondsRestartsAndStops)
     EXPECT_EQ(gauge.GetValue(), 0);
     EXPECT_EQ(listener.done.size(), 1u);
     EXPECT_FALSE(gauge.IsCounting());
+    gauge.StopCountdown(&listener);
+    EXPECT_EQ(timer.events.size(), 4u) << "a stopped gauge has no timer to stop";
 }
 
 } // namespace

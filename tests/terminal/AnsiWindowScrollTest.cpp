@@ -248,11 +248,14 @@ TEST_F(ScrollbackWindowTest, NewTextShowsBelowTheFrozenViewOnlyWithTheLiveTail)
         for (std::int32_t row = 0; row < viewRows; ++row)
             EXPECT_EQ(after[row], before[row]) << "row " << row;
         EXPECT_EQ(host.invalidations.size(), liveTail ? 1u : 0u);
-        if (liveTail)
+        if (liveTail) {
             EXPECT_EQ(std::vector<std::string>(after.begin() + viewRows + 1, after.end()),
                       (std::vector<std::string>{"line 29", "fresh news", ""}));
-        else
+            EXPECT_EQ(window->SplitBarTop(), TOP + VIEW_ROWS * CELL_HEIGHT);
+            EXPECT_EQ(window->ViewBottom(), window->SplitBarTop()) << "the bar ends the view";
+        } else {
             EXPECT_EQ(after, before);
+        }
     }
 }
 
