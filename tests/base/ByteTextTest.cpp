@@ -68,7 +68,6 @@ TEST(ByteText, ColourSequencesCarryTheBackgroundOnlyWhenSet)
         const char* off;
         std::size_t length;
     } cases[] = {
-        {14, "\x8E", "\xA0", 1},
         {0x1E, "\x91\x8E", "\xA1\xA0", 2},
         {0x00, "\x80", "\xA0", 1},
         {0xF7, "\x9F\x87", "\xA1\xA0", 2},

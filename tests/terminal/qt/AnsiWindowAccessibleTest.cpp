@@ -76,7 +76,6 @@ TEST_F(AccessibleWindowTest, TheTextIsTheExportAndEveryAppendIsAnnouncedWhereItL
     const AppendCase cases[] = {
         {"lines", {"one\r\n", "two\r\n"}, "two\r\n"},
         {"colour codes left out", {"a ", Colored("red") + "\r\n"}, "red\r\n"},
-        {"a prompt, then the command's line", {"> ", "look\r\n"}, "look\r\n"},
         {"tabs and bells", {"a\tb\a\r\n"}, "a      b\r\n"},
         {"a line that wraps",
          {std::string(80, 'w') + " " + std::string(80, 'v') + "\r\n"},
