@@ -255,7 +255,6 @@ TEST_F(ClientCommandsTest, MenuCommandsOffline)
 {
     FrameMenu& menu = client->Frame().Menu();
     menu.Refresh();
-    EXPECT_TRUE(menu.Action(CMD_CONNECT)->isEnabled());
     EXPECT_FALSE(menu.Action(CMD_RESET_STEWARD_MODE)->isEnabled());
     EXPECT_FALSE(menu.Action(CMD_OPEN_GAME_WINDOW)->isEnabled());
     EXPECT_TRUE(menu.Action(CMD_OPEN_ARRIVAL_WINDOW)->isEnabled());
