@@ -140,8 +140,6 @@ TEST_F(ClientCommandsTest, LogsOpenFlushAndCountUp)
 TEST_F(ClientCommandsTest, WindowMenuOpensArrangesAndCascadesWindows)
 {
     ChildWindowSet& windows = client->Windows();
-    EXPECT_TRUE(windows.Exists(GAME_ROW));
-    EXPECT_TRUE(windows.Exists(THOUGHT_ROW));
     EXPECT_FALSE(windows.Exists(ARRIVAL_ROW));
     client->OnCommand(CMD_OPEN_ARRIVAL_WINDOW);
     ASSERT_NE(client->State().Windows.ArrivalWindow, nullptr);
