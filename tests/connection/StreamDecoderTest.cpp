@@ -168,13 +168,9 @@ TEST_F(LineAssemblyTest, LinesEndAtLineFeedTheLimitOrTheBlockUnlessHeld)
     }
 }
 
-// Hold can be switched on between blocks; an overlong read is taken as several blocks; the read
-// size stays within the receive buffer.
-TEST_F(LineAssemblyTest, HoldSwitchAndReadSizes)
+// An overlong read is taken as several blocks; the read size stays within the receive buffer.
+TEST_F(LineAssemblyTest, ReadSizes)
 {
-    EXPECT_EQ(Receive({"Obvious exits: north\r\n>"}, false),
-              (Lines{"Obvious exits: north\r\n", ">"}));
-    EXPECT_EQ(Receive({"You g", "o north.\r\n"}, true), Lines{"You go north.\r\n"});
     EXPECT_EQ(Receive({std::string(RECEIVE_CHUNK_MAX + 10, 'a')}, false),
               (Lines{std::string(RECEIVE_CHUNK_MAX, 'a'), std::string(10, 'a')}));
     const std::pair<std::int32_t, std::size_t> sizes[] = {{1024, 1024}, {256, 256}, {2048, 2048},

@@ -18,17 +18,32 @@ MenuItemState After(const MenuInputs& inputs, int command)
     return state.Of(command);
 }
 
-TEST(MenuState, ChecksFollowTheOptions)
+// Each flag of the live state, off and on, sets the check or the grey of its items.
+TEST(MenuState, ItemsFollowTheirFlag)
 {
-    MenuInputs in;
-    in.AutoArrange = false;
-    in.AutoLog = true;
-    EXPECT_FALSE(After(in, CMD_AUTO_ARRANGE).Checked);
-    EXPECT_TRUE(After(in, CMD_AUTO_LOG).Checked);
-    in.AutoArrange = true;
-    in.AutoLog = false;
-    EXPECT_TRUE(After(in, CMD_AUTO_ARRANGE).Checked);
-    EXPECT_FALSE(After(in, CMD_AUTO_LOG).Checked);
+    const struct {
+        bool MenuInputs::*flag;
+        int command;
+        bool MenuItemState::*shown;
+        bool whenOn;
+    } cases[] = {
+        {&MenuInputs::AutoArrange, CMD_AUTO_ARRANGE, &MenuItemState::Checked, true},
+        {&MenuInputs::AutoLog, CMD_AUTO_LOG, &MenuItemState::Checked, true},
+        {&MenuInputs::Disconnected, CMD_CONNECT, &MenuItemState::Enabled, true},
+        {&MenuInputs::Disconnected, CMD_RESET_STEWARD_MODE, &MenuItemState::Enabled, false},
+        {&MenuInputs::LogOpen, CMD_OPEN_LOG, &MenuItemState::Enabled, false},
+        {&MenuInputs::LogOpen, CMD_CLOSE_LOG, &MenuItemState::Enabled, true},
+        {&MenuInputs::GameWindowOpen, CMD_OPEN_GAME_WINDOW, &MenuItemState::Enabled, false},
+        {&MenuInputs::ThoughtWindowOpen, CMD_OPEN_THOUGHT_WINDOW, &MenuItemState::Enabled, false},
+        {&MenuInputs::ArrivalWindowOpen, CMD_OPEN_ARRIVAL_WINDOW, &MenuItemState::Enabled, false},
+    };
+    for (const auto& c : cases) {
+        for (bool on : {false, true}) {
+            MenuInputs in;
+            in.*c.flag = on;
+            EXPECT_EQ(After(in, c.command).*c.shown, on == c.whenOn) << c.command << " " << on;
+        }
+    }
 }
 
 TEST(MenuState, OneDisplayModeIsChecked)
@@ -40,27 +55,6 @@ TEST(MenuState, OneDisplayModeIsChecked)
         for (int i = 0; i < 3; ++i)
             EXPECT_EQ(After(in, items[i]).Checked, i == mode) << int(mode) << " " << items[i];
     }
-}
-
-TEST(MenuState, ConnectionItemsFollowTheSocket)
-{
-    MenuInputs in;
-    in.Disconnected = true;
-    EXPECT_TRUE(After(in, CMD_CONNECT).Enabled);
-    EXPECT_FALSE(After(in, CMD_RESET_STEWARD_MODE).Enabled);
-    in.Disconnected = false;
-    EXPECT_FALSE(After(in, CMD_CONNECT).Enabled);
-    EXPECT_TRUE(After(in, CMD_RESET_STEWARD_MODE).Enabled);
-}
-
-TEST(MenuState, LogItemsFollowTheLog)
-{
-    MenuInputs in;
-    EXPECT_TRUE(After(in, CMD_OPEN_LOG).Enabled);
-    EXPECT_FALSE(After(in, CMD_CLOSE_LOG).Enabled);
-    in.LogOpen = true;
-    EXPECT_FALSE(After(in, CMD_OPEN_LOG).Enabled);
-    EXPECT_TRUE(After(in, CMD_CLOSE_LOG).Enabled);
 }
 
 struct EditCase {
@@ -89,18 +83,6 @@ TEST(MenuState, EditItemsFollowSelectionsAndClipboard)
         EXPECT_EQ(After(in, CMD_COPY).Enabled, c.copy);
         EXPECT_EQ(After(in, CMD_PASTE).Enabled, c.paste);
     }
-}
-
-TEST(MenuState, OpenWindowItemsAreGreyWhileTheirWindowIsOpen)
-{
-    MenuInputs in;
-    in.GameWindowOpen = true;
-    in.ArrivalWindowOpen = true;
-    EXPECT_FALSE(After(in, CMD_OPEN_GAME_WINDOW).Enabled);
-    EXPECT_TRUE(After(in, CMD_OPEN_THOUGHT_WINDOW).Enabled);
-    EXPECT_FALSE(After(in, CMD_OPEN_ARRIVAL_WINDOW).Enabled);
-    in.ThoughtWindowOpen = true;
-    EXPECT_FALSE(After(in, CMD_OPEN_THOUGHT_WINDOW).Enabled);
 }
 
 struct ScriptMenuCase {

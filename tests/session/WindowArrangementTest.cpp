@@ -40,73 +40,45 @@ class RecordingChildren : public ChildWindowHost {
     std::vector<MoveCall> moves;
 };
 
-TEST(ArrangeWindows, GameAloneIsMaximised)
+// The game takes the lower three quarters and the other windows share the top band; arranging
+// is off unless turned on or forced.
+TEST(ArrangeWindows, PlacesTheOpenWindowsWhenOnOrForced)
 {
-    RecordingChildren host;
-    host.open[GAME_ROW] = true;
-    ArrangeWindows(host, false, true);
-    EXPECT_TRUE(host.moves.empty());
-    EXPECT_EQ(host.calls, (std::vector<std::string>{"maximise 0", "activate 0", "focus"}));
-}
-
-TEST(ArrangeWindows, TwoWindowsShareTopBandAndLowerThreeQuarters)
-{
-    RecordingChildren host;
-    host.open[GAME_ROW] = host.open[THOUGHT_ROW] = true;
-    ArrangeWindows(host, false, true);
     using M = RecordingChildren::MoveCall;
-    EXPECT_EQ(host.moves, (std::vector<M>{{THOUGHT_ROW, RectAt(0, 0, 800, 100)},
-                                          {GAME_ROW, RectAt(0, 100, 800, 302)}}));
-}
-
-TEST(ArrangeWindows, ThreeWindowsSplitTheTopBandInHalves)
-{
-    RecordingChildren host;
-    host.open[GAME_ROW] = host.open[THOUGHT_ROW] = host.open[ARRIVAL_ROW] = true;
-    ArrangeWindows(host, false, true);
-    using M = RecordingChildren::MoveCall;
-    EXPECT_EQ(host.moves, (std::vector<M>{{THOUGHT_ROW, RectAt(0, 0, 400, 100)},
-                                          {ARRIVAL_ROW, RectAt(400, 0, 400, 100)},
-                                          {GAME_ROW, RectAt(0, 100, 800, 302)}}));
-}
-
-TEST(ArrangeWindows, WithoutGameTheFirstOpenRowTakesTheLowerPart)
-{
-    RecordingChildren host;
-    host.open[THOUGHT_ROW] = host.open[ARRIVAL_ROW] = true;
-    ArrangeWindows(host, false, true);
-    using M = RecordingChildren::MoveCall;
-    EXPECT_EQ(host.moves, (std::vector<M>{{ARRIVAL_ROW, RectAt(0, 0, 800, 100)},
-                                          {THOUGHT_ROW, RectAt(0, 100, 800, 302)}}));
-    EXPECT_EQ(host.calls, (std::vector<std::string>{"focus"}));
-}
-
-TEST(ArrangeWindows, RestoresMinimisedAndMaximisedWindowsFirst)
-{
-    RecordingChildren host;
-    host.open[GAME_ROW] = host.open[THOUGHT_ROW] = true;
-    host.maximised[GAME_ROW] = true;
-    host.minimised[THOUGHT_ROW] = true;
-    ArrangeWindows(host, false, true);
-    EXPECT_EQ(host.calls,
-              (std::vector<std::string>{"restore 0", "restore 1", "activate 0", "focus"}));
-}
-
-TEST(ArrangeWindows, OffUnlessForced)
-{
-    RecordingChildren host;
-    host.open[GAME_ROW] = true;
-    ArrangeWindows(host, false, false);
-    EXPECT_TRUE(host.calls.empty());
-    ArrangeWindows(host, true, false);
-    EXPECT_EQ(host.calls.front(), "maximise 0");
-}
-
-TEST(ArrangeWindows, NoWindowNoWork)
-{
-    RecordingChildren host;
-    ArrangeWindows(host, true, true);
-    EXPECT_TRUE(host.calls.empty());
+    using Calls = std::vector<std::string>;
+    const M thoughtTop{THOUGHT_ROW, RectAt(0, 0, 800, 100)};
+    const M gameBelow{GAME_ROW, RectAt(0, 100, 800, 302)};
+    const Calls gameAlone{"maximise 0", "activate 0", "focus"};
+    // sized: the game maximised and the thoughts minimised beforehand.
+    // clang-format off
+    const struct { const char* name; std::vector<WindowRow> open; bool sized, forced, on;
+                   std::vector<M> moves; Calls calls; } cases[] = {
+        {"the game alone is maximised", {GAME_ROW}, false, false, true, {}, gameAlone},
+        {"two windows", {GAME_ROW, THOUGHT_ROW}, false, false, true, {thoughtTop, gameBelow},
+         {"activate 0", "focus"}},
+        {"three split the top band in halves", {GAME_ROW, THOUGHT_ROW, ARRIVAL_ROW}, false, false,
+         true, {{THOUGHT_ROW, RectAt(0, 0, 400, 100)}, {ARRIVAL_ROW, RectAt(400, 0, 400, 100)},
+                gameBelow}, {"activate 0", "focus"}},
+        {"without the game the first open row takes the lower part", {THOUGHT_ROW, ARRIVAL_ROW},
+         false, false, true,
+         {{ARRIVAL_ROW, RectAt(0, 0, 800, 100)}, {THOUGHT_ROW, RectAt(0, 100, 800, 302)}},
+         {"focus"}},
+        {"minimised and maximised windows are restored first", {GAME_ROW, THOUGHT_ROW}, true,
+         false, true, {thoughtTop, gameBelow}, {"restore 0", "restore 1", "activate 0", "focus"}},
+        {"off", {GAME_ROW}, false, false, false, {}, {}},
+        {"off but forced", {GAME_ROW}, false, true, false, {}, gameAlone},
+        {"no window, no work", {}, false, true, true, {}, {}},
+    };
+    // clang-format on
+    for (const auto& c : cases) {
+        RecordingChildren host;
+        for (WindowRow row : c.open)
+            host.open[row] = true;
+        host.maximised[GAME_ROW] = host.minimised[THOUGHT_ROW] = c.sized;
+        ArrangeWindows(host, c.forced, c.on);
+        EXPECT_EQ(host.moves, c.moves) << c.name;
+        EXPECT_EQ(host.calls, c.calls) << c.name;
+    }
 }
 
 TEST(ChildCreationRect, StepsDownWhenNotArranged)
