@@ -40,7 +40,6 @@ TEST(KeyDecision, DecidesEachKeyAsTheTableSays)
                 {VK_UP, NUM, 1, 0, A::None, 0},
                 {VK_UP, 0, 1, 0, A::ExpandMacro, VK_NUMPAD0 + 8},
                 {VK_INSERT, EXT | SHIFT, 0, 0, A::None, 0},
-                {VK_CLEAR, EXT, 0, 0, A::None, 0},
                 {VK_UP, EXT, 0, 0, A::HistoryPrevious, 0},
                 {VK_DOWN, EXT | NUM, 1, 0, A::HistoryNext, 0},
                 {VK_PRIOR, EXT | SHIFT | CTRL, 0, 0, A::Scroll, SB_LINEUP},
