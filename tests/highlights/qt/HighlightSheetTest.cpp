@@ -109,7 +109,6 @@ TEST_F(HighlightSheetTest, AnEditReachesTheStoreOnlyOnOkOrApply)
                 {NAMES, Ending::Ok, true},      {NAMES, Ending::ApplyThenCancel, true}};
     for (const auto& row : rows) {
         SCOPED_TRACE(static_cast<int>(row.ending) * 10 + row.tab);
-        // The colour of the first row of the page's store.
         const auto stored = [&] {
             if (row.tab == DEFAULTS)
                 return settings.SaysColor;
