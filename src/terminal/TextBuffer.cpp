@@ -105,7 +105,10 @@ void TextBuffer::AppendText(const char* text, bool trackSelection)
         const auto* t = reinterpret_cast<const unsigned char*>(text);
         while (*t != '\0') {
             const unsigned char* behind = StoreRun(t);
-            t = behind != t ? behind : (AppendByte(*t), t + 1);
+            if (behind != t)
+                t = behind;
+            else
+                AppendByte(*t++);
         }
     }
     Storage[WritePos] = WRITE_MARK;
