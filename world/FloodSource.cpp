@@ -26,7 +26,11 @@ QByteArray FloodSource::Next(qint64 wanted)
     if (done)
         return chunk;
     while (remaining > 0 && chunk.size() < wanted) {
-        const QByteArray line = Line().left(remaining);
+        QByteArray line = Line();
+        // A line cut short could leave a status record or a colour open and swallow the end
+        // line, so the last one that does not fit is made up whole to the exact size.
+        if (line.size() > remaining)
+            line = remaining == 1 ? "\n" : QByteArray(remaining - 2, '.') + "\r\n";
         chunk += line;
         remaining -= line.size();
     }
@@ -53,7 +57,6 @@ QByteArray FloodSource::Line()
         fields.hitPointsMax = 100;
         fields.fatigue = int(random.bounded(0, 61));
         fields.fatigueMax = 60;
-        fields.roundTimeSeconds = int(random.bounded(4));
         return FormatStatusRecord(fields);
     }
     case 3:

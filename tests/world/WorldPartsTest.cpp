@@ -69,15 +69,19 @@ TEST(StatusRecord, PutsEveryFieldAtItsOffsetClampedAndTheRoundTimeAsSecondsPlusO
     EXPECT_EQ(clamped.size(), StatusRecordLength);
 }
 
-TEST(FloodSource, EndsOnceAndOnlyOnce)
+TEST(FloodSource, EndsOnceAndOnlyOnceWithTheEndLineOnALineOfItsOwn)
 {
-    FloodSource source(100, 3);
-    QByteArray all;
-    while (!source.Done())
-        all += source.Next(40);
-    EXPECT_TRUE(all.endsWith("FLOOD-END\r\n"));
-    EXPECT_EQ(all.size(), 100 + qstrlen(FloodSource::EndLine));
-    EXPECT_TRUE(source.Next(40).isEmpty());
+    // Every size cuts the last line somewhere else: inside a status record, a colour, a word.
+    for (qint64 total = 1; total <= 400; ++total) {
+        SCOPED_TRACE(total);
+        FloodSource source(total, 3);
+        QByteArray all;
+        while (!source.Done())
+            all += source.Next(40);
+        ASSERT_EQ(all.size(), total + qstrlen(FloodSource::EndLine));
+        ASSERT_TRUE(all.endsWith("\nFLOOD-END\r\n"));
+        EXPECT_TRUE(source.Next(40).isEmpty());
+    }
 }
 
 } // namespace
