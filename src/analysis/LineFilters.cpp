@@ -12,18 +12,18 @@
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
-#include <iterator>
+#include <string_view>
 
 namespace steward {
 
 namespace {
 
-const char* const SpeechVerbs[] = {
+constexpr std::string_view SpeechVerbs[] = {
     " says, \"",   " say, \"",   " asks, \"",  " ask, \"",  " screams, \"",  " scream, \"",
     " shouts, \"", " shout, \"", " yells, \"", " yell, \"", " belt out, \"", " signals, \"",
 };
-const char* const Yells[] = {" yells, \"", " screams, \""};
-const char* const Whisper = " whispers, \"";
+constexpr std::string_view Yells[] = {" yells, \"", " screams, \""};
+constexpr std::string_view Whisper[] = {" whispers, \""};
 
 struct ExitName {
     const char* name;
@@ -37,16 +37,16 @@ const ExitName ExitNames[] = {
     {"up", 0x200},        {"down", 0x400},      {"out", 0x100},
 };
 
-// Every phrase of the lists above ends so: a line without it, as most are, needs one scan.
-constexpr char SpeechTail[] = ", \"";
-
-bool ContainsAny(const char* text, const char* const* phrases, std::size_t count)
+// Every phrase of the lists above ends in a quote, which most lines lack: the phrases are only
+// compared where a line has one, against the bytes that lead up to it.
+template <std::size_t N> bool ContainsAny(const char* text, const std::string_view (&phrases)[N])
 {
-    if (!Contains(text, SpeechTail))
-        return false;
-    for (std::size_t i = 0; i < count; ++i)
-        if (Contains(text, phrases[i]))
-            return true;
+    for (const char* quote = std::strchr(text, '"'); quote; quote = std::strchr(quote + 1, '"')) {
+        const std::string_view upToQuote(text, static_cast<std::size_t>(quote - text) + 1);
+        for (const std::string_view phrase : phrases)
+            if (upToQuote.ends_with(phrase))
+                return true;
+    }
     return false;
 }
 
@@ -72,16 +72,16 @@ void LinePipeline::FilterLine(char* text, std::size_t capacity)
 {
     if (std::strlen(text) < 3)
         return;
-    if (options_.IgnoreYells && ContainsAny(text, Yells, std::size(Yells))) {
+    if (options_.IgnoreYells && ContainsAny(text, Yells)) {
         CopyCut(text, capacity, "You ignore a yell.\r\n");
         return;
     }
-    if (ContainsAny(text, SpeechVerbs, std::size(SpeechVerbs))) {
+    if (ContainsAny(text, SpeechVerbs)) {
         if (const char* comma = std::strchr(text, ','))
             ColorAround(text, capacity, options_.SaysColor,
                         static_cast<std::size_t>(comma - text) + 1);
     }
-    if (Contains(text, Whisper)) {
+    if (ContainsAny(text, Whisper)) {
         if (const char* quote = std::strchr(text, '"'))
             ColorAround(text, capacity, options_.WhispersColor,
                         static_cast<std::size_t>(quote - text));

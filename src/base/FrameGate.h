@@ -28,6 +28,9 @@ class FrameGate {
         return 0;
     }
 
+    // A draw is waiting for the frame's end: a further request would only join it.
+    bool Waiting() const { return waiting_; }
+
     // The wait of a request ended, and the picture is drawn at `nowMs`.
     void Drawn(std::int64_t nowMs)
     {

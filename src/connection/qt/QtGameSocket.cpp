@@ -1,14 +1,47 @@
 #include "connection/qt/QtGameSocket.h"
 
+#include <QCoreApplication>
+
+#include <algorithm>
+#include <new>
+
 namespace steward {
 
 namespace {
 
 // How long a close waits for the last line (such as "quit") to leave.
 constexpr int CLOSE_FLUSH_MS = 2000;
-// Qt reads ahead of us only this far; beyond it the bytes wait in the kernel and TCP slows the
-// server down, so a flood faster than the client can show never piles up in memory.
+// Qt reads ahead of us only this far (and we hold as much again); beyond it the bytes wait in
+// the kernel and TCP slows the server down, so a flood faster than the client can show never
+// piles up in memory.
 constexpr qint64 READ_AHEAD_LIMIT = 16 * RECEIVE_CHUNK_MAX;
+
+const QEvent::Type READ_BLOCK_EVENT = static_cast<QEvent::Type>(QEvent::registerEventType());
+
+// Asks for the next block at the next turn of the loop. One is posted per block, and Qt deletes
+// each after its turn, so their memory is kept for the next instead of going back to the heap.
+// Sockets live on the main thread, which alone makes and deletes these.
+class ReadBlockEvent : public QEvent {
+  public:
+    ReadBlockEvent() : QEvent(READ_BLOCK_EVENT) {}
+
+    static void* operator new(std::size_t size)
+    {
+        if (!spare_)
+            return ::operator new(size);
+        void* reused = spare_;
+        spare_ = spare_->next;
+        return reused;
+    }
+    static void operator delete(void* memory) { spare_ = new (memory) Spare{spare_}; }
+
+  private:
+    struct Spare {
+        Spare* next;
+    };
+    static_assert(sizeof(Spare) <= sizeof(QEvent));
+    static inline Spare* spare_ = nullptr;
+};
 
 } // namespace
 
@@ -30,6 +63,7 @@ bool QtGameSocket::Open(const char* host, std::uint16_t port, int timeoutMillise
     }
     open_ = true;
     remoteClosed_ = false;
+    ForgetStaged();
     if (socket_.bytesAvailable() > 0)
         ScheduleRead();
     return true;
@@ -47,6 +81,7 @@ void QtGameSocket::Close()
     if (!open_)
         return;
     open_ = false;
+    ForgetStaged();
     if (socket_.state() == QAbstractSocket::ConnectedState) {
         socket_.flush();
         if (socket_.bytesToWrite() > 0)
@@ -60,7 +95,13 @@ void QtGameSocket::ScheduleRead()
     if (readScheduled_ || !open_)
         return;
     readScheduled_ = true;
-    QMetaObject::invokeMethod(this, &QtGameSocket::ReadOneBlock, Qt::QueuedConnection);
+    QCoreApplication::postEvent(this, new ReadBlockEvent);
+}
+
+void QtGameSocket::customEvent(QEvent* event)
+{
+    if (event->type() == READ_BLOCK_EVENT)
+        ReadOneBlock();
 }
 
 void QtGameSocket::ReadOneBlock()
@@ -68,12 +109,21 @@ void QtGameSocket::ReadOneBlock()
     readScheduled_ = false;
     if (!open_)
         return;
-    qint64 n = socket_.read(block_, static_cast<qint64>(listener_.BlockSize()));
-    if (n > 0)
-        listener_.ReceiveBlock(block_, static_cast<std::size_t>(n));
+    if (stagedBegin_ == stagedEnd_) {
+        const qint64 n = socket_.read(staged_, static_cast<qint64>(sizeof staged_));
+        stagedBegin_ = 0;
+        stagedEnd_ = n > 0 ? static_cast<std::size_t>(n) : 0;
+    }
+    const std::size_t length = std::min(stagedEnd_ - stagedBegin_, listener_.BlockSize());
+    if (length > 0) {
+        // Taken before it is handed on: a listener that closes or reopens starts afresh.
+        const char* block = staged_ + stagedBegin_;
+        stagedBegin_ += length;
+        listener_.ReceiveBlock(block, length);
+    }
     if (!open_)
         return;
-    if (socket_.bytesAvailable() > 0) {
+    if (stagedBegin_ < stagedEnd_ || socket_.bytesAvailable() > 0) {
         ScheduleRead();
         return;
     }

@@ -19,17 +19,25 @@ class QtGameSocket : public QObject, public GameSocket {
     void Write(const char* bytes, std::size_t length) override;
     void Close() override;
 
+  protected:
+    void customEvent(QEvent* event) override;
+
   private:
     void ScheduleRead();
     void ReadOneBlock();
     void OnDisconnected();
+    void ForgetStaged() { stagedBegin_ = stagedEnd_ = 0; }
 
     SocketListener& listener_;
     QTcpSocket socket_;
     bool open_ = false;
     bool readScheduled_ = false;
     bool remoteClosed_ = false;
-    char block_[RECEIVE_CHUNK_MAX];
+    // Bytes taken from Qt in one read and handed on a block per turn, so that the kernel is asked
+    // once per many blocks instead of once per block.
+    char staged_[16 * RECEIVE_CHUNK_MAX];
+    std::size_t stagedBegin_ = 0;
+    std::size_t stagedEnd_ = 0;
 };
 
 } // namespace steward

@@ -27,6 +27,7 @@ MultiControl::MultiControl(QWidget* parent, std::unique_ptr<ControlHandler> hand
     scratch_.reserve(SCRATCH_CAPACITY);
     clock_.start();
     repaintTimer_.setSingleShot(true);
+    repaintTimer_.setTimerType(Qt::PreciseTimer);
     connect(&repaintTimer_, &QTimer::timeout, this, [this] {
         gate_.Drawn(clock_.elapsed());
         update();
@@ -37,7 +38,9 @@ MultiControl::MultiControl(QWidget* parent, std::unique_ptr<ControlHandler> hand
 // follows once per frame.
 void MultiControl::Repaint()
 {
-    if (!handler_->NeedsPaint())
+    // A waiting draw shows the latest values anyway, and reading the clock costs more than the
+    // rest of the request.
+    if (gate_.Waiting() || !handler_->NeedsPaint())
         return;
     const std::int64_t wait = gate_.Request(clock_.elapsed());
     if (wait == 0)

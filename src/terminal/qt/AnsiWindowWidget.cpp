@@ -42,6 +42,8 @@ AnsiWindowWidget::AnsiWindowWidget(const Parts& parts)
     connect(scrollBar_, &QScrollBar::actionTriggered, this, &AnsiWindowWidget::ScrollBarAction);
     repaintTimer_.setSingleShot(true);
     repaintTimer_.setInterval(REPAINT_INTERVAL_MS);
+    // A coarse timer may fire up to 5% early, which would paint more often than once a frame.
+    repaintTimer_.setTimerType(Qt::PreciseTimer);
     // Only the rows: the scroll bar and the find bar beside them repaint when they change.
     connect(&repaintTimer_, &QTimer::timeout, this, [this] {
         repaintPending_ = false;
