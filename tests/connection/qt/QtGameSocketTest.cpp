@@ -103,6 +103,19 @@ TEST_F(QtGameSocketTest, OwnCloseIsNoDropAndAClosedPortFails)
     QTest::qWait(20);
     EXPECT_EQ(listener.closed, 0);
 
+    // Bytes of a closed connection that were read ahead never reach the next one.
+    ASSERT_TRUE(OpenAndAccept());
+    listener.blockSize = 16;
+    peer->write(QByteArray(3000, 'o'));
+    ASSERT_TRUE(QTest::qWaitFor([&] { return listener.received > 0; }, 5000));
+    socket.Close();
+    ASSERT_TRUE(OpenAndAccept());
+    const std::size_t before = listener.received;
+    peer->write("fresh");
+    ASSERT_TRUE(QTest::qWaitFor([&] { return listener.received >= before + 5; }, 5000));
+    QTest::qWait(20);
+    EXPECT_EQ(listener.All().substr(before), "fresh");
+
     const quint16 port = server.serverPort();
     server.close();
     RecordingListener other;
@@ -125,10 +138,14 @@ TEST(QtGameSocketFlood, AStreamLongerThanTheReadAheadArrivesWhole)
         ASSERT_TRUE(socket.Open("127.0.0.1", server.serverPort(), 5000));
         ASSERT_TRUE(server.waitForNewConnection(5000));
         std::unique_ptr<QTcpSocket> peer(server.nextPendingConnection());
-        peer->write(QByteArray(Total, 'a'));
+        QByteArray stream(Total, '\0');
+        for (qint64 i = 0; i < Total; ++i)
+            stream[i] = static_cast<char>(i % 251);
+        peer->write(stream);
         EXPECT_TRUE(steward::testing::RunLoopUntil(
             [&] { return listener.received == static_cast<std::size_t>(Total); }, 10000))
             << "block " << blockSize << ": " << listener.received << " of " << Total;
+        EXPECT_TRUE(listener.All() == stream.toStdString()) << "block " << blockSize;
     }
 }
 
