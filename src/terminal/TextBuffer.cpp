@@ -44,7 +44,9 @@ std::unique_ptr<TextBuffer> TextBuffer::CreateTextBuffer(std::uint32_t capacity)
 TextBuffer::TextBuffer(std::uint32_t capacity, std::unique_ptr<unsigned char[]> storage)
     : Capacity(capacity), Storage(std::move(storage))
 {
-    CharWidth.fill(INITIAL_CHAR_WIDTH);
+    CharWidthTable widths;
+    widths.fill(INITIAL_CHAR_WIDTH);
+    SetCharWidths(widths);
     std::fill_n(Storage.get(), INITIAL_LINE_FEEDS, HARD_LINE_END);
     WritePos = INITIAL_LINE_FEEDS - 1;
     WalkPos = WritePos;
@@ -94,7 +96,7 @@ void TextBuffer::SetGeometry(std::int32_t leftMargin, std::int32_t width,
 {
     LeftMargin = leftMargin;
     PenX = leftMargin;
-    CharWidth = charWidths;
+    SetCharWidths(charWidths);
     WrapLimit = std::max(width, Saturated(std::int64_t{leftMargin} + MIN_WRAP_WIDTH));
 }
 
@@ -137,6 +139,15 @@ bool IsPlainCharacter(unsigned char b)
 
 } // namespace
 
+void TextBuffer::SetCharWidths(const CharWidthTable& widths)
+{
+    // Far beyond any row: a pen is an int32, so this sum never reaches back under a wrap limit.
+    constexpr std::int64_t NEVER_FITS = std::int64_t{1} << 40;
+    CharWidth = widths;
+    for (int b = 0; b < 256; ++b)
+        runWidth_[b] = IsPlainCharacter(static_cast<unsigned char>(b)) ? widths[b] : NEVER_FITS;
+}
+
 // The receive path's common case in one loop: plain characters that fit on the row are stored
 // as StoreCharacter would store them one by one. The run stops before the ring's last byte and
 // before scanStop_, which the byte path looks after; it may store nothing.
@@ -147,18 +158,20 @@ const unsigned char* TextBuffer::StoreRun(const unsigned char* t)
         limit = scanStop_;
     }
     unsigned char* const ring = Storage.get();
-    const std::int32_t wrapLimit = WrapLimit;
-    Position at = WritePos;
+    const std::int64_t wrapLimit = WrapLimit;
+    const Position start = WritePos;
+    Position at = start;
     std::int64_t pen = PenX;
-    std::int64_t column = Column;
-    for (; at < limit && IsPlainCharacter(*t) && pen + CharWidth[*t] < wrapLimit; ++t, ++at) {
+    for (; at < limit; ++t, ++at) {
+        const std::int64_t width = runWidth_[*t];
+        if (pen + width >= wrapLimit)
+            break;
         ring[at] = *t;
-        pen += CharWidth[*t];
-        ++column;
+        pen += width;
     }
     WritePos = at;
     PenX = static_cast<std::int32_t>(pen);
-    Column = Saturated(column);
+    Column = Saturated(std::int64_t{Column} + (at - start));
     return t;
 }
 
@@ -534,7 +547,7 @@ bool TextBuffer::CopyBufferTo(TextBuffer& other) const
     other.PenX = PenX;
     other.LeftMargin = LeftMargin;
     other.WrapLimit = WrapLimit;
-    other.CharWidth = CharWidth;
+    other.SetCharWidths(CharWidth);
     return true;
 }
 

@@ -161,6 +161,7 @@ class TextBuffer {
 
     // Where the plain text begins: the first byte behind the blank lines of a fresh ring.
     Position PlainStart() const;
+    void SetCharWidths(const CharWidthTable& widths);
     const unsigned char* StoreRun(const unsigned char* t);
     void AppendByte(unsigned char b);
     void Store(unsigned char b);
@@ -192,6 +193,9 @@ class TextBuffer {
     std::int32_t LeftMargin = 0;
     std::int32_t WrapLimit = INITIAL_WRAP_LIMIT;
     CharWidthTable CharWidth{};
+    // CharWidth for the bytes a run stores as they are, and for every other byte a width that
+    // no row has room for, so that the run's loop asks one question per byte.
+    std::array<std::int64_t, 256> runWidth_{};
     BellListener* bell_ = nullptr;
 
     // What the last unsuccessful break search of the append path learnt: walking back from
