@@ -188,6 +188,27 @@ std::string RandomText(std::mt19937& random, int spaceWeight, std::uint32_t capa
     return text;
 }
 
+// The lines read from the head, each cut to the read limit, are the kept text split at its
+// line ends (an open last line counts, a soft end opens one), and every line's start maps back to
+// its index.
+void ExpectLinesOf(TextBuffer& buffer)
+{
+    const std::string kept = RingText(buffer);
+    std::vector<std::string> lines{""};
+    for (const char c : kept) {
+        if (c == '\n' || c == static_cast<char>(SOFT_LINE_END))
+            lines.emplace_back();
+        else if (lines.back().size() < static_cast<std::size_t>(READ_LINE_LIMIT))
+            lines.back() += c;
+    }
+    if (kept.empty() || kept.back() == '\n')
+        lines.pop_back();
+    ASSERT_EQ(AllLines(buffer), lines);
+    ASSERT_EQ(buffer.CountLines(), static_cast<std::int32_t>(lines.size()));
+    for (std::int32_t index = 0; index < buffer.CountLines(); ++index)
+        ASSERT_EQ(buffer.LineIndexOf(buffer.SeekLine(index)), index);
+}
+
 TEST(TextBufferMatchesReference, AfterEveryAppendAndRewrap)
 {
     for (unsigned seed = 1; seed <= 60; ++seed) {
@@ -204,7 +225,7 @@ TEST(TextBufferMatchesReference, AfterEveryAppendAndRewrap)
         for (int step = 0; step < 300; ++step) {
             if (random() % 20 == 0) {
                 const auto a = static_cast<std::int32_t>(random() % capacity);
-                const auto b = static_cast<std::int32_t>(random() % capacity);
+                const auto b = random() % 3 ? static_cast<std::int32_t>(random() % capacity) : a;
                 buffer->SetSelection(a, b);
                 reference.SetSelection(a, b);
             }
@@ -221,6 +242,7 @@ TEST(TextBufferMatchesReference, AfterEveryAppendAndRewrap)
             buffer->AppendText(text.c_str(), track);
             reference.Append(text, track);
             ASSERT_NO_FATAL_FAILURE(reference.ExpectSameAs(*buffer)) << "step " << step;
+            ASSERT_NO_FATAL_FAILURE(ExpectLinesOf(*buffer)) << "step " << step;
         }
     }
 }
