@@ -19,28 +19,38 @@ constexpr char RED_WORD[] = "ab\x8C"
                             "red\xA0"
                             "cd";
 
-struct Segment {
-    std::string text;
-    COLORREF textColor;
-    COLORREF backColor;
-    bool operator==(const Segment&) const = default;
-    friend std::ostream& operator<<(std::ostream& os, const Segment& s)
-    {
-        return os << s.text << " " << std::hex << s.textColor << "/" << s.backColor;
-    }
-};
-using Segments = std::vector<Segment>;
+// A colour by its letter: White, blacK, Red, Blue, else its hex.
+std::string Name(COLORREF color)
+{
+    const std::pair<COLORREF, const char*> names[] = {
+        {WHITE, "W"}, {BLACK, "K"}, {RED, "R"}, {BLUE, "B"}};
+    for (const auto& [known, name] : names)
+        if (color == known)
+            return name;
+    char hex[16];
+    std::snprintf(hex, sizeof hex, "%06x", color);
+    return hex;
+}
 
 class PaintTextTest : public WindowTest {
   protected:
-    // The text runs that a paint of the window draws on the row whose top is y.
-    Segments RowRuns(AnsiWindow& window, std::int32_t y = LAST_ROW_Y)
+    // The text runs that a paint draws on the row whose top is y, as "text fg/bg" joined by '|'.
+    std::string RowRuns(AnsiWindow& window, std::int32_t y = LAST_ROW_Y)
     {
-        Segments runs;
+        std::string runs;
         for (const DrawCall& call : Paint(window))
             if (!call.cursor && call.y == y && !call.text.empty())
-                runs.push_back({call.text, call.textColor, call.backColor});
+                runs += (runs.empty() ? "" : "|") + call.text + " " + Name(call.textColor) + "/" +
+                        Name(call.backColor);
         return runs;
+    }
+    // The runs of every row, one row a line.
+    std::string Screen(AnsiWindow& window)
+    {
+        std::string rows;
+        for (std::int32_t row = 0; row < ROWS; ++row)
+            rows += (row ? "\n" : "") + RowRuns(window, TOP + row * CELL_HEIGHT);
+        return rows;
     }
     // The first call that filled a rect with its top-left corner there.
     static const DrawCall* FillAt(const std::vector<DrawCall>& calls, std::int32_t left,
@@ -53,34 +63,31 @@ class PaintTextTest : public WindowTest {
     }
 };
 
+// Each line starts in the window's colours, as each text closes what it opens.
 TEST_F(PaintTextTest, ColourCodesSplitARowIntoRunsWithTheirColours)
 {
-    const std::pair<const char*, Segments> cases[] = {
-        {"plain", {{"plain", WHITE, BLACK}}},
-        {RED_WORD, {{"ab", WHITE, BLACK}, {"red", RED, BLACK}, {"cd", WHITE, BLACK}}},
-        {"\x99xy\xA1z", {{"xy", WHITE, BLUE}, {"z", WHITE, BLACK}}},
-        {"\x8C\x99"
-         "both\xA0\xA1",
-         {{"both", RED, BLUE}}},
-        // Closing codes without an opening one fall back to the window's defaults.
-        {"\xA0\xA1\xA0x", {{"x", WHITE, BLACK}}},
-        {"\x8C"
-         "a\x89"
-         "b\xA0"
-         "c\xA0"
-         "d",
-         {{"a", RED, BLACK}, {"b", BLUE, BLACK}, {"c", RED, BLACK}, {"d", WHITE, BLACK}}}};
-    for (const auto& [text, runs] : cases) {
-        auto window = Make("Thought Window");
-        window->AppendText(text);
-        EXPECT_EQ(RowRuns(*window), runs) << text;
-    }
-    // An overlong line shows its first 511 bytes and loses a code behind them.
     auto window = Make("Thought Window");
+    window->AppendText(("plain\n" + std::string(RED_WORD) +
+                        "\n\x99xy\xA1z\n\x8C\x99"
+                        "both\xA0\xA1\n\xA0\xA1\xA0x\n\x8C"
+                        "a\x89"
+                        "b\xA0"
+                        "c\xA0"
+                        "d")
+                           .c_str());
+    EXPECT_EQ(Screen(*window), "\n\n\n\n"
+                               "plain W/K\n"
+                               "ab W/K|red R/K|cd W/K\n"
+                               "xy W/B|z W/K\n"
+                               "both R/B\n"
+                               "x W/K\n"
+                               "a R/K|b B/K|c R/K|d W/K");
+    // An overlong line shows its first 511 bytes and loses a code behind them.
+    window = Make("Thought Window");
     window->AppendText(("\x8C" + std::string(520, 'x') + "\xA0\nnext").c_str());
     EXPECT_EQ(RowRuns(*window, LAST_ROW_Y - CELL_HEIGHT),
-              (Segments{{std::string(READ_LINE_LIMIT - 1, 'x'), RED, BLACK}}));
-    EXPECT_EQ(RowRuns(*window), (Segments{{"next", RED, BLACK}}));
+              std::string(READ_LINE_LIMIT - 1, 'x') + " R/K");
+    EXPECT_EQ(RowRuns(*window), "next R/K");
 }
 
 TEST_F(PaintTextTest, RunsArePlacedAtTheSumOfTheirWidthsAndTheRowIsFilledInTheWindowColour)
@@ -114,15 +121,14 @@ TEST_F(PaintTextTest, AnOpenColourGoesOnIntoTheNextRowsUntilItsCodeLeavesTheTop)
     auto window = Make("Thought Window");
     window->AppendText("\x8C"
                        "first\nsecond\n\x99third\xA1\nfourth\n");
-    EXPECT_EQ(RowRuns(*window, LAST_ROW_Y - 2 * CELL_HEIGHT), (Segments{{"third", RED, BLUE}}));
-    EXPECT_EQ(RowRuns(*window, LAST_ROW_Y - CELL_HEIGHT), (Segments{{"fourth", RED, BLACK}}));
+    EXPECT_EQ(Screen(*window), "\n\n\n\n\nfirst R/K\nsecond R/K\nthird R/B\nfourth R/K\n");
     AppendLines(*window, ROWS - 2);
-    EXPECT_EQ(RowRuns(*window, TOP), (Segments{{"fourth", WHITE, BLACK}}));
+    EXPECT_EQ(RowRuns(*window, TOP), "fourth W/K");
     // Each paint starts from the window's colours, whatever the last one left.
     window->AppendText("\x8C\x99open");
     Paint(*window);
     window->AppendText("\xA0\xA1\xA0\xA1\nafter");
-    EXPECT_EQ(RowRuns(*window), (Segments{{"after", WHITE, BLACK}}));
+    EXPECT_EQ(RowRuns(*window), "after W/K");
 }
 
 // An active window draws a row with selection in the defaults with the selection exchanged;
@@ -133,14 +139,9 @@ TEST_F(PaintTextTest, TheSelectionShowsOnlyInTheActiveWindow)
     window->AppendText(RED_WORD);
     // The text starts behind the 99 line feeds of a fresh ring; select "b", the code and "re".
     window->GetLiveBuffer().SetSelection(100, 104);
-    EXPECT_EQ(RowRuns(*window), (Segments{{"a", WHITE, BLACK},
-                                          {"b", BLACK, WHITE},
-                                          {"re", BLACK, WHITE},
-                                          {"d", WHITE, BLACK},
-                                          {"cd", WHITE, BLACK}}));
+    EXPECT_EQ(RowRuns(*window), "a W/K|b K/W|re K/W|d W/K|cd W/K");
     host.active = false;
-    EXPECT_EQ(RowRuns(*window),
-              (Segments{{"ab", WHITE, BLACK}, {"red", RED, BLACK}, {"cd", WHITE, BLACK}}));
+    EXPECT_EQ(RowRuns(*window), "ab W/K|red R/K|cd W/K");
 }
 
 TEST_F(PaintTextTest, TheBandsAroundTheRowsAreFilledWithTheWindowColours)
@@ -241,8 +242,7 @@ TEST_F(PaintTextTest, NewColoursOfTheWindowAreUsedFromTheNextPaint)
     window->ChangeForegroundColor();
     host.pickedColor = MakeRgb(4, 5, 6);
     window->ChangeBackgroundColor();
-    EXPECT_EQ(RowRuns(*window),
-              (Segments{{"x", MakeRgb(1, 2, 3), MakeRgb(4, 5, 6)}, {"y", RED, MakeRgb(4, 5, 6)}}));
+    EXPECT_EQ(RowRuns(*window), "x 030201/060504|y R/060504");
 }
 
 } // namespace

@@ -20,43 +20,8 @@ class ScrollTest : public WindowTest {
     std::unique_ptr<AnsiWindow> window;
 };
 
-TEST_F(ScrollTest, CommandsOnALiveWindow)
-{
-    const struct {
-        const char* name;
-        int command;
-        std::int32_t thumb;
-        std::int32_t topLine;
-    } cases[] = {{"line up freezes one line above the last page", SB_LINEUP, 0, LAST_PAGE - 1},
-                 {"page up", SB_PAGEUP, 0, LAST_PAGE - ROWS},
-                 {"top", SB_TOP, 0, 0},
-                 {"thumb as a percentage", SB_THUMBTRACK, 50, LINES * 50 / 100 - ROWS / 2},
-                 {"thumb position alike", SB_THUMBPOSITION, 10, LINES * 10 / 100 - ROWS / 2},
-                 {"thumb at the bottom stays live", SB_THUMBTRACK, 100, LIVE},
-                 {"line down", SB_LINEDOWN, 0, LIVE},
-                 {"page down", SB_PAGEDOWN, 0, LIVE},
-                 {"bottom", SB_BOTTOM, 0, LIVE}};
-    for (const auto& c : cases) {
-        SCOPED_TRACE(c.name);
-        window->EndScrollback();
-        host.invalidations.clear();
-        window->ApplyScrollCommand(c.command, c.thumb);
-        const bool frozen = c.topLine != LIVE;
-        EXPECT_EQ(window->IsFrozen(), frozen);
-        if (frozen || c.command == SB_THUMBTRACK) {
-            EXPECT_EQ(window->GetTopLine(), c.topLine);
-        }
-        EXPECT_EQ(host.scroll.maximum, frozen ? LAST_PAGE : LIVE_SCROLL_MAX);
-        EXPECT_EQ(host.scroll.position, frozen ? c.topLine : LIVE_SCROLL_MAX);
-        if (frozen) {
-            EXPECT_EQ(window->GetViewLines(), LINES);
-        } else if (c.command != SB_THUMBTRACK) {
-            EXPECT_TRUE(host.invalidations.empty());
-        }
-    }
-}
-
-TEST_F(ScrollTest, CommandsOnAFrozenView)
+// Each command from a live window (from LIVE) or a view frozen with that top line.
+TEST_F(ScrollTest, ScrollCommands)
 {
     const struct {
         const char* name;
@@ -65,6 +30,15 @@ TEST_F(ScrollTest, CommandsOnAFrozenView)
         std::int32_t thumb;
         std::int32_t topLine;
     } cases[] = {
+        {"line up freezes one line above the last page", LIVE, SB_LINEUP, 0, LAST_PAGE - 1},
+        {"page up", LIVE, SB_PAGEUP, 0, LAST_PAGE - ROWS},
+        {"top", LIVE, SB_TOP, 0, 0},
+        {"thumb as a percentage", LIVE, SB_THUMBTRACK, 50, LINES * 50 / 100 - ROWS / 2},
+        {"thumb position alike", LIVE, SB_THUMBPOSITION, 10, LINES * 10 / 100 - ROWS / 2},
+        {"thumb at the bottom stays live", LIVE, SB_THUMBTRACK, 100, LIVE},
+        {"line down live", LIVE, SB_LINEDOWN, 0, LIVE},
+        {"page down live", LIVE, SB_PAGEDOWN, 0, LIVE},
+        {"bottom live", LIVE, SB_BOTTOM, 0, LIVE},
         {"line down", 10, SB_LINEDOWN, 0, 11},
         {"line up", 10, SB_LINEUP, 0, 9},
         {"line up at the top stays", 0, SB_LINEUP, 0, 0},
@@ -79,15 +53,25 @@ TEST_F(ScrollTest, CommandsOnAFrozenView)
     for (const auto& c : cases) {
         SCOPED_TRACE(c.name);
         window->EndScrollback();
-        window->ApplyScrollCommand(SB_TOP, 0);
-        window->ApplyScrollCommand(SB_THUMBTRACK, c.from);
-        ASSERT_EQ(window->GetTopLine(), c.from);
+        if (c.from != LIVE) {
+            window->ApplyScrollCommand(SB_TOP, 0);
+            window->ApplyScrollCommand(SB_THUMBTRACK, c.from);
+            ASSERT_EQ(window->GetTopLine(), c.from);
+        }
+        host.invalidations.clear();
         window->ApplyScrollCommand(c.command, c.thumb);
         const bool frozen = c.topLine != LIVE;
         EXPECT_EQ(window->IsFrozen(), frozen);
-        EXPECT_EQ(window->GetTopLine(), c.topLine);
-        EXPECT_EQ(host.scroll.position, frozen ? c.topLine : LIVE_SCROLL_MAX);
+        if (frozen || c.command == SB_THUMBTRACK) {
+            EXPECT_EQ(window->GetTopLine(), c.topLine);
+        }
         EXPECT_EQ(host.scroll.maximum, frozen ? LAST_PAGE : LIVE_SCROLL_MAX);
+        EXPECT_EQ(host.scroll.position, frozen ? c.topLine : LIVE_SCROLL_MAX);
+        if (frozen) {
+            EXPECT_EQ(window->GetViewLines(), LINES);
+        } else if (c.from == LIVE && c.command != SB_THUMBTRACK) {
+            EXPECT_TRUE(host.invalidations.empty());
+        }
     }
     // One line at a time, as a drag scrolls.
     window->EndScrollback();
