@@ -104,30 +104,24 @@ TEST(LinePipelineTest, EachLineReachesItsWindowAndTheLog)
 
 TEST(LinePipelineTest, VitalsLinesSetTheirGaugeAndAreLoggedButNotShown)
 {
-    const struct {
-        const char* line;
-        std::int32_t hp, hpMax, ftg, ftgMax;
-    } rows[] = {
-        {" ** Current hit points: 45 of 100\r\n", 45, 100, 0, 0},
-        {" ** Current HIT points: 12 of 90\r\n", 12, 90, 0, 0},
-        {" ** Current fatigue: 7 of 30\r\n", 0, 0, 7, 30},
-        {" ** Current fatigue 7 of 30\r\n", 0, 0, 0, 0},
-        {" ** Current mana: 7 of 30\r\n", 0, 0, 0, 0},
-        {" ** Current \r\n", 0, 0, 0, 0},
-        {" ** Current hit points:", 0, 0, 0, 0},
-        {" ** Current \"fatigue:\" 7 of 30\r\n", 0, 0, 7, 30},
+    const std::pair<const char*, const char*> rows[] = {
+        {" ** Current hit points: 45 of 100\r\n", "45/100 0/0 "},
+        {" ** Current HIT points: 12 of 90\r\n", "12/90 0/0 "},
+        {" ** Current fatigue: 7 of 30\r\n", "0/0 7/30 "},
+        {" ** Current fatigue 7 of 30\r\n", "0/0 0/0 "},
+        {" ** Current mana: 7 of 30\r\n", "0/0 0/0 "},
+        {" ** Current \r\n", "0/0 0/0 "},
+        {" ** Current hit points:", "0/0 0/0 "},
+        {" ** Current \"fatigue:\" 7 of 30\r\n", "0/0 7/30 "},
     };
-    for (const auto& row : rows) {
-        SCOPED_TRACE(row.line);
+    for (const auto& [line, gauges] : rows) {
+        SCOPED_TRACE(line);
         PipelineRig rig;
-        rig.pipeline.ProcessGameLine(row.line);
-        EXPECT_EQ(rig.panel.Hp.GetValue(), row.hp);
-        EXPECT_EQ(rig.panel.Hp.GetMax(), row.hpMax);
-        EXPECT_EQ(rig.panel.Ftg.GetValue(), row.ftg);
-        EXPECT_EQ(rig.panel.Ftg.GetMax(), row.ftgMax);
+        rig.pipeline.ProcessGameLine(line);
+        EXPECT_EQ(PanelText(rig.panel).substr(0, std::strlen(gauges)), gauges);
         EXPECT_EQ(rig.panel.Ftg.GetMin(), 0);
         EXPECT_EQ(rig.In(rig.Game()), "");
-        EXPECT_EQ(rig.Logged(), row.line);
+        EXPECT_EQ(rig.Logged(), line);
     }
 }
 

@@ -7,24 +7,6 @@ namespace {
 
 constexpr char CANARY = 0x7E;
 
-TEST(TextBufferCopyAsText, GivesClipboardForm)
-{
-    const struct {
-        const char* text;
-        std::string copied;
-    } cases[] = {{"abc\ndef", "abc\r\ndef\r\n"},
-                 {"abc\n", "abc\r\n\r\n"},
-                 {"hello world again", "hello world again\r\n"},
-                 {"\x81red\xA0", "\x81red\xA0\r\n"},
-                 {"\n\nabc\n\ndef", "abc\r\n\r\ndef\r\n"}};
-    for (const auto& c : cases)
-        EXPECT_EQ(CopiedText(*MakeWrappingBuffer(10, WINDOW_BUFFER_CAPACITY, c.text)), c.copied);
-    // A wrapped ring keeps its leading empty lines.
-    auto buffer = BufferWith((std::string(250, 'x') + "\n\n\nabc").c_str(), SMALL_CAPACITY);
-    ASSERT_TRUE(buffer->IsWrapped());
-    EXPECT_EQ(CopiedText(*buffer), "\r\n\r\nabc\r\n");
-}
-
 // However small the room, nothing is written past it, and the copy still ends in CR LF NUL
 // whenever those fit.
 TEST(TextBufferCopyAsText, NeverWritesPastTheRoom)

@@ -189,9 +189,10 @@ std::string RandomText(std::mt19937& random, int spaceWeight, std::uint32_t capa
 }
 
 // The lines read from the head, each cut to the read limit, are the kept text split at its
-// line ends (an open last line counts, a soft end opens one), and every line's start maps back to
-// its index.
-void ExpectLinesOf(TextBuffer& buffer)
+// line ends (an open last line counts, a soft end opens one), and every line's start maps back
+// to its index. The clipboard form is the kept text with CR LF line ends and spaces for soft
+// ones, without the blank lines a ring starts with; the export leaves out the colour codes.
+void ExpectViewsOf(TextBuffer& buffer)
 {
     const std::string kept = RingText(buffer);
     std::vector<std::string> lines{""};
@@ -207,6 +208,20 @@ void ExpectLinesOf(TextBuffer& buffer)
     ASSERT_EQ(buffer.CountLines(), static_cast<std::int32_t>(lines.size()));
     for (std::int32_t index = 0; index < buffer.CountLines(); ++index)
         ASSERT_EQ(buffer.LineIndexOf(buffer.SeekLine(index)), index);
+
+    std::string copied;
+    std::string plain;
+    for (const char c : kept.substr(buffer.IsWrapped() ? 0 : kept.find_first_not_of('\n'))) {
+        const std::string text = c == '\n'                               ? "\r\n"
+                                 : c == static_cast<char>(SOFT_LINE_END) ? " "
+                                                                         : std::string(1, c);
+        copied += text;
+        plain += IsColorCode(static_cast<unsigned char>(c)) ? "" : text;
+    }
+    ASSERT_EQ(CopiedText(buffer), copied + "\r\n");
+    ASSERT_EQ(buffer.ExportPlainText(), plain + "\r\n");
+    ASSERT_EQ(buffer.PlainDistance(buffer.TailStart(buffer.GetCapacity()), buffer.GetWritePos()),
+              static_cast<std::int32_t>(plain.size()));
 }
 
 TEST(TextBufferMatchesReference, AfterEveryAppendAndRewrap)
@@ -242,7 +257,7 @@ TEST(TextBufferMatchesReference, AfterEveryAppendAndRewrap)
             buffer->AppendText(text.c_str(), track);
             reference.Append(text, track);
             ASSERT_NO_FATAL_FAILURE(reference.ExpectSameAs(*buffer)) << "step " << step;
-            ASSERT_NO_FATAL_FAILURE(ExpectLinesOf(*buffer)) << "step " << step;
+            ASSERT_NO_FATAL_FAILURE(ExpectViewsOf(*buffer)) << "step " << step;
         }
     }
 }
