@@ -24,31 +24,10 @@ TEST(TextBufferLines, SeekFromEndStopsAtTheEnds)
     EXPECT_EQ(LastRows(*buffer, 5), (Rows{"A", "B", "", "", ""}));
 }
 
-TEST(TextBufferLines, SeekLinePutsWalkPosOnTheLineStart)
-{
-    auto buffer = BufferWith("one\ntwo\nthree");
-    const std::pair<std::int32_t, const char*> cases[] = {
-        {-3, ""}, {98, ""}, {99, "one"}, {101, "three"}, {102, ""}};
-    for (const auto& [index, line] : cases) {
-        const auto at = buffer->SeekLine(index);
-        EXPECT_EQ(at, buffer->GetWalkPos());
-        EXPECT_EQ(ReadOne(*buffer), line) << index;
-    }
-    buffer = BufferWith("one\ntwo\n");
-    EXPECT_EQ(buffer->SeekLine(101), buffer->GetWritePos());
-    EXPECT_EQ(buffer->SeekLine(1000), buffer->GetWritePos());
-    EXPECT_EQ(buffer->SeekLine(0), buffer->GetHeadPos());
-}
-
-TEST(TextBufferLines, LineIndexOfCountsTerminatorsUpToThePosition)
+// Positions outside the kept text belong to no line.
+TEST(TextBufferLines, LineIndexOfOutsideTheTextIsZero)
 {
     auto buffer = BufferWith("one\ntwo\xFFthree");
-    const auto head = buffer->GetHeadPos();
-    const std::pair<std::int32_t, std::int32_t> cases[] = {
-        {0, 0}, {TEXT_START, 99}, {TEXT_START + 5, 100}, {TEXT_START + 9, 101}};
-    for (const auto& [offset, index] : cases)
-        EXPECT_EQ(buffer->LineIndexOf(buffer->AdvancePos(head, offset)), index) << offset;
-    EXPECT_EQ(buffer->LineIndexOf(buffer->GetWritePos()), 101);
     EXPECT_EQ(buffer->LineIndexOf(buffer->Next(buffer->GetWritePos())), 0);
     EXPECT_EQ(buffer->LineIndexOf(WINDOW_BUFFER_CAPACITY - 1), 0);
 }

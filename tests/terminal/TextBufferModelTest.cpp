@@ -190,8 +190,9 @@ std::string RandomText(std::mt19937& random, int spaceWeight, std::uint32_t capa
 
 // The lines read from the head, each cut to the read limit, are the kept text split at its
 // line ends (an open last line counts, a soft end opens one), and every line's start maps back
-// to its index. The clipboard form is the kept text with CR LF line ends and spaces for soft
-// ones, without the blank lines a ring starts with; the export leaves out the colour codes.
+// to its index, as every position maps to the line ends before it. The clipboard form is the kept
+// text with CR LF line ends and spaces for soft ones, without the blank lines a ring starts with;
+// the export leaves out the colour codes.
 void ExpectViewsOf(TextBuffer& buffer)
 {
     const std::string kept = RingText(buffer);
@@ -206,8 +207,23 @@ void ExpectViewsOf(TextBuffer& buffer)
         lines.pop_back();
     ASSERT_EQ(AllLines(buffer), lines);
     ASSERT_EQ(buffer.CountLines(), static_cast<std::int32_t>(lines.size()));
-    for (std::int32_t index = 0; index < buffer.CountLines(); ++index)
-        ASSERT_EQ(buffer.LineIndexOf(buffer.SeekLine(index)), index);
+    for (std::int32_t index = 0; index < buffer.CountLines(); ++index) {
+        const auto start = buffer.SeekLine(index);
+        ASSERT_EQ(start, buffer.GetWalkPos());
+        ASSERT_EQ(buffer.LineIndexOf(start), index);
+        const unsigned char before = buffer.ByteAt(buffer.Prev(start));
+        ASSERT_TRUE(start == buffer.GetHeadPos() || before == '\n' || before == SOFT_LINE_END);
+    }
+    ASSERT_EQ(buffer.SeekLine(-3), buffer.GetHeadPos());
+    ASSERT_EQ(buffer.SeekLine(buffer.CountLines()), buffer.GetWritePos());
+    ASSERT_EQ(buffer.SeekLine(1000), buffer.GetWritePos());
+    std::int32_t ends = 0;
+    for (std::size_t offset = 0; offset <= kept.size(); ++offset) {
+        const auto at = buffer.AdvancePos(buffer.GetHeadPos(), static_cast<std::int32_t>(offset));
+        ASSERT_EQ(buffer.LineIndexOf(at), ends) << "offset " << offset;
+        if (offset < kept.size())
+            ends += kept[offset] == '\n' || kept[offset] == static_cast<char>(SOFT_LINE_END);
+    }
 
     std::string copied;
     std::string plain;
