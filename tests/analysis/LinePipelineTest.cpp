@@ -219,37 +219,31 @@ TEST(LinePipelineTest, TheExitListAsksForTheStatusModeOncePerConnection)
     }
 }
 
+// Which of the text, room and prompt waits each line releases.
 TEST(LinePipelineTest, EachWaitIsReleasedOnlyByItsOwnEvent)
 {
     const std::string record = StatusLine(">");
-    const struct {
-        ScriptWaitKind wait;
-        std::string line;
-        bool released;
-    } rows[] = {
-        {WAIT_TEXT, "The rat squeals once and lies still.\r\n", true},
-        {WAIT_TEXT, "The rat lies\r\n", false},
-        {WAIT_TEXT, "The rat lies \x82still\xA0.\r\n", false},
-        {WAIT_TEXT, "You pick up Mara's thoughts, \"lies still\"\r\n", false},
-        {WAIT_TEXT, "Obvious exits: north.\r\n", false},
-        {WAIT_TEXT, record, false},
-        {WAIT_ROOM, "Obvious exits: north.\r\n", true},
-        {WAIT_ROOM, "Obvious exits: none\r\n", true},
-        {WAIT_ROOM, "Obvious things\r\n", false},
-        {WAIT_ROOM, "The rat squeals once and lies still.\r\n", false},
-        {WAIT_ROOM, record, false},
-        {WAIT_PROMPT, record, true},
-        {WAIT_PROMPT, "\x82" + record, true},
-        {WAIT_PROMPT, "Obvious exits: north.\r\n", false},
-        {WAIT_PROMPT, "The rat squeals once and lies still.\r\n", false},
+    const std::pair<std::string, const char*> rows[] = {
+        {"The rat squeals once and lies still.\r\n", "text"},
+        {"The rat lies\r\n", ""},
+        {"The rat lies \x82still\xA0.\r\n", ""},
+        {"You pick up Mara's thoughts, \"lies still\"\r\n", ""},
+        {"Obvious exits: north.\r\n", "room"},
+        {"Obvious exits: none\r\n", "room"},
+        {"Obvious things\r\n", ""},
+        {record, "prompt"},
+        {"\x82" + record, "prompt"},
     };
-    for (const auto& row : rows) {
-        SCOPED_TRACE(row.line);
-        PipelineRig rig;
-        std::strcpy(rig.script.WaitText, "lies still");
-        rig.script.ScriptWait = row.wait;
-        rig.pipeline.ProcessGameLine(row.line.c_str());
-        EXPECT_EQ(rig.script.ScriptWait, row.released ? WAIT_NONE : row.wait);
+    for (const auto& [line, releases] : rows) {
+        for (const auto& [wait, name] : {std::pair{WAIT_TEXT, "text"}, std::pair{WAIT_ROOM, "room"},
+                                         std::pair{WAIT_PROMPT, "prompt"}}) {
+            SCOPED_TRACE(line + name);
+            PipelineRig rig;
+            std::strcpy(rig.script.WaitText, "lies still");
+            rig.script.ScriptWait = wait;
+            rig.pipeline.ProcessGameLine(line.c_str());
+            EXPECT_EQ(rig.script.ScriptWait, std::string(name) == releases ? WAIT_NONE : wait);
+        }
     }
 }
 
