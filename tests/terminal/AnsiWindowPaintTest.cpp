@@ -44,6 +44,21 @@ class PaintTextTest : public WindowTest {
                         Name(call.backColor);
         return runs;
     }
+    // The calls (on the row whose top is y), one a line: x, the rect, the text and its colours.
+    static std::string Calls(const std::vector<DrawCall>& drawn, std::int32_t y = -1)
+    {
+        std::string calls;
+        for (const DrawCall& call : drawn) {
+            if (y != -1 && call.y != y)
+                continue;
+            char line[160];
+            std::snprintf(line, sizeof line, "%d %d,%d-%d,%d '%s' %s/%s\n", call.x, call.rect.left,
+                          call.rect.top, call.rect.right, call.rect.bottom, call.text.c_str(),
+                          Name(call.textColor).c_str(), Name(call.backColor).c_str());
+            calls += line;
+        }
+        return calls;
+    }
     // The runs of every row, one row a line.
     std::string Screen(AnsiWindow& window)
     {
@@ -51,15 +66,6 @@ class PaintTextTest : public WindowTest {
         for (std::int32_t row = 0; row < ROWS; ++row)
             rows += (row ? "\n" : "") + RowRuns(window, TOP + row * CELL_HEIGHT);
         return rows;
-    }
-    // The first call that filled a rect with its top-left corner there.
-    static const DrawCall* FillAt(const std::vector<DrawCall>& calls, std::int32_t left,
-                                  std::int32_t top)
-    {
-        for (const DrawCall& call : calls)
-            if (call.text.empty() && call.rect.left == left && call.rect.top == top)
-                return &call;
-        return nullptr;
     }
 };
 
@@ -90,30 +96,18 @@ TEST_F(PaintTextTest, ColourCodesSplitARowIntoRunsWithTheirColours)
     EXPECT_EQ(RowRuns(*window), "next R/K");
 }
 
+// The runs are placed at the sum of their widths, and the rest of the row is filled in the
+// window's colour even under an open background code.
 TEST_F(PaintTextTest, RunsArePlacedAtTheSumOfTheirWidthsAndTheRowIsFilledInTheWindowColour)
 {
     auto window = Make("Thought Window");
     window->AppendText("ab\x8C"
                        "c\x99"
                        "de");
-    RecordingLayer layer;
-    window->PaintText(layer);
-    std::vector<DrawCall> drawn;
-    for (const DrawCall& call : layer.calls)
-        if (!call.text.empty() && !call.cursor)
-            drawn.push_back(call);
-    ASSERT_EQ(drawn.size(), 3u);
-    EXPECT_EQ(drawn[0].x, TEXT_LEFT);
-    EXPECT_EQ(drawn[0].rect.right, TEXT_LEFT + 2 * CELL_WIDTH);
-    EXPECT_EQ(drawn[1].x, TEXT_LEFT + 2 * CELL_WIDTH);
-    EXPECT_EQ(drawn[2].rect.right, TEXT_LEFT + 5 * CELL_WIDTH);
-    EXPECT_EQ(drawn[2].rect.bottom - drawn[2].rect.top, CELL_HEIGHT);
-    // Even under an open background code.
-    const DrawCall* fill = FillAt(layer.calls, TEXT_LEFT + 5 * CELL_WIDTH, LAST_ROW_Y);
-    ASSERT_NE(fill, nullptr);
-    EXPECT_EQ(fill->rect.right, host.client.right);
-    EXPECT_EQ(fill->rect.bottom, LAST_ROW_Y + CELL_HEIGHT);
-    EXPECT_EQ(fill->backColor, BLACK);
+    EXPECT_EQ(Calls(Paint(*window), LAST_ROW_Y), "4 4,92-20,102 'ab' W/K\n"
+                                                 "20 20,92-28,102 'c' R/K\n"
+                                                 "28 28,92-44,102 'de' R/B\n"
+                                                 "44 44,92-400,102 '' R/K\n");
 }
 
 TEST_F(PaintTextTest, AnOpenColourGoesOnIntoTheNextRowsUntilItsCodeLeavesTheTop)
@@ -144,36 +138,22 @@ TEST_F(PaintTextTest, TheSelectionShowsOnlyInTheActiveWindow)
     EXPECT_EQ(RowRuns(*window), "ab W/K|red R/K|cd W/K");
 }
 
+// A window too low for a row is cleared in one fill; (109 - 100) / 2 leaves 4 pixels above the
+// rows and 5 below; a paint with erasing also fills the bands above and left of the rows.
 TEST_F(PaintTextTest, TheBandsAroundTheRowsAreFilledWithTheWindowColours)
 {
     host.client = {0, 0, 300, 14};
-    auto low = Make("Game Window", true);
-    low->AppendText("hidden");
-    const std::vector<DrawCall> cleared = Paint(*low);
-    ASSERT_EQ(cleared.size(), 1u);
-    EXPECT_TRUE(cleared[0].text.empty());
-    EXPECT_EQ(cleared[0].rect.right, 300);
-    EXPECT_EQ(cleared[0].rect.bottom, 14);
-    EXPECT_EQ(cleared[0].backColor, BLACK);
-
-    // (109 - 100) / 2 leaves 4 pixels above the rows and 5 below.
+    auto window = Make("Game Window", true);
+    window->AppendText("hidden");
+    EXPECT_EQ(Calls(Paint(*window)), "0 0,0-300,14 '' W/K\n");
     host.client = {0, 0, 300, 109};
-    const std::vector<DrawCall> banded = Paint(*Make("Thought Window"));
-    const DrawCall* strip = FillAt(banded, 0, 104);
-    ASSERT_NE(strip, nullptr);
-    EXPECT_EQ(strip->rect.bottom, 109);
-    EXPECT_EQ(strip->backColor, BLACK);
-
-    // A paint with erasing also fills the bands above and left of the rows.
+    EXPECT_EQ(Calls(Paint(*Make("Thought Window")), 104), "0 0,104-300,109 '' W/K\n");
     host.client = {0, 0, 400, 105};
     RecordingLayer layer;
     Make("Thought Window")->Paint(layer, true);
-    ASSERT_GE(layer.calls.size(), 2u);
-    EXPECT_EQ(layer.calls[0].rect.bottom, TOP);
-    EXPECT_EQ(layer.calls[0].rect.right, host.client.right);
-    EXPECT_EQ(layer.calls[1].rect.right, TEXT_LEFT);
-    EXPECT_EQ(layer.calls[1].rect.bottom, host.client.bottom);
-    EXPECT_EQ(layer.calls[1].backColor, BLACK);
+    layer.calls.resize(2);
+    EXPECT_EQ(Calls(layer.calls), "0 0,0-400,2 '' 123456/K\n"
+                                  "0 0,0-4,105 '' 123456/K\n");
 }
 
 TEST_F(PaintTextTest, AFrozenViewPaintsItsTopLineAndEmptyRowsAsAnEmptyRunAndAFill)
@@ -181,22 +161,12 @@ TEST_F(PaintTextTest, AFrozenViewPaintsItsTopLineAndEmptyRowsAsAnEmptyRunAndAFil
     auto window = Make("Thought Window");
     AppendLines(*window, 30);
     window->ApplyScrollCommand(SB_TOP, 0);
-    std::vector<DrawCall> firstRow;
-    for (const DrawCall& call : Paint(*window))
-        if (call.y == TOP)
-            firstRow.push_back(call);
-    ASSERT_EQ(firstRow.size(), 2u);
-    EXPECT_EQ(firstRow[0].x, TEXT_LEFT);
-    EXPECT_EQ(firstRow[0].rect.right, TEXT_LEFT);
-    EXPECT_EQ(firstRow[1].rect.left, TEXT_LEFT);
-    EXPECT_EQ(firstRow[1].rect.right, host.client.right);
-
+    EXPECT_EQ(Calls(Paint(*window), TOP), "4 4,2-4,12 '' W/K\n"
+                                          "4 4,2-400,12 '' W/K\n");
     window->ApplyScrollCommand(SB_THUMBTRACK, 99 + 4);
     window->AppendText("newer\n");
-    RecordingLayer layer;
-    window->PaintText(layer);
-    EXPECT_EQ(layer.RowText(TOP), "line 4");
-    EXPECT_EQ(layer.RowText(LAST_ROW_Y), "line 13");
+    EXPECT_EQ(RowRuns(*window, TOP), "line 4 W/K");
+    EXPECT_EQ(RowRuns(*window), "line 13 W/K");
 }
 
 TEST_F(PaintTextTest, TheCursorFollowsTheLastRowOfALiveGameWindowOnly)
