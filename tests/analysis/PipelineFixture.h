@@ -58,6 +58,20 @@ class RecordingSounds : public HighlightSounds {
     std::vector<std::string> played;
 };
 
+// What the panel shows, on one line: gauges as value/max, the round time with "+" while it
+// counts, then the coins, the figure's state and the held icons.
+inline std::string PanelText(const StatusPanel& panel)
+{
+    std::string text;
+    for (const Gauge* gauge : {&panel.Hp, &panel.Ftg, &panel.Psi, &panel.Web, &panel.Weight})
+        text += std::to_string(gauge->GetValue()) + "/" + std::to_string(gauge->GetMax()) + " ";
+    return text + "rt " + std::to_string(panel.RT.GetValue()) + "/" +
+           std::to_string(panel.RT.GetMax()) + (panel.RT.IsCounting() ? "+" : "") + " $" +
+           panel.Silver.Text() + "/" + panel.Gold.Text() + " figure " +
+           std::to_string(panel.BodyFigure.GetState()) +
+           (panel.WeaponIcon.Held() ? " weapon" : "") + (panel.ShieldIcon.Held() ? " shield" : "");
+}
+
 // A status record line: fields in order, then filler up to the closing ESC and the line end.
 inline std::string StatusLine(const std::string& fields, std::size_t length = 70,
                               const char* end = "\r\n")

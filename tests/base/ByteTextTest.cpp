@@ -3,61 +3,70 @@
 
 #include <gtest/gtest.h>
 
-#include <cstring>
+#include <algorithm>
+#include <cstdio>
+#include <string>
+#include <vector>
 
 namespace steward::testing {
 namespace {
 
-TEST(ByteText, InsertTextMovesTheRestUpAndReturnsTheNewEnd)
+// Every string of up to four bytes from a small alphabet of letters, case pairs, bytes next
+// to the letters and colour codes; each helper is compared with the same edit on a std::string.
+std::vector<std::string> SmallStrings(std::size_t longest)
 {
-    const struct {
-        const char* text;
-        std::size_t at;
-        const char* piece;
-        const char* expected;
-    } cases[] = {
-        {"", 0, "abc", "abc"},   {"world", 0, "hello ", "hello world"},
-        {"ab", 1, "XY", "aXYb"}, {"ab", 2, "!", "ab!"},
-        {"ab", 1, "", "ab"},
-    };
-    for (const auto& c : cases) {
-        char buffer[32];
-        std::strcpy(buffer, c.text);
-        char* end = InsertText(buffer + c.at, c.piece);
-        EXPECT_STREQ(buffer, c.expected);
-        EXPECT_EQ(end, buffer + std::strlen(c.expected));
-    }
+    static const std::string alphabet = "aAb[{\x8A\xAA";
+    std::vector<std::string> all{""};
+    for (std::size_t i = 0; i < all.size(); ++i)
+        if (all[i].size() < longest)
+            for (const char c : alphabet)
+                all.push_back(all[i] + c);
+    return all;
 }
 
-// Whatever the piece, the result ends inside the buffer; no room at all leaves it untouched.
-TEST(ByteText, CutHelpersEndInsideTheBuffer)
+char Fold(char c)
 {
-    const struct {
-        bool copy; // CopyCut, else InsertCut at the end
-        std::size_t capacity;
-        const char* piece;
-        const char* expected;
-    } cases[] = {
-        {true, 4, "abcdef", "abc"}, {true, 1, "abc", ""},  {false, 6, "defg", "xydef"},
-        {false, 3, "d", "xy"},      {false, 0, "d", "xy"},
-    };
-    for (const auto& c : cases) {
-        char buffer[16] = "xy";
-        if (c.copy)
-            CopyCut(buffer, c.capacity, c.piece);
-        else
-            InsertCut(buffer, c.capacity, 2, c.piece);
-        EXPECT_STREQ(buffer, c.expected) << c.capacity << " " << c.piece;
-    }
+    return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
 }
 
-TEST(ByteText, RemovePrefixDropsTheFirstBytes)
+TEST(ByteText, EditsAndSearchesMatchTheSameEditOnAString)
 {
-    char buffer[16] = "abcdef";
-    RemovePrefix(buffer, 2);
-    EXPECT_STREQ(buffer, "cdef");
-    RemovePrefix(buffer, 4);
-    EXPECT_STREQ(buffer, "");
+    const std::vector<std::string> pieces = SmallStrings(2);
+    for (const std::string& text : SmallStrings(4)) {
+        for (const std::string& piece : pieces) {
+            SCOPED_TRACE(::testing::Message() << "text '" << text << "' piece '" << piece << "'");
+            for (std::size_t at = 0; at <= text.size(); ++at) {
+                char buffer[16] = {};
+                text.copy(buffer, text.size());
+                const std::string inserted = std::string(text).insert(at, piece);
+                EXPECT_EQ(InsertText(buffer + at, piece.c_str()), buffer + inserted.size());
+                ASSERT_EQ(buffer, inserted);
+                text.copy(buffer, text.size());
+                buffer[text.size()] = '\0';
+                RemovePrefix(buffer, at);
+                ASSERT_EQ(buffer, text.substr(at));
+                // The text fits its buffer; no room at all leaves everything untouched.
+                for (std::size_t capacity = 0; capacity < 9;
+                     capacity = std::max(capacity + 1, text.size() + 1)) {
+                    char cut[16];
+                    std::snprintf(cut, sizeof cut, "%s", text.c_str());
+                    InsertCut(cut, capacity, at, piece.c_str());
+                    ASSERT_EQ(cut, capacity ? inserted.substr(0, capacity - 1) : text) << capacity;
+                    CopyCut(cut, capacity, piece.c_str());
+                    ASSERT_EQ(cut, capacity ? piece.substr(0, capacity - 1) : text) << capacity;
+                }
+            }
+            if (text.empty() || piece.empty())
+                continue;
+            const auto found = std::search(text.begin(), text.end(), piece.begin(), piece.end(),
+                                           [](char a, char b) { return Fold(a) == Fold(b); });
+            const char* at = FindNoCase(text.c_str(), piece.c_str());
+            ASSERT_EQ(at ? at - text.c_str() : -1, found == text.end() ? -1 : found - text.begin());
+        }
+    }
+    const char* text = "abc";
+    EXPECT_EQ(FindNoCase(text, ""), text);
+    EXPECT_EQ(FindNoCase("", "a"), nullptr);
 }
 
 TEST(ByteText, ColourSequencesCarryTheBackgroundOnlyWhenSet)
@@ -76,29 +85,6 @@ TEST(ByteText, ColourSequencesCarryTheBackgroundOnlyWhenSet)
         EXPECT_STREQ(ColorOnText(c.color), c.on);
         EXPECT_STREQ(ColorOffText(c.color), c.off);
         EXPECT_EQ(ColorOnLength(c.color), c.length);
-    }
-}
-
-TEST(ByteText, FindNoCaseFoldsOnlyAsciiLetters)
-{
-    const struct {
-        const char* text;
-        const char* wanted;
-        int at; // -1: not found
-    } cases[] = {
-        {"the MARA sleeps", "mara", 4},
-        {"mara", "MARA", 0},
-        {"abc", "", 0},
-        {"", "a", -1},
-        {"abc", "abcd", -1},
-        {"x\x8Ay", "\x8A", 1},
-        {"x\xAAy", "\x8A", -1},
-        {"[a]", "{A}", -1},
-        {"aab", "ab", 1},
-    };
-    for (const auto& c : cases) {
-        const char* found = FindNoCase(c.text, c.wanted);
-        EXPECT_EQ(found ? found - c.text : -1, c.at) << c.text << " / " << c.wanted;
     }
 }
 

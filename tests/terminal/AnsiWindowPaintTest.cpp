@@ -19,94 +19,97 @@ constexpr char RED_WORD[] = "ab\x8C"
                             "red\xA0"
                             "cd";
 
-struct Segment {
-    std::string text;
-    COLORREF textColor;
-    COLORREF backColor;
-    bool operator==(const Segment&) const = default;
-    friend std::ostream& operator<<(std::ostream& os, const Segment& s)
-    {
-        return os << s.text << " " << std::hex << s.textColor << "/" << s.backColor;
-    }
-};
-using Segments = std::vector<Segment>;
+// A colour by its letter: White, blacK, Red, Blue, else its hex.
+std::string Name(COLORREF color)
+{
+    const std::pair<COLORREF, const char*> names[] = {
+        {WHITE, "W"}, {BLACK, "K"}, {RED, "R"}, {BLUE, "B"}};
+    for (const auto& [known, name] : names)
+        if (color == known)
+            return name;
+    char hex[16];
+    std::snprintf(hex, sizeof hex, "%06x", color);
+    return hex;
+}
 
 class PaintTextTest : public WindowTest {
   protected:
-    // The text runs that a paint of the window draws on the row whose top is y.
-    Segments RowRuns(AnsiWindow& window, std::int32_t y = LAST_ROW_Y)
+    // The text runs that a paint draws on the row whose top is y, as "text fg/bg" joined by '|'.
+    std::string RowRuns(AnsiWindow& window, std::int32_t y = LAST_ROW_Y)
     {
-        Segments runs;
+        std::string runs;
         for (const DrawCall& call : Paint(window))
             if (!call.cursor && call.y == y && !call.text.empty())
-                runs.push_back({call.text, call.textColor, call.backColor});
+                runs += (runs.empty() ? "" : "|") + call.text + " " + Name(call.textColor) + "/" +
+                        Name(call.backColor);
         return runs;
     }
-    // The first call that filled a rect with its top-left corner there.
-    static const DrawCall* FillAt(const std::vector<DrawCall>& calls, std::int32_t left,
-                                  std::int32_t top)
+    // The calls (on the row whose top is y), one a line: x, the rect, the text and its colours
+    // (a fill's text colour is never seen).
+    static std::string Calls(const std::vector<DrawCall>& drawn, std::int32_t y = -1)
     {
-        for (const DrawCall& call : calls)
-            if (call.text.empty() && call.rect.left == left && call.rect.top == top)
-                return &call;
-        return nullptr;
+        std::string calls;
+        for (const DrawCall& call : drawn) {
+            if (y != -1 && call.y != y)
+                continue;
+            char line[160];
+            std::snprintf(line, sizeof line, "%d %d,%d-%d,%d '%s' %s/%s\n", call.x, call.rect.left,
+                          call.rect.top, call.rect.right, call.rect.bottom, call.text.c_str(),
+                          call.text.empty() ? "-" : Name(call.textColor).c_str(),
+                          Name(call.backColor).c_str());
+            calls += line;
+        }
+        return calls;
+    }
+    // The runs of every row, one row a line.
+    std::string Screen(AnsiWindow& window)
+    {
+        std::string rows;
+        for (std::int32_t row = 0; row < ROWS; ++row)
+            rows += (row ? "\n" : "") + RowRuns(window, TOP + row * CELL_HEIGHT);
+        return rows;
     }
 };
 
+// Each line starts in the window's colours, as each text closes what it opens.
 TEST_F(PaintTextTest, ColourCodesSplitARowIntoRunsWithTheirColours)
 {
-    const std::pair<const char*, Segments> cases[] = {
-        {"plain", {{"plain", WHITE, BLACK}}},
-        {RED_WORD, {{"ab", WHITE, BLACK}, {"red", RED, BLACK}, {"cd", WHITE, BLACK}}},
-        {"\x99xy\xA1z", {{"xy", WHITE, BLUE}, {"z", WHITE, BLACK}}},
-        {"\x8C\x99"
-         "both\xA0\xA1",
-         {{"both", RED, BLUE}}},
-        // Closing codes without an opening one fall back to the window's defaults.
-        {"\xA0\xA1\xA0x", {{"x", WHITE, BLACK}}},
-        {"\x8C"
-         "a\x89"
-         "b\xA0"
-         "c\xA0"
-         "d",
-         {{"a", RED, BLACK}, {"b", BLUE, BLACK}, {"c", RED, BLACK}, {"d", WHITE, BLACK}}}};
-    for (const auto& [text, runs] : cases) {
-        auto window = Make("Thought Window");
-        window->AppendText(text);
-        EXPECT_EQ(RowRuns(*window), runs) << text;
-    }
-    // An overlong line shows its first 511 bytes and loses a code behind them.
     auto window = Make("Thought Window");
+    window->AppendText(("plain\n" + std::string(RED_WORD) +
+                        "\n\x99xy\xA1z\n\x8C\x99"
+                        "both\xA0\xA1\n\xA0\xA1\xA0x\n\x8C"
+                        "a\x89"
+                        "b\xA0"
+                        "c\xA0"
+                        "d")
+                           .c_str());
+    EXPECT_EQ(Screen(*window), "\n\n\n\n"
+                               "plain W/K\n"
+                               "ab W/K|red R/K|cd W/K\n"
+                               "xy W/B|z W/K\n"
+                               "both R/B\n"
+                               "x W/K\n"
+                               "a R/K|b B/K|c R/K|d W/K");
+    // An overlong line shows its first 511 bytes and loses a code behind them.
+    window = Make("Thought Window");
     window->AppendText(("\x8C" + std::string(520, 'x') + "\xA0\nnext").c_str());
     EXPECT_EQ(RowRuns(*window, LAST_ROW_Y - CELL_HEIGHT),
-              (Segments{{std::string(READ_LINE_LIMIT - 1, 'x'), RED, BLACK}}));
-    EXPECT_EQ(RowRuns(*window), (Segments{{"next", RED, BLACK}}));
+              std::string(READ_LINE_LIMIT - 1, 'x') + " R/K");
+    EXPECT_EQ(RowRuns(*window), "next R/K");
 }
 
+// The runs are placed at the sum of their widths, and the rest of the row is filled in the
+// window's colour even under an open background code.
 TEST_F(PaintTextTest, RunsArePlacedAtTheSumOfTheirWidthsAndTheRowIsFilledInTheWindowColour)
 {
     auto window = Make("Thought Window");
     window->AppendText("ab\x8C"
                        "c\x99"
                        "de");
-    RecordingLayer layer;
-    window->PaintText(layer);
-    std::vector<DrawCall> drawn;
-    for (const DrawCall& call : layer.calls)
-        if (!call.text.empty() && !call.cursor)
-            drawn.push_back(call);
-    ASSERT_EQ(drawn.size(), 3u);
-    EXPECT_EQ(drawn[0].x, TEXT_LEFT);
-    EXPECT_EQ(drawn[0].rect.right, TEXT_LEFT + 2 * CELL_WIDTH);
-    EXPECT_EQ(drawn[1].x, TEXT_LEFT + 2 * CELL_WIDTH);
-    EXPECT_EQ(drawn[2].rect.right, TEXT_LEFT + 5 * CELL_WIDTH);
-    EXPECT_EQ(drawn[2].rect.bottom - drawn[2].rect.top, CELL_HEIGHT);
-    // Even under an open background code.
-    const DrawCall* fill = FillAt(layer.calls, TEXT_LEFT + 5 * CELL_WIDTH, LAST_ROW_Y);
-    ASSERT_NE(fill, nullptr);
-    EXPECT_EQ(fill->rect.right, host.client.right);
-    EXPECT_EQ(fill->rect.bottom, LAST_ROW_Y + CELL_HEIGHT);
-    EXPECT_EQ(fill->backColor, BLACK);
+    EXPECT_EQ(Calls(Paint(*window), LAST_ROW_Y), "4 4,92-20,102 'ab' W/K\n"
+                                                 "20 20,92-28,102 'c' R/K\n"
+                                                 "28 28,92-44,102 'de' R/B\n"
+                                                 "44 44,92-400,102 '' -/K\n");
 }
 
 TEST_F(PaintTextTest, AnOpenColourGoesOnIntoTheNextRowsUntilItsCodeLeavesTheTop)
@@ -114,15 +117,14 @@ TEST_F(PaintTextTest, AnOpenColourGoesOnIntoTheNextRowsUntilItsCodeLeavesTheTop)
     auto window = Make("Thought Window");
     window->AppendText("\x8C"
                        "first\nsecond\n\x99third\xA1\nfourth\n");
-    EXPECT_EQ(RowRuns(*window, LAST_ROW_Y - 2 * CELL_HEIGHT), (Segments{{"third", RED, BLUE}}));
-    EXPECT_EQ(RowRuns(*window, LAST_ROW_Y - CELL_HEIGHT), (Segments{{"fourth", RED, BLACK}}));
+    EXPECT_EQ(Screen(*window), "\n\n\n\n\nfirst R/K\nsecond R/K\nthird R/B\nfourth R/K\n");
     AppendLines(*window, ROWS - 2);
-    EXPECT_EQ(RowRuns(*window, TOP), (Segments{{"fourth", WHITE, BLACK}}));
+    EXPECT_EQ(RowRuns(*window, TOP), "fourth W/K");
     // Each paint starts from the window's colours, whatever the last one left.
     window->AppendText("\x8C\x99open");
     Paint(*window);
     window->AppendText("\xA0\xA1\xA0\xA1\nafter");
-    EXPECT_EQ(RowRuns(*window), (Segments{{"after", WHITE, BLACK}}));
+    EXPECT_EQ(RowRuns(*window), "after W/K");
 }
 
 // An active window draws a row with selection in the defaults with the selection exchanged;
@@ -133,46 +135,27 @@ TEST_F(PaintTextTest, TheSelectionShowsOnlyInTheActiveWindow)
     window->AppendText(RED_WORD);
     // The text starts behind the 99 line feeds of a fresh ring; select "b", the code and "re".
     window->GetLiveBuffer().SetSelection(100, 104);
-    EXPECT_EQ(RowRuns(*window), (Segments{{"a", WHITE, BLACK},
-                                          {"b", BLACK, WHITE},
-                                          {"re", BLACK, WHITE},
-                                          {"d", WHITE, BLACK},
-                                          {"cd", WHITE, BLACK}}));
+    EXPECT_EQ(RowRuns(*window), "a W/K|b K/W|re K/W|d W/K|cd W/K");
     host.active = false;
-    EXPECT_EQ(RowRuns(*window),
-              (Segments{{"ab", WHITE, BLACK}, {"red", RED, BLACK}, {"cd", WHITE, BLACK}}));
+    EXPECT_EQ(RowRuns(*window), "ab W/K|red R/K|cd W/K");
 }
 
+// A window too low for a row is cleared in one fill; (109 - 100) / 2 leaves 4 pixels above the
+// rows and 5 below; a paint with erasing also fills the bands above and left of the rows.
 TEST_F(PaintTextTest, TheBandsAroundTheRowsAreFilledWithTheWindowColours)
 {
     host.client = {0, 0, 300, 14};
-    auto low = Make("Game Window", true);
-    low->AppendText("hidden");
-    const std::vector<DrawCall> cleared = Paint(*low);
-    ASSERT_EQ(cleared.size(), 1u);
-    EXPECT_TRUE(cleared[0].text.empty());
-    EXPECT_EQ(cleared[0].rect.right, 300);
-    EXPECT_EQ(cleared[0].rect.bottom, 14);
-    EXPECT_EQ(cleared[0].backColor, BLACK);
-
-    // (109 - 100) / 2 leaves 4 pixels above the rows and 5 below.
+    auto window = Make("Game Window", true);
+    window->AppendText("hidden");
+    EXPECT_EQ(Calls(Paint(*window)), "0 0,0-300,14 '' -/K\n");
     host.client = {0, 0, 300, 109};
-    const std::vector<DrawCall> banded = Paint(*Make("Thought Window"));
-    const DrawCall* strip = FillAt(banded, 0, 104);
-    ASSERT_NE(strip, nullptr);
-    EXPECT_EQ(strip->rect.bottom, 109);
-    EXPECT_EQ(strip->backColor, BLACK);
-
-    // A paint with erasing also fills the bands above and left of the rows.
+    EXPECT_EQ(Calls(Paint(*Make("Thought Window")), 104), "0 0,104-300,109 '' -/K\n");
     host.client = {0, 0, 400, 105};
     RecordingLayer layer;
     Make("Thought Window")->Paint(layer, true);
-    ASSERT_GE(layer.calls.size(), 2u);
-    EXPECT_EQ(layer.calls[0].rect.bottom, TOP);
-    EXPECT_EQ(layer.calls[0].rect.right, host.client.right);
-    EXPECT_EQ(layer.calls[1].rect.right, TEXT_LEFT);
-    EXPECT_EQ(layer.calls[1].rect.bottom, host.client.bottom);
-    EXPECT_EQ(layer.calls[1].backColor, BLACK);
+    layer.calls.resize(2);
+    EXPECT_EQ(Calls(layer.calls), "0 0,0-400,2 '' -/K\n"
+                                  "0 0,0-4,105 '' -/K\n");
 }
 
 TEST_F(PaintTextTest, AFrozenViewPaintsItsTopLineAndEmptyRowsAsAnEmptyRunAndAFill)
@@ -180,22 +163,12 @@ TEST_F(PaintTextTest, AFrozenViewPaintsItsTopLineAndEmptyRowsAsAnEmptyRunAndAFil
     auto window = Make("Thought Window");
     AppendLines(*window, 30);
     window->ApplyScrollCommand(SB_TOP, 0);
-    std::vector<DrawCall> firstRow;
-    for (const DrawCall& call : Paint(*window))
-        if (call.y == TOP)
-            firstRow.push_back(call);
-    ASSERT_EQ(firstRow.size(), 2u);
-    EXPECT_EQ(firstRow[0].x, TEXT_LEFT);
-    EXPECT_EQ(firstRow[0].rect.right, TEXT_LEFT);
-    EXPECT_EQ(firstRow[1].rect.left, TEXT_LEFT);
-    EXPECT_EQ(firstRow[1].rect.right, host.client.right);
-
+    EXPECT_EQ(Calls(Paint(*window), TOP), "4 4,2-4,12 '' -/K\n"
+                                          "4 4,2-400,12 '' -/K\n");
     window->ApplyScrollCommand(SB_THUMBTRACK, 99 + 4);
     window->AppendText("newer\n");
-    RecordingLayer layer;
-    window->PaintText(layer);
-    EXPECT_EQ(layer.RowText(TOP), "line 4");
-    EXPECT_EQ(layer.RowText(LAST_ROW_Y), "line 13");
+    EXPECT_EQ(RowRuns(*window, TOP), "line 4 W/K");
+    EXPECT_EQ(RowRuns(*window), "line 13 W/K");
 }
 
 TEST_F(PaintTextTest, TheCursorFollowsTheLastRowOfALiveGameWindowOnly)
@@ -241,8 +214,7 @@ TEST_F(PaintTextTest, NewColoursOfTheWindowAreUsedFromTheNextPaint)
     window->ChangeForegroundColor();
     host.pickedColor = MakeRgb(4, 5, 6);
     window->ChangeBackgroundColor();
-    EXPECT_EQ(RowRuns(*window),
-              (Segments{{"x", MakeRgb(1, 2, 3), MakeRgb(4, 5, 6)}, {"y", RED, MakeRgb(4, 5, 6)}}));
+    EXPECT_EQ(RowRuns(*window), "x 030201/060504|y R/060504");
 }
 
 } // namespace

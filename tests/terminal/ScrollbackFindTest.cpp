@@ -1,100 +1,86 @@
 #include "TextBufferFixture.h"
-#include "WindowFixture.h"
 
 #include "terminal/TailSplit.h"
 #include "terminal/TextSearch.h"
 #include "terminal/Wheel.h"
 
+#include <random>
 #include <string>
+#include <vector>
 
 namespace steward::test {
 namespace {
 
-using steward::SearchDirection;
-
-// Finds in a small ring: the text of the hit as a selection gives it, or "" for none.
-struct FindCase {
-    const char* name;
-    const char* text;
-    const char* needle;
-    SearchDirection direction;
-    bool matchCase;
-    const char* hit;
-};
-
-std::string HitText(TextBuffer& buffer, const TextHit& hit)
+// The reference search: every byte but colour codes in order, a soft line end read as a blank;
+// a match is a run of them equal to the needle, from its first byte to behind its last.
+std::vector<TextHit> ReferenceHits(const std::string& kept, const std::string& needle,
+                                   bool matchCase)
 {
-    if (!hit.Found())
-        return "";
-    buffer.SetSelection(hit.Start, hit.End);
-    return buffer.SelectionText();
-}
-
-TEST(FindText, OverTheRing)
-{
-    constexpr auto OLDER = SearchDirection::Older;
-    constexpr auto NEWER = SearchDirection::Newer;
-    const FindCase cases[] = {
-        {"older finds the newest", "red fox\nred hen\n", "red", OLDER, true, "red"},
-        {"without case", "the Red Fox\n", "red fox", NEWER, false, "Red Fox"},
-        {"with case misses", "the Red Fox\n", "red fox", NEWER, true, ""},
-        {"colour bytes inside", "a \x8Ared\xA0 fox\n", "red fox", OLDER, true, "red fox"},
-        {"colour before the first letter", "\x8A\x8Bwolf\n", "wolf", NEWER, true, "wolf"},
-        {"no hit", "nothing here\n", "dragon", OLDER, false, ""},
-        {"no match across a hard line end", "the red\nfox\n", "red fox", OLDER, false, ""},
-        {"a hit in the last byte", "abc", "c", OLDER, true, "c"},
-        {"a word in the last bytes", "look at the bell", "bell", NEWER, true, "bell"},
-        {"needle longer than the text", "ab", "abc", NEWER, true, ""},
-        {"upper case needle", "quiet words\n", "QUIET", NEWER, false, "quiet"},
+    const auto fold = [&](char c) {
+        return !matchCase && c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
     };
-    for (const FindCase& c : cases) {
-        SCOPED_TRACE(c.name);
-        auto buffer = MakeBuffer(1000);
-        buffer->AppendText(c.text, true);
-        EXPECT_EQ(HitText(*buffer, FindText(*buffer, c.needle, c.direction == OLDER ? INT32_MAX : 0,
-                                            c.direction, c.matchCase)),
-                  c.hit);
+    std::vector<std::int32_t> at;
+    std::string plain;
+    for (std::size_t i = 0; i < kept.size(); ++i) {
+        if (IsColorCode(static_cast<unsigned char>(kept[i])))
+            continue;
+        at.push_back(static_cast<std::int32_t>(i));
+        plain += kept[i] == static_cast<char>(SOFT_LINE_END) ? ' ' : fold(kept[i]);
     }
+    std::string wanted;
+    for (const char c : needle)
+        wanted += fold(c);
+    std::vector<TextHit> hits;
+    for (std::size_t i = 0; i + wanted.size() <= plain.size(); ++i)
+        if (plain.compare(i, wanted.size(), wanted) == 0)
+            hits.push_back({at[i], at[i + wanted.size() - 1] + 1});
+    return hits;
 }
 
-TEST(FindText, AcrossASoftLineEndAndTheSeam)
+// Small rings wrapped at narrow widths, full of colour codes, line ends and case pairs, so
+// that matches cross soft line ends, codes and the seam.
+TEST(FindText, MatchesTheReferenceSearch)
 {
-    // Ten columns break "the grey wolf howls" at its blanks.
-    auto wrapped = MakeWrappingBuffer(10, 1000);
-    wrapped->AppendText("the grey wolf howls\n", true);
-    ASSERT_EQ(wrapped->CountLines(), 99 + 2) << "the match must cross the row's end";
-    const TextHit soft = FindText(*wrapped, "wolf howls", 0, SearchDirection::Newer, true);
-    EXPECT_EQ(HitText(*wrapped, soft), "wolf howls");
-
-    // A small ring filled until its text runs over the seam; the word there is found whole.
-    auto ring = MakeBuffer(MIN_BUFFER_CAPACITY + 60);
-    while (ring->IsWrapped() == false || ring->GetWritePos() < 20) {
-        ring->AppendText("0123456789\n", true);
+    static const char letters[] = "ab AB\n\x8A\xA0";
+    for (unsigned seed = 1; seed <= 40; ++seed) {
+        std::mt19937 random(seed);
+        auto buffer = MakeWrappingBuffer(3 + static_cast<std::int32_t>(random() % 12),
+                                         MIN_BUFFER_CAPACITY + 20 + random() % 100);
+        for (int step = 0; step < 60; ++step) {
+            std::string text(1 + random() % 30, ' ');
+            for (char& c : text)
+                c = letters[random() % (sizeof letters - 1)];
+            buffer->AppendText(text.c_str(), true);
+            const std::string kept = RingText(*buffer);
+            std::string needle(1 + random() % 3, ' ');
+            for (char& c : needle)
+                c = "aAb "[random() % 4];
+            const bool matchCase = random() % 2;
+            const std::vector<TextHit> hits = ReferenceHits(kept, needle, matchCase);
+            const auto size = static_cast<std::int32_t>(kept.size());
+            for (const std::int32_t from :
+                 {-1, 0, static_cast<std::int32_t>(random() % (size + 1)), size, INT32_MAX}) {
+                SCOPED_TRACE(::testing::Message() << "seed " << seed << " step " << step << " '"
+                                                  << needle << "' from " << from);
+                TextHit older;
+                TextHit newer;
+                for (const TextHit& hit : hits) {
+                    if (hit.Start < from)
+                        older = hit;
+                    if (hit.Start >= from && !newer.Found())
+                        newer = hit;
+                }
+                const TextHit foundOlder =
+                    FindText(*buffer, needle, from, SearchDirection::Older, matchCase);
+                const TextHit foundNewer =
+                    FindText(*buffer, needle, from, SearchDirection::Newer, matchCase);
+                ASSERT_EQ(foundOlder.Start, older.Start);
+                ASSERT_EQ(foundOlder.End, older.End);
+                ASSERT_EQ(foundNewer.Start, newer.Start);
+                ASSERT_EQ(foundNewer.End, newer.End);
+            }
+        }
     }
-    const std::uint32_t toSeam = ring->GetCapacity() - ring->GetWritePos();
-    ring->AppendText((std::string(toSeam - 3, '.') + "lantern\n").c_str(), true);
-    const TextBuffer::TextRuns runs = ring->Runs();
-    ASSERT_GT(runs.SecondLength, 0u);
-    const TextHit seam = FindText(*ring, "lantern", INT32_MAX, SearchDirection::Older, true);
-    EXPECT_EQ(HitText(*ring, seam), "lantern");
-    EXPECT_LT(static_cast<std::uint32_t>(seam.Start), runs.FirstLength);
-    EXPECT_GT(static_cast<std::uint32_t>(seam.End), runs.FirstLength);
-}
-
-TEST(FindText, StepsFromHitToHit)
-{
-    auto buffer = MakeBuffer(1000);
-    buffer->AppendText("owl one\nowl two\nowl three\n", true);
-    std::vector<std::int32_t> older;
-    for (TextHit hit = FindText(*buffer, "owl", INT32_MAX, SearchDirection::Older, true);
-         hit.Found(); hit = FindText(*buffer, "owl", hit.Start, SearchDirection::Older, true))
-        older.push_back(hit.Start);
-    std::vector<std::int32_t> newer;
-    for (TextHit hit = FindText(*buffer, "owl", 0, SearchDirection::Newer, true); hit.Found();
-         hit = FindText(*buffer, "owl", hit.Start + 1, SearchDirection::Newer, true))
-        newer.push_back(hit.Start);
-    ASSERT_EQ(older.size(), 3u);
-    EXPECT_EQ(newer, std::vector<std::int32_t>(older.rbegin(), older.rend()));
 }
 
 TEST(TailSplit, RowsOfEachPane)

@@ -7,21 +7,9 @@ namespace {
 
 using Rows = std::vector<std::string>;
 
-TEST(TextBufferLines, CountAndTailRows)
+// Counts and lines at random are checked against the reference in TextBufferModelTest.
+TEST(TextBufferLines, SeekFromEndStopsAtTheEnds)
 {
-    const struct {
-        const char* text;
-        std::int32_t lines;
-        Rows tail;
-    } cases[] = {{"one\ntwo\nthree", 102, {"one", "two", "three"}},
-                 {"one\ntwo\nthree\n", 102, {"two", "three", ""}},
-                 {"one\ntwo\xFFthree", 102, {"two", "three"}},
-                 {"abc\n\n", 101, {"abc", "", ""}}};
-    for (const auto& c : cases) {
-        auto buffer = BufferWith(c.text);
-        EXPECT_EQ(buffer->CountLines(), c.lines) << c.text;
-        EXPECT_EQ(LastRows(*buffer, static_cast<std::int32_t>(c.tail.size())), c.tail) << c.text;
-    }
     auto buffer = BufferWith("one\ntwo");
     for (std::int32_t rows : {0, -1, -100}) {
         buffer->SeekLine(0);
@@ -36,59 +24,10 @@ TEST(TextBufferLines, CountAndTailRows)
     EXPECT_EQ(LastRows(*buffer, 5), (Rows{"A", "B", "", "", ""}));
 }
 
-TEST(TextBufferLines, SeekLinePutsWalkPosOnTheLineStart)
-{
-    auto buffer = BufferWith("one\ntwo\nthree");
-    const std::pair<std::int32_t, const char*> cases[] = {
-        {-3, ""}, {98, ""}, {99, "one"}, {101, "three"}, {102, ""}};
-    for (const auto& [index, line] : cases) {
-        const auto at = buffer->SeekLine(index);
-        EXPECT_EQ(at, buffer->GetWalkPos());
-        EXPECT_EQ(ReadOne(*buffer), line) << index;
-    }
-    buffer = BufferWith("one\ntwo\n");
-    EXPECT_EQ(buffer->SeekLine(101), buffer->GetWritePos());
-    EXPECT_EQ(buffer->SeekLine(1000), buffer->GetWritePos());
-    EXPECT_EQ(buffer->SeekLine(0), buffer->GetHeadPos());
-}
-
-// Lines numbered from the head, read with SeekLine and from the tail, agree with what the ring
-// keeps while the head goes round the seam.
-TEST(TextBufferLines, WalksAgreeWithTheKeptTextAcrossTheSeam)
-{
-    auto buffer = MakeBuffer(SMALL_CAPACITY);
-    for (int i = 0; i < 120; ++i) {
-        const std::string line = "line " + std::to_string(i) + (i % 3 == 0 ? " longer\n" : "\n");
-        buffer->AppendText(line.c_str(), true);
-        const std::string kept = RingText(*buffer);
-        Rows lines;
-        std::size_t from = 0;
-        for (std::size_t lf = kept.find('\n'); lf != std::string::npos;
-             lf = kept.find('\n', from)) {
-            lines.push_back(kept.substr(from, lf - from));
-            from = lf + 1;
-        }
-        ASSERT_EQ(AllLines(*buffer), lines);
-        if (lines.size() >= 4) {
-            auto shown = LastRows(*buffer, 4);
-            ASSERT_EQ(shown.back(), "");
-            shown.pop_back();
-            ASSERT_EQ(shown, Rows(lines.end() - 3, lines.end()));
-        }
-        for (std::int32_t index = 0; index < buffer->CountLines(); ++index)
-            ASSERT_EQ(buffer->LineIndexOf(buffer->SeekLine(index)), index);
-    }
-}
-
-TEST(TextBufferLines, LineIndexOfCountsTerminatorsUpToThePosition)
+// Positions outside the kept text belong to no line.
+TEST(TextBufferLines, LineIndexOfOutsideTheTextIsZero)
 {
     auto buffer = BufferWith("one\ntwo\xFFthree");
-    const auto head = buffer->GetHeadPos();
-    const std::pair<std::int32_t, std::int32_t> cases[] = {
-        {0, 0}, {TEXT_START, 99}, {TEXT_START + 5, 100}, {TEXT_START + 9, 101}};
-    for (const auto& [offset, index] : cases)
-        EXPECT_EQ(buffer->LineIndexOf(buffer->AdvancePos(head, offset)), index) << offset;
-    EXPECT_EQ(buffer->LineIndexOf(buffer->GetWritePos()), 101);
     EXPECT_EQ(buffer->LineIndexOf(buffer->Next(buffer->GetWritePos())), 0);
     EXPECT_EQ(buffer->LineIndexOf(WINDOW_BUFFER_CAPACITY - 1), 0);
 }

@@ -36,7 +36,8 @@ class PanelControlsTest : public ::testing::Test {
     PanelResources resources;
 };
 
-TEST_F(PanelControlsTest, GaugesDrawFrameBarBackgroundAndSeconds)
+// Each control paints its state through the real canvas and pictures.
+TEST_F(PanelControlsTest, GaugesCompassFigureIconsTextBoxAndToolButtons)
 {
     Gauge gauge("Hp:", StatusPanel::BoxGaugeFlags, true, Colors);
     gauge.SetMax(100);
@@ -60,10 +61,7 @@ TEST_F(PanelControlsTest, GaugesDrawFrameBarBackgroundAndSeconds)
             white += seconds.pixel(x, y) == qRgb(255, 255, 255);
     EXPECT_EQ(white, 17);
     EXPECT_EQ(seconds.pixel(2, 2), qRgb(0x5A, 0xDC, 0x5A));
-}
 
-TEST_F(PanelControlsTest, CompassLightsZonesInTheirColours)
-{
     struct Case {
         std::uint32_t masks;
         QRgb north;
@@ -71,14 +69,12 @@ TEST_F(PanelControlsTest, CompassLightsZonesInTheirColours)
     for (const Case& c : cases) {
         CompassState compass;
         compass.SetExits(c.masks);
-        const QImage image =
-            Paint(std::make_unique<CompassHandler>(compass), 62, 43, "IDB_COMPASS");
-        EXPECT_EQ(image.pixel(39, 10), c.north) << c.masks;
+        EXPECT_EQ(
+            Paint(std::make_unique<CompassHandler>(compass), 62, 43, "IDB_COMPASS").pixel(39, 10),
+            c.north)
+            << c.masks;
     }
-}
 
-TEST_F(PanelControlsTest, FigureAndIconPictures)
-{
     FigureState figure;
     figure.SetState(FIGURE_SITTING);
     EXPECT_EQ(Paint(std::make_unique<FigureHandler>(figure), 46, 38).pixel(0, 0), Grey);
@@ -93,22 +89,20 @@ TEST_F(PanelControlsTest, FigureAndIconPictures)
     BitmapImage picture("IDB_SMALL_SWORD", true);
     EXPECT_EQ(held, picture.Image().copy(0, 0, 14, 14));
     EXPECT_EQ(away, picture.Image().copy(14, 0, 14, 14));
-}
 
-TEST_F(PanelControlsTest, TextBoxFillsItsColourBehindTheTextAndAToolButtonShowsItsFace)
-{
-    const QImage image = Paint(std::make_unique<TextBoxHandler>("Gold:", LABEL_BOX_COLOR), 34, 11);
-    EXPECT_EQ(image.pixel(33, 10), Grey);
-    EXPECT_TRUE(image.pixel(33, 10) != image.pixel(2, 4) || image.pixel(3, 5) != Grey);
+    // A text box fills its colour behind the text; a tool button shows its face.
+    const QImage box = Paint(std::make_unique<TextBoxHandler>("Gold:", LABEL_BOX_COLOR), 34, 11);
+    EXPECT_EQ(box.pixel(33, 10), Grey);
+    EXPECT_TRUE(box.pixel(33, 10) != box.pixel(2, 4) || box.pixel(3, 5) != Grey);
 
     int sent = 0;
     QWidget frame;
     ToolButtons buttons(frame, resources, [&](int command) { sent = command; });
     ToolButton& sword = buttons.Button(0);
-    BitmapImage picture("IDB_SWORD", true);
-    EXPECT_EQ(Render(sword), picture.Image().copy(0, 0, 26, 26));
+    BitmapImage face("IDB_SWORD", true);
+    EXPECT_EQ(Render(sword), face.Image().copy(0, 0, 26, 26));
     sword.setDown(true);
-    EXPECT_EQ(Render(sword), picture.Image().copy(26, 0, 26, 26));
+    EXPECT_EQ(Render(sword), face.Image().copy(26, 0, 26, 26));
     sword.setDown(false);
     sword.click();
     EXPECT_EQ(sent, 1806);

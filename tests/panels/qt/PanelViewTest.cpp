@@ -73,53 +73,6 @@ class PanelViewTest : public ::testing::Test, public QObject {
     std::map<QObject*, int> paints;
 };
 
-TEST_F(PanelViewTest, PickedColoursRepaintTheGaugeAndLeaveTheBoxesAlone)
-{
-    auto* hp = qobject_cast<MultiControl*>(frame.childAt(70, 18));
-    ASSERT_NE(hp, nullptr);
-    ColorRecorder recorder;
-    hp->SetDialogs(&recorder);
-    const std::map<QWidget*, QImage> before = RenderAllBut(hp);
-    paints.clear();
-    recorder.answer = QColor(0x12, 0x34, 0x56);
-    EXPECT_TRUE(hp->MenuCommand(GAUGE_MENU_BAR_COLOR));
-    recorder.answer = QColor(0x65, 0x43, 0x21);
-    EXPECT_TRUE(hp->MenuCommand(GAUGE_MENU_BACK_COLOR));
-    EXPECT_FALSE(hp->MenuCommand(GAUGE_MENU_BACK_COLOR + 1));
-    QTest::qWait(2 * DISPLAY_FRAME_MS); // a control paints at most once a frame
-
-    EXPECT_EQ(panel.Hp.Colors().BarColor, 0x563412u);
-    EXPECT_EQ(panel.Hp.Colors().GaugeBackColor, 0x214365u);
-    EXPECT_EQ(recorder.owners, (std::vector<QWidget*>{hp, hp}));
-    EXPECT_EQ(recorder.rules, (std::vector<bool>{false, false}));
-    ASSERT_EQ(paints.size(), 1u);
-    EXPECT_EQ(paints.begin()->first, hp);
-    EXPECT_EQ(RenderAllBut(hp), before);
-}
-
-TEST_F(PanelViewTest, ARecordPaintsOnlyWhatChanged)
-{
-    // The same record twice but for the hit points.
-    for (int hp : {40, 40, 35}) {
-        for (Gauge* gauge : {&panel.Hp, &panel.Ftg, &panel.Weight, &panel.Psi, &panel.Web}) {
-            gauge->SetMin(0);
-            gauge->SetMax(100);
-            gauge->SetValue(gauge == &panel.Hp ? hp : 60);
-        }
-        panel.Silver.SetText("12");
-        panel.Gold.SetText("3");
-        panel.BodyFigure.SetState(FIGURE_STANDING);
-        panel.WeaponIcon.SetState(1);
-        // The gauge's paint gives the value box its text, which paints on the next turn; each
-        // control paints at most once a frame.
-        QTest::qWait(4 * DISPLAY_FRAME_MS);
-        if (hp == 40)
-            paints.clear();
-    }
-    EXPECT_EQ(paints,
-              (std::map<QObject*, int>{{frame.childAt(70, 18), 1}, {frame.childAt(128, 18), 1}}));
-}
-
 struct ControlCase {
     const char* name;
     std::function<void(StatusPanel&)> change;
@@ -141,8 +94,51 @@ QAccessibleInterface* Find(QWidget& frame, const char* name, bool gauge)
     return nullptr;
 }
 
-TEST_F(PanelViewTest, GaugesAndTheCompassTellAScreenReaderWhatTheyShow)
+// Picked colours repaint the gauge and leave the boxes alone, a record paints only what
+// changed, and the controls tell a screen reader what they show.
+TEST_F(PanelViewTest, PaintsWhatChangedAndTellsAScreenReader)
 {
+    auto* hp = qobject_cast<MultiControl*>(frame.childAt(70, 18));
+    ASSERT_NE(hp, nullptr);
+    ColorRecorder recorder;
+    hp->SetDialogs(&recorder);
+    const std::map<QWidget*, QImage> before = RenderAllBut(hp);
+    paints.clear();
+    recorder.answer = QColor(0x12, 0x34, 0x56);
+    EXPECT_TRUE(hp->MenuCommand(GAUGE_MENU_BAR_COLOR));
+    recorder.answer = QColor(0x65, 0x43, 0x21);
+    EXPECT_TRUE(hp->MenuCommand(GAUGE_MENU_BACK_COLOR));
+    EXPECT_FALSE(hp->MenuCommand(GAUGE_MENU_BACK_COLOR + 1));
+    QTest::qWait(2 * DISPLAY_FRAME_MS); // a control paints at most once a frame
+
+    EXPECT_EQ(panel.Hp.Colors().BarColor, 0x563412u);
+    EXPECT_EQ(panel.Hp.Colors().GaugeBackColor, 0x214365u);
+    EXPECT_EQ(recorder.owners, (std::vector<QWidget*>{hp, hp}));
+    EXPECT_EQ(recorder.rules, (std::vector<bool>{false, false}));
+    ASSERT_EQ(paints.size(), 1u);
+    EXPECT_EQ(paints.begin()->first, hp);
+    EXPECT_EQ(RenderAllBut(hp), before);
+
+    // The same record twice but for the hit points.
+    for (int hp : {40, 40, 35}) {
+        for (Gauge* gauge : {&panel.Hp, &panel.Ftg, &panel.Weight, &panel.Psi, &panel.Web}) {
+            gauge->SetMin(0);
+            gauge->SetMax(100);
+            gauge->SetValue(gauge == &panel.Hp ? hp : 60);
+        }
+        panel.Silver.SetText("12");
+        panel.Gold.SetText("3");
+        panel.BodyFigure.SetState(FIGURE_STANDING);
+        panel.WeaponIcon.SetState(1);
+        // The gauge's paint gives the value box its text, which paints on the next turn; each
+        // control paints at most once a frame.
+        QTest::qWait(4 * DISPLAY_FRAME_MS);
+        if (hp == 40)
+            paints.clear();
+    }
+    EXPECT_EQ(paints,
+              (std::map<QObject*, int>{{frame.childAt(70, 18), 1}, {frame.childAt(128, 18), 1}}));
+
     const ControlCase cases[] = {
         {"Hp:", [](StatusPanel& p) { SetGaugeValues(p.Hp, 0, 100, 45); }, "45 of 100", 45, 100},
         {"RT:", [](StatusPanel& p) { p.RT.SetMax(3000), p.RT.StartCountdown(nullptr); }, "3", 3000,

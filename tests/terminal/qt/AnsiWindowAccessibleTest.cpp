@@ -68,7 +68,7 @@ struct AppendCase {
     QString lastInserted;
 };
 
-TEST_F(AccessibleWindowTest, TheTextIsTheExportAndEveryAppendIsAnnouncedWhereItLands)
+TEST_F(AccessibleWindowTest, TheTextIsTheExportEveryAppendIsAnnouncedAndTheSelectionIsTheCopied)
 {
     std::vector<std::string> flood;
     for (int i = 0; i < 1500; ++i)
@@ -96,6 +96,26 @@ TEST_F(AccessibleWindowTest, TheTextIsTheExportAndEveryAppendIsAnnouncedWhereItL
         EXPECT_EQ(Text().text(0, Text().characterCount()), all);
         EXPECT_EQ(Text().cursorPosition(), all.size());
     }
+
+    // The selection is where the window copies it from.
+    Fresh();
+    widget->Window().AppendText(("one " + Colored("two") + "\r\nthree\r\n").c_str());
+    // Distances from the ring's head; a fresh ring's text starts behind its blank lines, which
+    // are not exported. Empty: what Copy takes from the window.
+    const std::int32_t text = INITIAL_LINE_FEEDS - 1;
+    const std::tuple<std::int32_t, std::int32_t, QString> selections[] = {
+        {text, text + 3, {}},      {text + 2, text + 8, {}}, {text + 5, text + 14, {}},
+        {text + 14, text + 4, {}}, {text + 2, text + 2, {}}, {3, text + 2, "on"}};
+    for (const auto& [start, end, given] : selections) {
+        Live().SetSelection(start, end);
+        const QString heard =
+            given.isEmpty() ? QString::fromStdString(Live().SelectionText()) : given;
+        ASSERT_EQ(Text().selectionCount(), heard.isEmpty() ? 0 : 1) << start;
+        int from = -1;
+        int to = -1;
+        Text().selection(0, &from, &to);
+        EXPECT_EQ(Text().text(from, to), heard) << start;
+    }
 }
 
 TEST_F(AccessibleWindowTest, ALongScrollbackGivesItsLastPartFromALineStart)
@@ -116,27 +136,6 @@ TEST_F(AccessibleWindowTest, ALongScrollbackGivesItsLastPartFromALineStart)
     EXPECT_TRUE(heard.startsWith("line ")) << heard.left(20).toStdString();
     const auto& [position, added] = inserted.back();
     EXPECT_EQ(Text().text(position, position + added.size()), added);
-}
-
-TEST_F(AccessibleWindowTest, TheSelectionIsWhereTheWindowCopiesItFrom)
-{
-    widget->Window().AppendText(("one " + Colored("two") + "\r\nthree\r\n").c_str());
-    // Distances from the ring's head; a fresh ring's text starts behind its blank lines, which
-    // are not exported. Empty: what Copy takes from the window.
-    const std::int32_t text = INITIAL_LINE_FEEDS - 1;
-    const std::tuple<std::int32_t, std::int32_t, QString> cases[] = {
-        {text, text + 3, {}},      {text + 2, text + 8, {}}, {text + 5, text + 14, {}},
-        {text + 14, text + 4, {}}, {text + 2, text + 2, {}}, {3, text + 2, "on"}};
-    for (const auto& [start, end, given] : cases) {
-        Live().SetSelection(start, end);
-        const QString heard =
-            given.isEmpty() ? QString::fromStdString(Live().SelectionText()) : given;
-        ASSERT_EQ(Text().selectionCount(), heard.isEmpty() ? 0 : 1) << start;
-        int from = -1;
-        int to = -1;
-        Text().selection(0, &from, &to);
-        EXPECT_EQ(Text().text(from, to), heard) << start;
-    }
 }
 
 } // namespace

@@ -105,7 +105,9 @@ class MouseTest : public ::testing::Test {
     std::unique_ptr<AnsiWindowWidget> widget;
 };
 
-TEST_F(MouseTest, ADragSelectsTheBytesBetweenPressAndRelease)
+// A drag selects the bytes between press and release, a double click a word, a shift click
+// moves the edge, and the popup menu offers Copy only with a selection.
+TEST_F(MouseTest, SelectsAndOffersCopy)
 {
     const struct {
         int fromRow, fromCol, toRow, toCol;
@@ -119,10 +121,6 @@ TEST_F(MouseTest, ADragSelectsTheBytesBetweenPressAndRelease)
         Drag(At(c.fromRow, c.fromCol), At(c.toRow, c.toCol));
         EXPECT_EQ(Copied(), c.copied);
     }
-}
-
-TEST_F(MouseTest, DoubleClickTakesAWordAndShiftClickMovesTheEdge)
-{
     QTest::mouseDClick(widget.get(), Qt::LeftButton, {}, At(2, 6));
     EXPECT_EQ(Copied(), "alert");
     QTest::mouseClick(widget.get(), Qt::LeftButton, Qt::ShiftModifier, At(2, 13));
@@ -133,10 +131,8 @@ TEST_F(MouseTest, DoubleClickTakesAWordAndShiftClickMovesTheEdge)
     EXPECT_FALSE(widget->Window().HasSelection());
     QTest::mouseClick(widget.get(), Qt::LeftButton, Qt::ShiftModifier, At(3, 6));
     EXPECT_EQ(Copied(), "plain words here");
-}
 
-TEST_F(MouseTest, ThePopupMenuOffersCopyOnlyWithASelection)
-{
+    QTest::mouseClick(widget.get(), Qt::LeftButton, {}, At(3, 6));
     QMenu plain;
     widget->FillPopupMenu(plain);
     EXPECT_EQ(plain.actions().first()->text(), "Maximize");

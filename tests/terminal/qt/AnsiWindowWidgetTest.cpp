@@ -54,12 +54,10 @@ bool HasColor(const QImage& image, const QColor& color)
 
 class WidgetTest : public ::testing::Test {
   protected:
-    std::unique_ptr<AnsiWindowWidget> Make(const char* name = "Thought Window", int lines = 0)
+    std::unique_ptr<AnsiWindowWidget> Make(const char* name = "Thought Window")
     {
         auto widget = AnsiWindowWidget::Create(name, {settings, nullptr, nullptr, &dialogs});
         widget->resize(400, 200);
-        for (int i = 0; i < lines; ++i)
-            widget->Window().AppendText(("line " + std::to_string(i) + "\n").c_str());
         return widget;
     }
 
@@ -67,7 +65,7 @@ class WidgetTest : public ::testing::Test {
     ScriptedDialogs dialogs;
 };
 
-TEST_F(WidgetTest, PaintsItsBufferInTheFontInUseAndLeavesRoomForTheScrollBar)
+TEST_F(WidgetTest, PaintsScrollsAndChangesItsLookThroughTheGivenDialogs)
 {
     auto widget = Make();
     AnsiWindow& window = widget->Window();
@@ -75,7 +73,7 @@ TEST_F(WidgetTest, PaintsItsBufferInTheFontInUseAndLeavesRoomForTheScrollBar)
     EXPECT_FALSE(HasColor(before, Qt::red));
     EXPECT_FALSE(HasColor(before, Qt::white));
     window.AppendText("\x8C"
-                      "MMMM\xA0 WWWW");
+                      "MMMM\xA0 WWWW\n");
     const QImage after = widget->grab().toImage();
     EXPECT_TRUE(HasColor(after, Qt::red));
     EXPECT_TRUE(HasColor(after, Qt::white));
@@ -89,19 +87,17 @@ TEST_F(WidgetTest, PaintsItsBufferInTheFontInUseAndLeavesRoomForTheScrollBar)
     widget->show();
     ASSERT_TRUE(QTest::qWaitForWindowExposed(widget.get()));
     widget->resize(500, 300);
-    EXPECT_EQ(window.GetClientRect().right, 500 - widget->ScrollBar()->width());
+    QScrollBar* bar = widget->ScrollBar();
+    EXPECT_EQ(window.GetClientRect().right, 500 - bar->width());
     EXPECT_EQ(window.GetClientRect().bottom, 300);
     EXPECT_EQ(window.GetRows(), (300 - lineHeight / 2) / lineHeight);
-    EXPECT_EQ(widget->ScrollBar()->geometry().right(), 499);
-    EXPECT_EQ(widget->ScrollBar()->maximum(), LIVE_SCROLL_MAX);
-    EXPECT_EQ(widget->ScrollBar()->value(), LIVE_SCROLL_MAX);
-}
+    EXPECT_EQ(bar->geometry().right(), 499);
+    EXPECT_EQ(bar->maximum(), LIVE_SCROLL_MAX);
+    EXPECT_EQ(bar->value(), LIVE_SCROLL_MAX);
 
-TEST_F(WidgetTest, TheScrollBarAndTheWheelFreezeAndTheBarReturnsToTheLiveTail)
-{
-    auto widget = Make("Thought Window", 150);
-    AnsiWindow& window = widget->Window();
-    QScrollBar* bar = widget->ScrollBar();
+    // The scroll bar and the wheel freeze, and the bar's end returns to the live tail.
+    for (int i = 0; i < 150; ++i)
+        window.AppendText(("line " + std::to_string(i) + "\n").c_str());
     bar->triggerAction(QAbstractSlider::SliderSingleStepSub);
     ASSERT_TRUE(window.IsFrozen());
     EXPECT_EQ(bar->maximum(), window.GetViewLines() - window.GetRows());
@@ -110,12 +106,35 @@ TEST_F(WidgetTest, TheScrollBarAndTheWheelFreezeAndTheBarReturnsToTheLiveTail)
     EXPECT_EQ(bar->value(), window.GetTopLine());
     bar->triggerAction(QAbstractSlider::SliderToMaximum);
     EXPECT_FALSE(window.IsFrozen());
-
     QWheelEvent wheel(QPointF(10, 10), QPointF(10, 10), QPoint(), QPoint(0, 120), Qt::NoButton,
                       Qt::NoModifier, Qt::NoScrollPhase, false);
     QApplication::sendEvent(widget.get(), &wheel);
     ASSERT_TRUE(window.IsFrozen());
     EXPECT_EQ(window.GetTopLine(), window.GetViewLines() - 2 * window.GetRows());
+    bar->triggerAction(QAbstractSlider::SliderToMaximum);
+
+    dialogs.nextColor = QColor(0, 200, 0);
+    widget->MenuCommand(IDM_CHANGE_FOREGROUND);
+    EXPECT_TRUE(HasColor(widget->grab().toImage(), QColor(0, 200, 0)));
+    dialogs.nextColor = QColor(0, 0, 90);
+    widget->MenuCommand(IDM_CHANGE_BACKGROUND);
+    EXPECT_EQ(window.GetBkColor(), MakeRgb(0, 0, 90));
+    dialogs.nextFont = widget->CurrentFont();
+    dialogs.nextFont.setPixelSize(2 * lineHeight + 4);
+    widget->MenuCommand(IDM_CHANGE_FONT);
+    EXPECT_GT(window.GetLineHeight(), lineHeight);
+    EXPECT_EQ(window.GetFont().lfHeight, -(2 * lineHeight + 4));
+
+    LogFontRecord record;
+    record.lfHeight = -15;
+    record.lfWeight = 700;
+    record.lfItalic = 1;
+    std::strcpy(record.lfFaceName, "DejaVu Sans Mono");
+    const LogFontRecord back = RecordFromFont(FontFromRecord(record));
+    EXPECT_EQ(back.lfHeight, -15);
+    EXPECT_EQ(back.lfWeight, 700);
+    EXPECT_EQ(back.lfItalic, 1);
+    EXPECT_STREQ(back.lfFaceName, "DejaVu Sans Mono");
 }
 
 // A burst of text costs one later paint; unbuffered updates paint each text at once.
@@ -135,36 +154,6 @@ TEST_F(WidgetTest, BufferedUpdatesDecideWhenTextIsPainted)
         QTest::qWait(100);
         EXPECT_EQ(counter.paints, buffered ? 1 : 200);
     }
-}
-
-TEST_F(WidgetTest, AppearanceCommandsUseTheGivenDialogs)
-{
-    auto widget = Make();
-    AnsiWindow& window = widget->Window();
-    window.AppendText("MMMM");
-    dialogs.nextColor = QColor(0, 200, 0);
-    widget->MenuCommand(IDM_CHANGE_FOREGROUND);
-    EXPECT_TRUE(HasColor(widget->grab().toImage(), QColor(0, 200, 0)));
-    dialogs.nextColor = QColor(0, 0, 90);
-    widget->MenuCommand(IDM_CHANGE_BACKGROUND);
-    EXPECT_EQ(window.GetBkColor(), MakeRgb(0, 0, 90));
-    const std::int32_t before = window.GetLineHeight();
-    dialogs.nextFont = widget->CurrentFont();
-    dialogs.nextFont.setPixelSize(2 * before + 4);
-    widget->MenuCommand(IDM_CHANGE_FONT);
-    EXPECT_GT(window.GetLineHeight(), before);
-    EXPECT_EQ(window.GetFont().lfHeight, -(2 * before + 4));
-
-    LogFontRecord record;
-    record.lfHeight = -15;
-    record.lfWeight = 700;
-    record.lfItalic = 1;
-    std::strcpy(record.lfFaceName, "DejaVu Sans Mono");
-    const LogFontRecord back = RecordFromFont(FontFromRecord(record));
-    EXPECT_EQ(back.lfHeight, -15);
-    EXPECT_EQ(back.lfWeight, 700);
-    EXPECT_EQ(back.lfItalic, 1);
-    EXPECT_STREQ(back.lfFaceName, "DejaVu Sans Mono");
 }
 
 TEST_F(WidgetTest, InATextAreaTheSubWindowCarriesPlacementTitleAndActivity)
