@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <random>
+
 namespace steward {
 namespace {
 
@@ -84,95 +86,68 @@ TEST_F(ColorDecodingTest, TokensAcrossLinesBlocksAndTheLineLimit)
               (Lines{text + "\212", "xyU\r\n"}));
 }
 
-struct LineCase {
-    const char* name;
-    Lines blocks;
-    Lines held;    // delivered with HoldPartialLines on
-    Lines notHeld; // delivered with HoldPartialLines off
-};
-
-std::string Bytes(const char* text, std::size_t length)
+// What the decoder hands on, byte by byte: reads of at most RECEIVE_CHUNK_MAX bytes, each up to
+// its first NUL; a line ends after LF or at LINE_BUFFER_SIZE bytes and, unless partial lines are
+// held, at the end of each read; bit seven is cleared.
+Lines ModelLines(const Lines& reads, bool hold)
 {
-    return {text, length};
+    Lines lines;
+    std::string line;
+    const auto deliver = [&] {
+        lines.push_back(line);
+        line.clear();
+    };
+    for (const std::string& read : reads) {
+        for (std::size_t at = 0; at == 0 || at < read.size(); at += RECEIVE_CHUNK_MAX) {
+            const std::string block = read.substr(at, RECEIVE_CHUNK_MAX);
+            for (const char c : block.substr(0, block.find('\0'))) {
+                line += static_cast<char>(c & 0x7F);
+                if (c == '\n' || line.size() == LINE_BUFFER_SIZE)
+                    deliver();
+            }
+            if (!hold && !line.empty())
+                deliver();
+        }
+    }
+    return lines;
 }
 
-// Cuts a stream into blocks as a socket delivering 1024 bytes a read would.
-Lines Cut(const std::string& stream)
+TEST(LineAssembly, LinesEndAtLineFeedTheLimitOrTheReadUnlessHeld)
 {
-    Lines blocks;
-    for (std::size_t at = 0; at < stream.size(); at += 1024)
-        blocks.push_back(stream.substr(at, 1024));
-    return blocks;
-}
-
-using LineAssemblyTest = testing::DecoderTest;
-
-const std::string A1024(1024, 'a');
-const std::string A4096(4096, 'a');
-const std::string A4097(4097, 'a');
-
-const LineCase LINE_CASES[] = {
-    {"several lines in one block",
-     {"a\r\nb\r\nc\r\n"},
-     {"a\r\n", "b\r\n", "c\r\n"},
-     {"a\r\n", "b\r\n", "c\r\n"}},
-    {"line cut by a block end",
-     {"You se", "e a tree.\n"},
-     {"You see a tree.\n"},
-     {"You se", "e a tree.\n"}},
-    {"prompt without line end", {">"}, {}, {">"}},
-    {"LF ends a line, CR stays in the text",
-     {"a\n\rb\r\n"},
-     {"a\n", "\rb\r\n"},
-     {"a\n", "\rb\r\n"}},
-    {"bare CR ends nothing", {"a\rb\n"}, {"a\rb\n"}, {"a\rb\n"}},
-    {"empty lines", {"\n\n"}, {"\n", "\n"}, {"\n", "\n"}},
-    {"NUL drops the rest of the block", {Bytes("ab\ncd\0ef\ngh\n", 13)}, {"ab\n"}, {"ab\n", "cd"}},
-    {"NUL first drops the whole block", {Bytes("\0ab\n", 4), "c\n"}, {"c\n"}, {"c\n"}},
-    {"held bytes join the next block",
-     {Bytes("ab\ncd\0x\n", 8), "ef\n"},
-     {"ab\n", "cdef\n"},
-     {"ab\n", "cd", "ef\n"}},
-    {"empty block", {""}, {}, {}},
-    {"4096 bytes and LF make one line",
-     Cut(A4096 + "\nb\n"),
-     {A4096 + "\n", "b\n"},
-     {A1024, A1024, A1024, A1024, "\n", "b\n"}},
-    {"4097 bytes make one line", Cut(A4097), {A4097}, {A1024, A1024, A1024, A1024, "a"}},
-    {"byte 4098 starts a new line",
-     Cut(A4097 + "b\n"),
-     {A4097, "b\n"},
-     {A1024, A1024, A1024, A1024, "ab\n"}},
-    {"LF behind 4097 bytes is a line of its own",
-     Cut(A4097 + "\n"),
-     {A4097, "\n"},
-     {A1024, A1024, A1024, A1024, "a\n"}},
-    {"long line is cut again and again",
-     Cut(std::string(8194, 'a') + "\n"),
-     {A4097, A4097, "\n"},
-     {A1024, A1024, A1024, A1024, A1024, A1024, A1024, A1024, "aa\n"}},
-};
-
-TEST_F(LineAssemblyTest, LinesEndAtLineFeedTheLimitOrTheBlockUnlessHeld)
-{
-    for (const LineCase& c : LINE_CASES) {
-        for (const bool hold : {true, false}) {
-            testing::RecordingSink fresh;
-            StreamDecoder local{fresh, dump, settings};
-            local.SetHoldPartialLines(hold);
-            for (const std::string& block : c.blocks)
-                local.HandleSocketEvent(block.data(), block.size());
-            EXPECT_EQ(fresh.lines, hold ? c.held : c.notHeld)
-                << c.name << (hold ? " (held)" : " (not held)");
+    // Runs of text just below, at and beyond the line limit, and line feeds right behind them.
+    const std::size_t runs[] = {LINE_BUFFER_SIZE - 2, LINE_BUFFER_SIZE - 1, LINE_BUFFER_SIZE,
+                                2 * LINE_BUFFER_SIZE};
+    const std::string pieces[] = {"a", "b\n", "\r", "\n", std::string(1, '\0'), "\xC1"};
+    for (unsigned seed = 1; seed <= 300; ++seed) {
+        std::mt19937 random(seed);
+        Lines reads(1 + random() % 12);
+        for (std::string& read : reads) {
+            for (unsigned n = random() % 7; n > 0; --n) {
+                if (random() % 4 == 0)
+                    read.append(random() % 2 ? runs[random() % 4] : random() % 3000, 'a');
+                else
+                    read += pieces[random() % std::size(pieces)];
+            }
+        }
+        for (const bool hold : {false, true}) {
+            SCOPED_TRACE(::testing::Message() << "seed " << seed << (hold ? " held" : ""));
+            testing::RecordingSink sink;
+            PacketDump dump;
+            Settings settings;
+            StreamDecoder decoder{sink, dump, settings};
+            decoder.SetHoldPartialLines(hold);
+            for (const std::string& read : reads)
+                decoder.HandleSocketEvent(read.data(), read.size());
+            EXPECT_EQ(sink.lines, ModelLines(reads, hold));
         }
     }
 }
 
-// An overlong read is taken as several blocks; the read size stays within the receive buffer.
+using LineAssemblyTest = testing::DecoderTest;
+
+// The read size stays within the receive buffer.
 TEST_F(LineAssemblyTest, ReadSizes)
 {
-    EXPECT_EQ(Receive({std::string(RECEIVE_CHUNK_MAX + 10, 'a')}, false),
-              (Lines{std::string(RECEIVE_CHUNK_MAX, 'a'), std::string(10, 'a')}));
     const std::pair<std::int32_t, std::size_t> sizes[] = {{1024, 1024}, {256, 256}, {2048, 2048},
                                                           {5000, 2048}, {100, 256}, {-1, 256}};
     for (const auto& [asked, used] : sizes) {

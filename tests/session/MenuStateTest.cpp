@@ -6,120 +6,83 @@
 #include <gtest/gtest.h>
 
 #include <cstring>
+#include <random>
 #include <utility>
 
 namespace steward {
 namespace {
 
-MenuItemState After(const MenuInputs& inputs, int command)
+// A seeded walk over the live state: each item follows its inputs, and "Stop Script" keeps what
+// it showed while a recording runs; items that no rule names stay enabled and unchecked.
+TEST(MenuState, ItemsFollowTheLiveStateStepByStep)
 {
+    bool MenuInputs::*const flags[] = {&MenuInputs::AutoArrange,
+                                       &MenuInputs::AutoLog,
+                                       &MenuInputs::LogOpen,
+                                       &MenuInputs::Disconnected,
+                                       &MenuInputs::Replay,
+                                       &MenuInputs::CommandLineHasSelection,
+                                       &MenuInputs::ActiveChildHasSelection,
+                                       &MenuInputs::ClipboardHasText,
+                                       &MenuInputs::GameWindowOpen,
+                                       &MenuInputs::ThoughtWindowOpen,
+                                       &MenuInputs::ArrivalWindowOpen,
+                                       &MenuInputs::Recording,
+                                       &MenuInputs::ScriptRunning};
+    std::mt19937 random(11);
     MenuState state;
-    state.Update(inputs);
-    return state.Of(command);
-}
-
-// Each flag of the live state, off and on, sets the check or the grey of its items.
-TEST(MenuState, ItemsFollowTheirFlag)
-{
-    const struct {
-        bool MenuInputs::*flag;
-        int command;
-        bool MenuItemState::*shown;
-        bool whenOn;
-    } cases[] = {
-        {&MenuInputs::AutoArrange, CMD_AUTO_ARRANGE, &MenuItemState::Checked, true},
-        {&MenuInputs::AutoLog, CMD_AUTO_LOG, &MenuItemState::Checked, true},
-        {&MenuInputs::Disconnected, CMD_CONNECT, &MenuItemState::Enabled, true},
-        {&MenuInputs::Disconnected, CMD_RESET_STEWARD_MODE, &MenuItemState::Enabled, false},
-        {&MenuInputs::LogOpen, CMD_OPEN_LOG, &MenuItemState::Enabled, false},
-        {&MenuInputs::LogOpen, CMD_CLOSE_LOG, &MenuItemState::Enabled, true},
-        {&MenuInputs::GameWindowOpen, CMD_OPEN_GAME_WINDOW, &MenuItemState::Enabled, false},
-        {&MenuInputs::ThoughtWindowOpen, CMD_OPEN_THOUGHT_WINDOW, &MenuItemState::Enabled, false},
-        {&MenuInputs::ArrivalWindowOpen, CMD_OPEN_ARRIVAL_WINDOW, &MenuItemState::Enabled, false},
-    };
-    for (const auto& c : cases) {
-        for (bool on : {false, true}) {
-            MenuInputs in;
-            in.*c.flag = on;
-            EXPECT_EQ(After(in, c.command).*c.shown, on == c.whenOn) << c.command << " " << on;
+    bool stopScript = true;
+    for (int step = 0; step < 3000; ++step) {
+        SCOPED_TRACE(::testing::Message() << "seed 11 step " << step);
+        MenuInputs in;
+        for (bool MenuInputs::*flag : flags)
+            in.*flag = random() % 2 != 0;
+        in.DisplayMode = static_cast<std::uint8_t>(random() % 4);
+        state.Update(in);
+        stopScript = in.Recording ? stopScript : in.ScriptRunning;
+        const bool idle = !in.Recording && !in.ScriptRunning;
+        const struct {
+            int command;
+            bool enabled;
+            bool checked;
+        } items[] = {
+            {CMD_AUTO_ARRANGE, true, in.AutoArrange},
+            {CMD_AUTO_LOG, true, in.AutoLog},
+            {CMD_OPEN_LOG, !in.LogOpen, false},
+            {CMD_CLOSE_LOG, in.LogOpen, false},
+            {CMD_GRAPHICS_AT_TOP, true, in.DisplayMode == 0},
+            {CMD_GRAPHICS_AT_BOTTOM, true, in.DisplayMode == 1},
+            {CMD_FULL_SCREEN, true, in.DisplayMode == 2},
+            {CMD_CONNECT, in.Disconnected && !in.Replay, false},
+            {CMD_RESET_STEWARD_MODE, !in.Disconnected, false},
+            {CMD_CUT, in.CommandLineHasSelection, false},
+            {CMD_CLEAR, in.CommandLineHasSelection, false},
+            {CMD_COPY, in.CommandLineHasSelection || in.ActiveChildHasSelection, false},
+            {CMD_PASTE, in.ClipboardHasText, false},
+            {CMD_OPEN_GAME_WINDOW, !in.GameWindowOpen, false},
+            {CMD_OPEN_THOUGHT_WINDOW, !in.ThoughtWindowOpen, false},
+            {CMD_OPEN_ARRIVAL_WINDOW, !in.ArrivalWindowOpen, false},
+            {CMD_EXECUTE_SCRIPT, idle, false},
+            {CMD_RECORD_SCRIPT, idle, false},
+            {CMD_EDIT_SCRIPT, idle, false},
+            {CMD_STOP_SCRIPT, stopScript, false},
+            {CMD_STOP_RECORDING, in.Recording && !in.ScriptRunning, false},
+            {CMD_CREATE_SCRIPT, true, false},
+            {CMD_HIGHLIGHT_STRINGS, true, false},
+            {CMD_MACRO_KEYS, true, false},
+            {CMD_COPY_TO_COMMAND_LINE, true, false},
+            {CMD_ABOUT, true, false},
+            {CMD_OPTIONS, true, false},
+            {CMD_NEW_CHARACTER, true, false},
+            {CMD_HOME_PAGE, true, false},
+            {CMD_INFO_GENERAL, true, false},
+            {CMD_EXIT, true, false},
+        };
+        for (const auto& item : items) {
+            EXPECT_EQ(state.Of(item.command).Enabled, item.enabled) << item.command;
+            EXPECT_EQ(state.Of(item.command).Checked, item.checked) << item.command;
         }
     }
-}
-
-TEST(MenuState, OneDisplayModeIsChecked)
-{
-    const int items[] = {CMD_GRAPHICS_AT_TOP, CMD_GRAPHICS_AT_BOTTOM, CMD_FULL_SCREEN};
-    for (std::uint8_t mode = 0; mode < 3; ++mode) {
-        MenuInputs in;
-        in.DisplayMode = mode;
-        for (int i = 0; i < 3; ++i)
-            EXPECT_EQ(After(in, items[i]).Checked, i == mode) << int(mode) << " " << items[i];
-    }
-}
-
-struct EditCase {
-    bool lineSelection;
-    bool childSelection;
-    bool clipboard;
-    bool cut;
-    bool copy;
-    bool paste;
-};
-
-TEST(MenuState, EditItemsFollowSelectionsAndClipboard)
-{
-    const EditCase cases[] = {
-        {false, false, false, false, false, false}, {true, false, false, true, true, false},
-        {false, true, false, false, true, false},   {false, false, true, false, false, true},
-        {true, true, true, true, true, true},
-    };
-    for (const EditCase& c : cases) {
-        MenuInputs in;
-        in.CommandLineHasSelection = c.lineSelection;
-        in.ActiveChildHasSelection = c.childSelection;
-        in.ClipboardHasText = c.clipboard;
-        EXPECT_EQ(After(in, CMD_CUT).Enabled, c.cut);
-        EXPECT_EQ(After(in, CMD_CLEAR).Enabled, c.cut);
-        EXPECT_EQ(After(in, CMD_COPY).Enabled, c.copy);
-        EXPECT_EQ(After(in, CMD_PASTE).Enabled, c.paste);
-    }
-}
-
-struct ScriptMenuCase {
-    bool recording;
-    bool running;
-    bool start; // 951, 952 and 953
-    bool stopScript;
-    bool stopRecording;
-};
-
-TEST(MenuState, ScriptItemsKeepARunningScriptAndARecordingApart)
-{
-    const ScriptMenuCase cases[] = {
-        {false, false, true, false, false},
-        {true, false, false, false, true},
-        {false, true, false, true, false},
-    };
-    MenuState state;
-    for (const ScriptMenuCase& c : cases) {
-        MenuInputs in;
-        in.Recording = c.recording;
-        in.ScriptRunning = c.running;
-        state.Update(in);
-        for (int command : {CMD_EXECUTE_SCRIPT, CMD_RECORD_SCRIPT, CMD_EDIT_SCRIPT})
-            EXPECT_EQ(state.Of(command).Enabled, c.start) << command;
-        EXPECT_EQ(state.Of(CMD_STOP_SCRIPT).Enabled, c.stopScript);
-        EXPECT_EQ(state.Of(CMD_STOP_RECORDING).Enabled, c.stopRecording);
-        EXPECT_TRUE(state.Of(CMD_CREATE_SCRIPT).Enabled);
-    }
-}
-
-TEST(MenuState, ItemsWithoutARuleAreEnabled)
-{
-    MenuInputs in;
-    for (int command : {CMD_HIGHLIGHT_STRINGS, CMD_MACRO_KEYS, CMD_COPY_TO_COMMAND_LINE, CMD_ABOUT,
-                        CMD_OPTIONS, CMD_NEW_CHARACTER, CMD_HOME_PAGE, CMD_INFO_GENERAL, CMD_EXIT})
-        EXPECT_TRUE(After(in, command).Enabled) << command;
 }
 
 // The Info menu's items send their words as if typed; any other command sends nothing.

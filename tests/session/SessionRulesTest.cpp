@@ -5,6 +5,8 @@
 
 #include <gtest/gtest.h>
 
+#include <random>
+
 #include <set>
 #include <string>
 #include <vector>
@@ -76,43 +78,41 @@ class RecordingSender : public RestSender {
     std::vector<std::string> sent;
 };
 
-void Tick(RestState& rest, RecordingSender& sender, int times)
+// A seeded walk of entering, leaving and ticks: every hundred and twenty-first tick since a
+// rest began or last sent sends "exper" and, unless the rest is silent, a snore; a rest that
+// was left sends nothing.
+TEST(RestMode, SendsOnEveryHundredAndTwentyFirstTickOfARest)
 {
-    for (int i = 0; i < times; ++i)
-        rest.OnTimer(sender);
-}
-
-// Resting sends on the hundred and twenty-first tick, a silent rest only asks for experience,
-// entering again starts the count afresh, and nothing is sent when not resting.
-TEST(RestMode, SendsOnTheHundredAndTwentyFirstTick)
-{
+    std::mt19937 random(5);
     RestState rest;
     RecordingSender sender;
-    rest.Enter(false);
-    Tick(rest, sender, 120);
-    EXPECT_TRUE(sender.sent.empty());
-    Tick(rest, sender, 1);
-    EXPECT_EQ(sender.sent, (std::vector<std::string>{"exper", "act snores softly"}));
-    Tick(rest, sender, 120);
-    EXPECT_EQ(sender.sent.size(), 2u);
-    Tick(rest, sender, 1);
-    EXPECT_EQ(sender.sent.size(), 4u);
-
-    sender.sent.clear();
-    rest.Enter(true);
-    Tick(rest, sender, 121);
-    EXPECT_EQ(sender.sent, (std::vector<std::string>{"exper"}));
-
-    sender.sent.clear();
-    rest.Enter(false);
-    Tick(rest, sender, 100);
-    rest.Enter(false);
-    Tick(rest, sender, 100);
-    EXPECT_TRUE(sender.sent.empty());
-    EXPECT_TRUE(rest.Leave());
-    Tick(rest, sender, 500);
-    EXPECT_TRUE(sender.sent.empty());
-    EXPECT_FALSE(rest.Leave());
+    std::vector<std::string> expected;
+    bool resting = false;
+    bool silent = false;
+    int ticks = 0;
+    for (int step = 0; step < 2000; ++step) {
+        SCOPED_TRACE(::testing::Message() << "seed 5 step " << step);
+        if (const unsigned event = random() % 4; event == 0) {
+            silent = random() % 2 != 0;
+            rest.Enter(silent);
+            resting = true;
+            ticks = 0;
+        } else if (event == 1) {
+            EXPECT_EQ(rest.Leave(), resting);
+            resting = false;
+        } else {
+            for (unsigned n = random() % 250; n > 0; --n) {
+                rest.OnTimer(sender);
+                if (resting && ++ticks == 121) {
+                    ticks = 0;
+                    expected.emplace_back("exper");
+                    if (!silent)
+                        expected.emplace_back("act snores softly");
+                }
+            }
+        }
+        ASSERT_EQ(sender.sent, expected);
+    }
 }
 
 enum Event { DROP_ON, DROP_OFF, FAIL, QUIT, CONNECTED, BY_HAND };

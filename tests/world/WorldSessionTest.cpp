@@ -10,7 +10,9 @@
 
 namespace {
 
-TEST(WorldLogin, AsksForANameShowsTheFirstRoomAndRefusesBadAndTakenNames)
+// Mara logs in; a bad and a taken name are refused; Corwin comes, is heard, seen and leaves by
+// quit, and Ysolde leaves by a drop.
+TEST(WorldLogin, NamesRoomsSpeechAndDepartures)
 {
     TestWorld world;
     ASSERT_NE(world.port, 0);
@@ -21,30 +23,16 @@ TEST(WorldLogin, AsksForANameShowsTheFirstRoomAndRefusesBadAndTakenNames)
     EXPECT_TRUE(room.contains("Well met, Mara."));
     EXPECT_TRUE(room.contains("[Thornmere, Market Square]"));
     EXPECT_TRUE(room.contains("Obvious exits: north, east, south, west, southeast.\r\n>"));
-    TestClient other(world.port);
-    other.ReadUntil("known? ");
-    other.Send("x");
-    EXPECT_FALSE(other.ReadUntil("two to sixteen letters").isEmpty());
-    other.Send("MARA");
-    EXPECT_FALSE(other.ReadUntil("already walks these streets").isEmpty());
-}
+    TestClient corwin(world.port);
+    corwin.ReadUntil("known? ");
+    corwin.Send("x");
+    EXPECT_FALSE(corwin.ReadUntil("two to sixteen letters").isEmpty());
+    corwin.Send("MARA");
+    EXPECT_FALSE(corwin.ReadUntil("already walks these streets").isEmpty());
+    corwin.Send("Corwin");
+    corwin.ReadUntil("Obvious exits:");
+    mara.ReadUntil(" ** Corwin just arrived in the world.\r\n>");
 
-class TwoPlayers : public ::testing::Test {
-  protected:
-    void SetUp() override
-    {
-        mara.Login("Mara");
-        corwin.Login("Corwin");
-        mara.ReadUntil(" ** Corwin just arrived in the world.\r\n>");
-    }
-
-    TestWorld world;
-    TestClient mara{world.port};
-    TestClient corwin{world.port};
-};
-
-TEST_F(TwoPlayers, HearEachOtherSeeEachOtherAndSeeADepartureByQuitOrDrop)
-{
     const std::pair<const char*, QByteArray> cases[] = {
         {"say Good morning", "\x1b"
                              "100Corwin says, \"Good morning\"\x1b"
@@ -78,30 +66,20 @@ TEST_F(TwoPlayers, HearEachOtherSeeEachOtherAndSeeADepartureByQuitOrDrop)
     EXPECT_FALSE(mara.ReadUntil(" ** Ysolde has left the world unexpectedly.\r\n").isEmpty());
 }
 
-class StatusMode : public ::testing::Test {
-  protected:
-    void SetUp() override
-    {
-        mara.Login("Mara");
-        mara.Send("Set Steward On");
-    }
-
-    // The next status record the player receives.
-    QByteArray NextRecord()
-    {
-        mara.ReadUntil("\x1b\x1b");
-        return "\x1b\x1b" + mara.ReadUntil("\x1b\r\n");
-    }
-
+// Every prompt becomes a full record on its own line, which follows posture, weapon and shield
+// and, after an attack, the round time; the health lines and rest use the vitals phrases.
+// Whatever ends an answer or a notice, no line of a bare ">" comes before a record.
+TEST(StatusMode, EveryPromptBecomesARecordThatFollowsTheBodyAndTheFight)
+{
     TestWorld world;
     TestClient mara{world.port};
-};
-
-// Every prompt becomes a full record on its own line, which follows posture, weapon and shield;
-// the health lines and rest use the vitals phrases.
-TEST_F(StatusMode, EveryPromptBecomesARecordThatFollowsTheBody)
-{
-    const QByteArray record = NextRecord();
+    mara.Login("Mara");
+    mara.Send("Set Steward On");
+    const auto nextRecord = [&] {
+        mara.ReadUntil("\x1b\x1b");
+        return "\x1b\x1b" + mara.ReadUntil("\x1b\r\n");
+    };
+    const QByteArray record = nextRecord();
     ASSERT_GE(record.size(), 70);
     EXPECT_EQ(record.at(2), '>');
     EXPECT_EQ(record.mid(3, 8), "00640064");
@@ -116,7 +94,7 @@ TEST_F(StatusMode, EveryPromptBecomesARecordThatFollowsTheBody)
     };
     for (const auto& [command, flags] : steps) {
         mara.Send(command);
-        EXPECT_EQ(NextRecord().mid(61, 3), flags) << command;
+        EXPECT_EQ(nextRecord().mid(61, 3), flags) << command;
     }
     mara.Send("health");
     const QByteArray health = mara.ReadUntil("\x1b\x1b");
@@ -127,52 +105,42 @@ TEST_F(StatusMode, EveryPromptBecomesARecordThatFollowsTheBody)
     const QByteArray rest = mara.ReadUntil("\x1b\x1b");
     EXPECT_TRUE(rest.contains(" ** You are fully healed.\r\n"));
     EXPECT_TRUE(rest.contains(" ** You are fully rested.\r\n"));
-}
+    mara.ReadUntil("\x1b\r\n");
 
-TEST_F(StatusMode, AttackGivesADelayLineAndRoundTimeInTheRecord)
-{
-    NextRecord();
+    TestClient corwin{world.port};
+    const std::pair<const char*, std::function<void()>> cases[] = {
+        {"an empty line", [&] { mara.Send(""); }},
+        {"an unknown command", [&] { mara.Send("xyzzy"); }},
+        {"another player's arrival", [&] { corwin.Login("Corwin"); }},
+        {"another player's speech", [&] { corwin.Send("say Hello there"); }},
+        {"a move", [&] { mara.Send("n"); }},
+        {"a move back", [&] { mara.Send("s"); }},
+    };
+    for (const auto& [what, act] : cases) {
+        act();
+        const QByteArray told = mara.ReadUntil("\x1b\x1b");
+        ASSERT_FALSE(told.isEmpty()) << what;
+        mara.ReadUntil("\x1b\r\n");
+        EXPECT_FALSE(told.startsWith(">\r\n") || told.contains("\n>\r\n") ||
+                     told.endsWith(">\x1b\x1b"))
+            << what << ": " << told.constData();
+    }
+
     mara.Send("ready saber");
-    NextRecord();
-    mara.Send("down");
+    nextRecord();
     mara.Send("w");
-    NextRecord();
-    NextRecord();
+    nextRecord();
     mara.Send("d");
     EXPECT_TRUE(mara.ReadUntil("\x1b\x1b").contains("[Thornmere, Old Cellar]"));
     mara.ReadUntil("\x1b\r\n");
     mara.Send("attack rat");
     const QByteArray fight = mara.ReadUntil("\x1b\x1b");
     EXPECT_TRUE(fight.contains("\r\n[3 sec. delay]\r\n")) << fight.constData();
-    const QByteArray record = "\x1b\x1b" + mara.ReadUntil("\x1b\r\n");
-    EXPECT_GT(record.mid(StatusRoundTimeOffset, 2).toInt(nullptr, 16), 1);
+    EXPECT_GT(
+        ("\x1b\x1b" + mara.ReadUntil("\x1b\r\n")).mid(StatusRoundTimeOffset, 2).toInt(nullptr, 16),
+        1);
     mara.Send("attack rat");
     EXPECT_TRUE(mara.ReadUntil("\x1b\x1b").contains("...wait "));
-}
-
-// The record carries the prompt: whatever ends an answer or a notice, no line of a bare ">"
-// comes before it.
-TEST_F(StatusMode, NoBarePromptLineComesBeforeARecord)
-{
-    NextRecord();
-    TestClient corwin{world.port};
-    const std::pair<const char*, std::function<void()>> cases[] = {
-        {"a command", [&] { mara.Send("look"); }},
-        {"an empty line", [&] { mara.Send(""); }},
-        {"an unknown command", [&] { mara.Send("xyzzy"); }},
-        {"another player's arrival", [&] { corwin.Login("Corwin"); }},
-        {"another player's speech", [&] { corwin.Send("say Hello there"); }},
-        {"a move", [&] { mara.Send("n"); }},
-    };
-    for (const auto& [what, act] : cases) {
-        act();
-        const QByteArray answer = mara.ReadUntil("\x1b\x1b");
-        ASSERT_FALSE(answer.isEmpty()) << what;
-        mara.ReadUntil("\x1b\r\n");
-        EXPECT_FALSE(answer.startsWith(">\r\n") || answer.contains("\n>\r\n") ||
-                     answer.endsWith(">\x1b\x1b"))
-            << what << ": " << answer.constData();
-    }
 }
 
 TEST(WorldInput, SurvivesGarbageAndStillAnswers)
