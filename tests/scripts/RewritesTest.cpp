@@ -8,73 +8,44 @@
 namespace steward {
 namespace {
 
-struct RewriteCase {
-    std::string input;
-    std::string output;
-};
-
-void PrintTo(const RewriteCase& c, std::ostream* out)
+TEST(RewritesTest, ContactTakesNameColonMessageAndDragTakesMoves)
 {
-    *out << ::testing::PrintToString(c.input) << " becomes " << ::testing::PrintToString(c.output);
-}
-
-std::string Contact(const std::string& text)
-{
-    char buffer[512];
-    std::strcpy(buffer, text.c_str());
-    ContactRewrite(buffer, sizeof buffer);
-    return buffer;
-}
-
-std::string Drag(const std::string& text, const char* target)
-{
-    char buffer[512];
-    std::strcpy(buffer, text.c_str());
-    DragRewrite(buffer, sizeof buffer, target);
-    return buffer;
-}
-
-class ContactRewriteTest : public ::testing::TestWithParam<RewriteCase> {};
-
-TEST_P(ContactRewriteTest, RewritesNameColonMessage)
-{
-    EXPECT_EQ(Contact(GetParam().input), GetParam().output);
-}
-
-INSTANTIATE_TEST_SUITE_P(
-    Cases, ContactRewriteTest,
-    ::testing::Values(RewriteCase{"bob:hi there", "contact bob hi there"},
-                      RewriteCase{":hi", "contact  hi"}, RewriteCase{"12:30", "contact 12 30"},
-                      RewriteCase{"bob:", "contact bob "}, RewriteCase{"bob :hi", "bob :hi"},
-                      RewriteCase{".cmd a:b", ".cmd a:b"}, RewriteCase{"look", "look"},
-                      RewriteCase{"", ""},
-                      RewriteCase{std::string(25, 'x') + ":m",
-                                  "contact " + std::string(25, 'x') + " m"},
-                      RewriteCase{std::string(26, 'x') + ":m", std::string(26, 'x') + ":m"}));
-
-TEST(ContactRewriteLimit, CutsAtTheBufferEnd)
-{
+    const std::string x25(25, 'x'), x26(26, 'x');
+    // target "" is the contact rewrite, else the drag rewrite with that target
+    const struct {
+        const char* target;
+        std::string input, output;
+    } rows[] = {{"", "bob:hi there", "contact bob hi there"},
+                {"", ":hi", "contact  hi"},
+                {"", "12:30", "contact 12 30"},
+                {"", "bob:", "contact bob "},
+                {"", "bob :hi", "bob :hi"},
+                {"", ".cmd a:b", ".cmd a:b"},
+                {"", "look", "look"},
+                {"", "", ""},
+                {"", x25 + ":m", "contact " + x25 + " m"},
+                {"", x26 + ":m", x26 + ":m"},
+                {"bob", "n", "drag bob n"},
+                {"bob", "N now", "drag bob N now"},
+                {"bob", "SouthWest", "drag bob SouthWest"},
+                {"bob", "nod", "nod"},
+                {"bob", "drag bob n", "drag bob n"},
+                {"bob", "", ""}};
+    for (const auto& row : rows) {
+        char buffer[512];
+        std::strcpy(buffer, row.input.c_str());
+        if (*row.target)
+            DragRewrite(buffer, sizeof buffer, row.target);
+        else
+            ContactRewrite(buffer, sizeof buffer);
+        EXPECT_EQ(buffer, row.output) << row.target << " " << row.input;
+    }
     char buffer[16] = "bob:0123456789";
     ContactRewrite(buffer, sizeof buffer);
-    EXPECT_STREQ(buffer, "contact bob 012");
-}
-
-class DragRewriteTest : public ::testing::TestWithParam<RewriteCase> {};
-
-TEST_P(DragRewriteTest, DragsTheTargetAlongOnMoves)
-{
-    EXPECT_EQ(Drag(GetParam().input, "bob"), GetParam().output);
-}
-
-INSTANTIATE_TEST_SUITE_P(
-    Cases, DragRewriteTest,
-    ::testing::Values(RewriteCase{"n", "drag bob n"}, RewriteCase{"N now", "drag bob N now"},
-                      RewriteCase{"SouthWest", "drag bob SouthWest"}, RewriteCase{"nod", "nod"},
-                      RewriteCase{"drag bob n", "drag bob n"}, RewriteCase{"", ""}));
-
-TEST(DragRewriteTarget, NoTargetNoRewrite)
-{
-    EXPECT_EQ(Drag("n", ""), "n");
+    EXPECT_STREQ(buffer, "contact bob 012") << "cut at the buffer's end";
+    std::strcpy(buffer, "n");
+    DragRewrite(buffer, sizeof buffer, "");
+    EXPECT_STREQ(buffer, "n") << "no target, no rewrite";
 }
 
 } // namespace
