@@ -1,5 +1,4 @@
 #include "HighlightDoubles.h"
-#include "PlainHighlights.h"
 #include "highlights/HighlightMatcher.h"
 #include "highlights/HighlightStore.h"
 #include "highlights/PatternAutomaton.h"

@@ -1,7 +1,11 @@
+#include "scripts/Rewrites.h"
+#include "scripts/ScriptParameters.h"
+#include "scripts/ScriptRunner.h"
 #include "scripts/Tokenizer.h"
 
 #include <gtest/gtest.h>
 
+#include <cstring>
 #include <string>
 
 namespace steward {
@@ -84,6 +88,83 @@ TEST(TokenizerTest, RestOfLineAndNthToken)
     EXPECT_STREQ(tokenizer.NextToken(), "two");
     EXPECT_EQ(tokenizer.NthToken("x y z", 9), nullptr);
     EXPECT_STREQ(tokenizer.RestOfLine(), "three");
+}
+
+struct SubstituteCase {
+    std::string line;
+    const char* parameters;
+    const char* saved;
+    std::string expanded;
+};
+
+std::string Substitute(const SubstituteCase& c)
+{
+    char line[SCRIPT_LINE_SIZE];
+    std::strcpy(line, c.line.c_str());
+    Tokenizer words;
+    SubstituteParameters(line, sizeof line, {c.parameters, c.saved}, words);
+    return line;
+}
+
+TEST(SubstituteParametersTest, ExpandsEachPercentWordOnce)
+{
+    const std::string long300(300, 'p');
+    const std::string fill(500, 'f');
+    const SubstituteCase cases[] = {
+        {"put %1 %2", "a", "", "put a "},
+        {"put %1|%2", "\"big rat\" 3", "", "put big rat|3"},
+        {"echo %0", "\"big rat\" 3", "", "echo \"big rat\" 3"},
+        {"%1 x", "put y", "", "put x"},
+        {"a%3b%9c", "x y", "", "abc"},
+        {"%s/%S", "", "big\x7frat", "big rat/big rat"},
+        {"%%1 %x 100% %", "v", "", "%v %x 100% %"},
+        {"%1%2", "%2 z", "", "%2z"},
+        {"put %1", long300.c_str(), "", "put " + long300.substr(0, 255)},
+        {fill + "%1 end", "0123456789abcdef", "", fill + "0123456789a"},
+        {fill + "xxxxxxxxx%1", "0123456789", "", fill + "xxxxxxxxx01"},
+    };
+    for (const SubstituteCase& c : cases)
+        EXPECT_EQ(Substitute(c), c.expanded) << c.line.substr(0, 40) << " with " << c.parameters;
+}
+
+TEST(RewritesTest, ContactTakesNameColonMessageAndDragTakesMoves)
+{
+    const std::string x25(25, 'x'), x26(26, 'x');
+    // target "" is the contact rewrite, else the drag rewrite with that target
+    const struct {
+        const char* target;
+        std::string input, output;
+    } rows[] = {{"", "bob:hi there", "contact bob hi there"},
+                {"", ":hi", "contact  hi"},
+                {"", "12:30", "contact 12 30"},
+                {"", "bob:", "contact bob "},
+                {"", "bob :hi", "bob :hi"},
+                {"", ".cmd a:b", ".cmd a:b"},
+                {"", "look", "look"},
+                {"", "", ""},
+                {"", x25 + ":m", "contact " + x25 + " m"},
+                {"", x26 + ":m", x26 + ":m"},
+                {"bob", "n", "drag bob n"},
+                {"bob", "N now", "drag bob N now"},
+                {"bob", "SouthWest", "drag bob SouthWest"},
+                {"bob", "nod", "nod"},
+                {"bob", "drag bob n", "drag bob n"},
+                {"bob", "", ""}};
+    for (const auto& row : rows) {
+        char buffer[512];
+        std::strcpy(buffer, row.input.c_str());
+        if (*row.target)
+            DragRewrite(buffer, sizeof buffer, row.target);
+        else
+            ContactRewrite(buffer, sizeof buffer);
+        EXPECT_EQ(buffer, row.output) << row.target << " " << row.input;
+    }
+    char buffer[16] = "bob:0123456789";
+    ContactRewrite(buffer, sizeof buffer);
+    EXPECT_STREQ(buffer, "contact bob 012") << "cut at the buffer's end";
+    std::strcpy(buffer, "n");
+    DragRewrite(buffer, sizeof buffer, "");
+    EXPECT_STREQ(buffer, "n") << "no target, no rewrite";
 }
 
 } // namespace
