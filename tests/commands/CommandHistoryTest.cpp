@@ -4,6 +4,11 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <deque>
+#include <random>
+#include <sstream>
+
 namespace steward::test {
 namespace {
 
@@ -17,158 +22,154 @@ Strings Entries(const CommandHistory& history)
     return entries;
 }
 
-TEST(CommandHistory, RemembersWhatTheRulesAllow)
-{
-    const struct {
-        int minLength;
-        Strings typed, stored;
-    } rows[] = {{4, {"look", "n", "go", "kill rat"}, {"look", "kill rat"}},
-                {0, {"n", "s"}, {"n", "s"}},
-                {0, {"   ", ""}, {}},
-                {4, {"look", "look"}, {"look"}},
-                {4, {"look", "LOOK"}, {"look", "LOOK"}},
-                {1, {"a", "b", "a"}, {"a", "b", "a"}},
-                {4, {" look", "look"}, {"look"}},
-                {4, {"   n  "}, {}},
-                {4, {"  look  "}, {"look  "}}};
-    for (const auto& row : rows) {
-        CommandHistory history;
-        for (const std::string& text : row.typed)
-            history.RememberCommand(text.c_str(), row.minLength);
-        EXPECT_EQ(Entries(history), row.stored) << ::testing::PrintToString(row.typed);
-        EXPECT_EQ(history.HistoryPosition(), history.Count());
+// The history as a list of strings: the oldest go while the texts with their terminators
+// would reach the capacity.
+struct HistoryModel {
+    std::deque<std::string> entries;
+    int position = 0, drops = 0;
+
+    int Count() const { return static_cast<int>(entries.size()); }
+    std::string At(int index) const { return index >= 0 && index < Count() ? entries[index] : ""; }
+    bool Add(const std::string& text)
+    {
+        std::size_t used = text.size();
+        for (const std::string& entry : entries)
+            used += entry.size() + 1;
+        return used < HISTORY_CAPACITY && (entries.push_back(text), true);
     }
-}
-
-TEST(CommandHistory, TheStoreDropsTheOldestAndRefusesAtItsLimit)
-{
-    CommandHistory history;
-    EXPECT_STREQ(history.EntryAt(0), "");
-    // Entries of 100 bytes with their terminators: 81 fill 8100 of the 8192 bytes.
-    for (int i = 0; i < 81; ++i) {
-        std::string text(99, 'a' + i % 26);
-        text[0] = static_cast<char>('0' + i % 10);
-        history.RememberCommand(text.c_str(), 0);
+    void Remember(std::string text, int minLength)
+    {
+        text.erase(0, std::min(text.find_first_not_of(' '), text.size()));
+        if (text.empty() || static_cast<int>(text.size()) < minLength || At(Count() - 1) == text)
+            return;
+        while (!Add(text))
+            entries.pop_front(), ++drops;
+        position = Count();
     }
-    EXPECT_STREQ(history.EntryAt(81), "");
-    const std::string second = history.EntryAt(1), longText(250, 'z');
-    history.RememberCommand(longText.c_str(), 0);
-    // 8100 + 251 passes the limit: two entries of 100 must go.
-    EXPECT_EQ(history.Count(), 80);
-    EXPECT_NE(std::string(history.EntryAt(0)), second);
-    EXPECT_EQ(history.EntryAt(79), longText);
-    EXPECT_EQ(history.HistoryPosition(), 80);
+};
 
-    CommandHistory added;
-    std::string text(HISTORY_CAPACITY, 'x');
-    EXPECT_FALSE(added.Add(text.c_str()));
-    text.pop_back();
-    EXPECT_TRUE(added.Add(text.c_str()));
-    EXPECT_EQ(added.Count(), 1);
-    added.RemoveAt(0);
-    for (const char* more : {"one", "two", "three"})
-        added.Add(more);
-    added.RemoveAt(1);
-    added.RemoveAt(5);
-    EXPECT_EQ(Entries(added), (Strings{"one", "three"}));
-}
-
-TEST(CommandHistory, BrowsingWalksTheEntriesAndRepeatCountsFromThere)
+TEST(CommandHistory, BehavesAsAListOfStringsUnderRandomUse)
 {
+    std::mt19937 random(19);
+    const char* words[] = {"look", "n", "LOOK", "  look", "   ", "", "kill rat", "  go  "};
     CommandHistory history;
+    HistoryModel model;
     EditLine line;
-    RecordingSink sink;
-    line.text = "typed";
-    history.HistoryPrevious(line);
-    EXPECT_EQ(line.text, "typed") << "nothing to recall";
-    for (const char* text : {"look", "kill rat", "inventory"})
-        history.RememberCommand(text, 4);
-    history.RepeatCommand(1, sink);
-    history.RepeatCommand(2, sink);
-    EXPECT_EQ(sink.sent, (Strings{"inventory", "kill rat"}));
-    history.HistoryPrevious(line);
-    EXPECT_EQ(line.text, "inventory");
-    EXPECT_EQ(line.start, 9);
-    EXPECT_EQ(line.end, 9);
-    history.HistoryPrevious(line);
-    sink = {};
-    history.RepeatCommand(1, sink);
-    history.RepeatCommand(2, sink);
-    EXPECT_EQ(sink.calls, (Strings{"echo look", "send look"})) << "nothing before the oldest";
-    EXPECT_EQ(history.HistoryPosition(), 1);
-    history.HistoryPrevious(line);
-    history.HistoryPrevious(line);
-    EXPECT_EQ(line.text, "look");
-    EXPECT_EQ(history.HistoryPosition(), 0);
-    history.HistoryNext(line);
-    history.HistoryNext(line);
-    history.HistoryNext(line);
-    EXPECT_EQ(line.text, "");
-    EXPECT_EQ(history.HistoryPosition(), 3);
-    line.text = "typed";
-    history.HistoryNext(line);
-    EXPECT_EQ(line.text, "");
-    EXPECT_EQ(history.HistoryPosition(), 3);
+    line.SetText("typed");
+    history.RememberCommand("look", 0);
+    history.RememberCommand("look", 0);
+    ASSERT_EQ(history.Count(), 1) << "the only entry is the newest too";
+    model.Remember("look", 0);
+    for (int step = 0; step < 6000; ++step) {
+        SCOPED_TRACE(::testing::Message() << "seed 19 step " << step);
+        std::string text = words[random() % 8];
+        if (random() % 3 == 0)
+            text =
+                std::string(1 + random() % 3, ' ') + std::string(random() % 250, 'a' + step % 26);
+        const int count = model.Count(), number = static_cast<int>(random() % 6);
+        RecordingSink sink;
+        bool shown = false;
+        switch (random() % 8) {
+        case 0:
+        case 1:
+        case 2:
+            history.RememberCommand(text.c_str(), number);
+            model.Remember(text, number);
+            break;
+        case 3:
+            for (int k = random() % 2 ? 1 : static_cast<int>(random() % 150); k > 0; --k) {
+                shown |= model.position > 0;
+                model.position -= model.position > 0;
+                history.HistoryPrevious(line);
+            }
+            break;
+        case 4:
+            shown = true;
+            model.position = std::min(model.position + 1, count);
+            history.HistoryNext(line);
+            break;
+        case 5: {
+            history.RepeatCommand(number - 1, sink);
+            const std::string sent = model.At(model.position - number + 1);
+            const bool hit = number > 1 && model.position >= number - 1;
+            EXPECT_EQ(sink.calls, (hit ? Strings{"echo " + sent, "send " + sent} : Strings{}));
+            break;
+        }
+        case 6:
+            // Now and then everything goes, so that short histories come often too.
+            for (int k = step % 500 < 10 ? count : 1; k > 0; --k) {
+                const int index = static_cast<int>(random() % (model.Count() + 3)) - 1;
+                history.RemoveAt(index);
+                if (index >= 0 && index < model.Count())
+                    model.entries.erase(model.entries.begin() + index);
+            }
+            break;
+        default:
+            text += std::string(number == 0 ? 8000 : 0, 'w');
+            EXPECT_EQ(history.Add(text.c_str()), model.Add(text));
+            history.ResetHistoryPosition();
+            model.position = model.Count();
+        }
+        ASSERT_EQ(history.Count(), model.Count());
+        ASSERT_EQ(history.HistoryPosition(), model.position);
+        for (int i = step % 8 ? count : 0; i <= history.Count(); ++i)
+            ASSERT_EQ(history.EntryAt(i), model.At(i)) << "entry " << i;
+        EXPECT_EQ(line.text, shown ? model.At(model.position) : "typed");
+        EXPECT_EQ(line.start, shown ? std::min<int>(line.text.size(), HISTORY_CARET_END) : 0);
+        line.SetText("typed");
+    }
+    EXPECT_GT(model.drops, 100) << "the store was full often";
 }
 
-TEST(HistoryFile, FilesLoadWhatTheyCanAndRoundTrip)
+// A saved history loads as its printable lines, each cut to the command line's limit, typed
+// again in order; a long file is read from a line end near its tail.
+HistoryModel LoadedModel(std::string bytes)
+{
+    if (bytes.size() > HISTORY_FILE_TAIL)
+        bytes.erase(0, bytes.find('\n', bytes.size() - HISTORY_FILE_TAIL) + 1);
+    HistoryModel model;
+    std::istringstream in(bytes);
+    for (std::string line; std::getline(in, line);) {
+        if (!line.empty() && line.back() == '\r')
+            line.pop_back();
+        if (std::all_of(line.begin(), line.end(), [](char c) { return c >= 0x20 && c <= 0x7E; }))
+            model.Remember(line.substr(0, COMMAND_LINE_LIMIT), 0);
+    }
+    return model;
+}
+
+TEST(HistoryFile, FilesLoadAsTheirLinesTypedAgainAndRoundTrip)
 {
     testing::TempFolder folder;
     const std::string path = folder.File("Rook.History");
     CommandHistory history;
     history.RememberCommand("from before", 0);
     EXPECT_FALSE(history.LoadHistory(folder.File("Nobody.History")));
-    EXPECT_EQ(Entries(history), Strings{"from before"});
-    for (const char* command : {"look", "north", "say hello there", "look"})
-        history.RememberCommand(command, 0);
-    ASSERT_TRUE(history.SaveHistory(path));
-    CommandHistory read;
-    read.RememberCommand("other", 0);
-    ASSERT_TRUE(read.LoadHistory(path));
-    EXPECT_EQ(Entries(read), Entries(history));
-    EXPECT_EQ(read.HistoryPosition(), read.Count());
-
-    const struct {
-        const char* name;
+    EXPECT_EQ(Entries(history), Strings{"from before"}) << "nothing changed without a file";
+    const std::string longLine(400, 'x'), nul("lo\0ok", 5);
+    const std::string lines[] = {"look", "look",   "  north",  "   ",  "",  "say hello there",
+                                 "LOOK", longLine, "\x1funit", "a\rb", nul, "rub\x7f"};
+    std::mt19937 random(29);
+    for (int round = 0; round < 60; ++round) {
+        SCOPED_TRACE(::testing::Message() << "seed 29 round " << round);
         std::string bytes;
-        Strings entries;
-    } rows[] = {
-        {"empty", "", {}},
-        {"line feeds alone and no last line end", "look\nnorth\nwest", {"look", "north", "west"}},
-        {"binary lines skipped", "look\n\x01\x02\xff\x80garbage\nnorth\r\n", {"look", "north"}},
-        {"a NUL spoils its own line only", std::string("lo\0ok\r\nnorth\r\n", 14), {"north"}},
-        {"a long line cut to the command line's limit",
-         std::string(400, 'x') + "\r\nlook\r\n",
-         {std::string(COMMAND_LINE_LIMIT, 'x'), "look"}},
-        {"repeats and blanks as typed",
-         "look\r\nlook\r\n   \r\n  north\r\nlook\r\n",
-         {"look", "north", "look"}}};
-    for (const auto& row : rows) {
-        SCOPED_TRACE(row.name);
-        testing::WriteBytes(path, row.bytes);
+        for (int n = round % 10 == 9 ? 9000 : static_cast<int>(random() % 12); n > 0; --n)
+            bytes +=
+                (n % 500 ? lines[random() % std::size(lines)] : "command " + std::to_string(n)) +
+                (random() % 2 ? "\r\n" : "\n");
+        if (random() % 3 == 0)
+            bytes += lines[random() % std::size(lines)] + (random() % 2 ? "\r" : "");
+        testing::WriteBytes(path, bytes);
         ASSERT_TRUE(history.LoadHistory(path));
-        EXPECT_EQ(Entries(history), row.entries);
+        const HistoryModel model = LoadedModel(bytes);
+        EXPECT_EQ(Entries(history), Strings(model.entries.begin(), model.entries.end()));
+        EXPECT_EQ(history.HistoryPosition(), history.Count());
+        ASSERT_TRUE(history.SaveHistory(path));
+        std::string saved;
+        for (const std::string& entry : model.entries)
+            saved += entry + "\r\n";
+        EXPECT_EQ(testing::ReadBytes(path), saved);
     }
-}
-
-TEST(HistoryFile, ALongFileKeepsItsNewestWholeEntriesWithinTheStore)
-{
-    testing::TempFolder folder;
-    std::string bytes;
-    for (int i = 0; i < 50000; ++i)
-        bytes += "command number " + std::to_string(i) + "\r\n";
-    testing::WriteBytes(folder.File("Rook.History"), bytes);
-    CommandHistory history;
-    ASSERT_TRUE(history.LoadHistory(folder.File("Rook.History")));
-    const Strings entries = Entries(history);
-    ASSERT_FALSE(entries.empty());
-    EXPECT_EQ(entries.back(), "command number 49999");
-    std::size_t stored = 0;
-    for (const std::string& entry : entries)
-        stored += entry.size() + 1;
-    EXPECT_LT(stored, HISTORY_CAPACITY);
-    EXPECT_GT(stored, HISTORY_CAPACITY - 64);
-    EXPECT_EQ(entries.front().rfind("command number ", 0), 0u);
 }
 
 class EnterRoadTest : public ::testing::Test {

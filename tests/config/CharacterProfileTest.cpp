@@ -130,13 +130,8 @@ TEST_F(ProfileTest, ASettingsValueOfTheWrongLengthStartsTheProfileAfresh)
     EXPECT_TRUE(Load("Rook"));
     EXPECT_STREQ(profile.EquipWeapon, "ready saber");
     EXPECT_EQ(profile.Settings.ToBytes(), Settings{}.ToBytes());
-    std::string hex;
-    for (std::uint8_t byte : Settings{}.ToBytes()) {
-        char digits[3];
-        std::snprintf(digits, sizeof digits, "%02X", byte);
-        hex += digits;
-    }
-    EXPECT_EQ(ReadBytes(path), "[Config]\nSettings=" + hex + "\n");
+    StoreSettings("Fresh", Settings{});
+    EXPECT_EQ(ReadBytes(path), ReadBytes(Dat("Fresh"))) << "the settings alone, as new";
     char equip[EQUIP_COMMAND_SIZE];
     ReadString(path, "Config", "EquipWeapon", equip, sizeof equip, "gone");
     EXPECT_STREQ(equip, "gone");

@@ -291,41 +291,66 @@ TEST(IniFileWrite, EditsKeepEveryOtherLine)
     EXPECT_EQ(ini.Text(), "[S]\nk=one\n") << "a value is cut at its first line break";
 }
 
-TEST(SettingsBytes, DefaultsLandAtTheirOffsetsAndFieldsAreLittleEndian)
+template <std::size_t N> std::string Hex(const std::array<std::uint8_t, N>& bytes)
 {
-    const SettingsBytes b = Settings{}.ToBytes();
-    SettingsBytes expected{};
-    expected[4] = expected[5] = expected[6] = 0xFF; // white text
-    expected[8] = 1;                                // BufferedUpdates
-    expected[12] = 1;                               // ShowCursor
-    expected[13] = 1;                               // AutoArrange
-    expected[14] = '.';                             // CommandPrefix
-    expected[18] = 1;                               // reserved, written as 1
-    expected[20] = 0x00;                            // ReceiveChunkSize 1024
-    expected[21] = 0x04;
-    expected[25] = 1;  // LocalEcho
-    expected[26] = 10; // SaysColor
-    expected[27] = 11; // WhispersColor
-    expected[28] = 40; // ThoughtColor
-    expected[29] = 40; // CompressedThoughtColor
-    expected[36] = 4;  // MinCommandLength
-    EXPECT_EQ(b, expected);
-    SettingsBytes in{};
-    for (std::size_t i = 0; i < in.size(); ++i)
-        in[i] = static_cast<std::uint8_t>(i * 7 + 3);
-    EXPECT_EQ(Settings::FromBytes(in).ToBytes(), in) << "every byte survives a round trip";
-    in = Settings{}.ToBytes();
-    in[0] = 0x11;
-    in[1] = 0x22;
-    in[2] = 0x33;
-    in[20] = 0x88;
-    in[21] = 0x13; // 5000
-    in[36] = 0xFD;
-    in[37] = 0xFF; // -3
+    std::string out;
+    for (std::uint8_t byte : bytes)
+        out += {"0123456789ABCDEF"[byte >> 4], "0123456789ABCDEF"[byte & 15]};
+    return out;
+}
+
+TEST(BinaryRecords, RecordsKeepTheirLayoutAndEveryByteComesBack)
+{
+    // White text, BufferedUpdates, ShowCursor, AutoArrange, '.', a reserved 1, chunks of 1024,
+    // LocalEcho, the says, whispers and thought colours, MinCommandLength 4.
+    EXPECT_EQ(Hex(Settings{}.ToBytes()), "00000000FFFFFF000100000001012E00000001000004000000010A0B"
+                                         "282800000000000004" +
+                                             std::string(2 * 123, '0'));
+    LogFontRecord f;
+    f.lfHeight = -13;
+    f.lfWeight = 700;
+    f.lfItalic = 1;
+    f.lfPitchAndFamily = 0x31;
+    std::memcpy(f.lfFaceName, "Courier New", 12);
+    EXPECT_EQ(Hex(f.ToBytes()), "F3FFFFFF000000000000000000000000BC020000010000000000003143"
+                                "6F7572696572204E6577" +
+                                    std::string(2 * 21, '0'));
+    WindowPlacementRecord p;
+    p.showCmd = 3;
+    p.rcNormalPosition = {10, 20, 630, 470};
+    EXPECT_EQ(Hex(p.ToBytes()), "2C0000000000000003000000" + std::string(32, '0') +
+                                    "0A0000001400000076020000D6010000");
+    GaugeColorBytes g = GaugeColorsToBytes({0x0000FF, 0x00FF00, 0xFF0000});
+    EXPECT_EQ(Hex(g), "FF00000000FF00000000FF00" + std::string(16, '0'));
+    for (std::size_t i = GAUGE_COLOR_USED_SIZE; i < g.size(); ++i)
+        g[i] = 0xAB; // only the first 12 bytes are read
+    EXPECT_EQ(GaugeColorsToBytes(GaugeColorsFromBytes(g)),
+              GaugeColorsToBytes({255, 65280, 0xFF0000}));
+    std::mt19937 random(5);
+    for (int round = 0; round < 100; ++round) {
+        SCOPED_TRACE(round);
+        SettingsBytes settings;
+        LogFontBytes font;
+        WindowPlacementBytes placement;
+        for (auto* bytes : {settings.data(), font.data(), placement.data()})
+            for (std::size_t i = 0; i < WINDOWPLACEMENT_SIZE; ++i)
+                bytes[i] = static_cast<std::uint8_t>(random());
+        for (std::size_t i = WINDOWPLACEMENT_SIZE; i < SETTINGS_SIZE; ++i)
+            settings[i] = static_cast<std::uint8_t>(random());
+        for (std::size_t i = WINDOWPLACEMENT_SIZE; i < LOGFONT_SIZE; ++i)
+            font[i] = static_cast<std::uint8_t>(random());
+        EXPECT_EQ(Settings::FromBytes(settings).ToBytes(), settings);
+        EXPECT_EQ(LogFontRecord::FromBytes(font).ToBytes(), font);
+        EXPECT_EQ(WindowPlacementRecord::FromBytes(placement).ToBytes(), placement);
+    }
+    SettingsBytes in = Settings{}.ToBytes();
+    in[0] = 0x11, in[1] = 0x22, in[2] = 0x33, in[20] = 0x88, in[21] = 0x13, in[36] = 0xFD;
+    in[37] = 0xFF;
     const Settings s = Settings::FromBytes(in);
     EXPECT_EQ(s.DefaultBackColor, 0x332211u);
     EXPECT_EQ(s.ReceiveChunkSize, 5000);
     EXPECT_EQ(s.MinCommandLength, -3);
+    EXPECT_EQ(WindowPlacementRecord::FromBytes(p.ToBytes()).rcNormalPosition.right, 630);
 }
 
 TEST(CheckSettings, BringsLoadedValuesIntoRange)
@@ -351,48 +376,6 @@ TEST(CheckSettings, BringsLoadedValuesIntoRange)
         EXPECT_EQ(s.MinCommandLength, c.wantMinCommandLength) << c.minCommandLength;
         EXPECT_EQ(s.ReceiveChunkSize, c.wantReceiveChunkSize) << c.receiveChunkSize;
     }
-}
-
-TEST(BinaryRecords, FontPlacementAndGaugeRecordsKeepTheirLayout)
-{
-    LogFontRecord f;
-    f.lfHeight = -13;
-    f.lfWeight = 700;
-    f.lfItalic = 1;
-    f.lfPitchAndFamily = 0x31;
-    std::memcpy(f.lfFaceName, "Courier New", 12);
-    const LogFontBytes b = f.ToBytes();
-    EXPECT_EQ(b[0], 0xF3);
-    EXPECT_EQ(b[3], 0xFF);
-    EXPECT_EQ(b[16], 0xBC);
-    EXPECT_EQ(b[17], 0x02);
-    EXPECT_EQ(b[20], 1);
-    EXPECT_EQ(b[27], 0x31);
-    EXPECT_EQ(b[28], 'C');
-    EXPECT_EQ(LogFontRecord::FromBytes(b).ToBytes(), b);
-    WindowPlacementRecord p;
-    p.showCmd = 3;
-    p.rcNormalPosition = {10, 20, 630, 470};
-    const WindowPlacementBytes w = p.ToBytes();
-    EXPECT_EQ(w[0], 44);
-    EXPECT_EQ(w[8], 3);
-    EXPECT_EQ(w[28], 10);
-    EXPECT_EQ(w[40], 0xD6);
-    EXPECT_EQ(w[41], 0x01);
-    const WindowPlacementRecord back = WindowPlacementRecord::FromBytes(w);
-    EXPECT_EQ(back.rcNormalPosition.right, 630);
-    EXPECT_EQ(back.ToBytes(), w);
-    const GaugeColorBytes g = GaugeColorsToBytes({0x0000FF, 0x00FF00, 0xFF0000});
-    EXPECT_EQ(g[0], 0xFF);
-    EXPECT_EQ(g[5], 0xFF);
-    EXPECT_EQ(g[10], 0xFF);
-    GaugeColorBytes noisy = g; // only 12 of the 20 bytes are read
-    for (std::size_t i = GAUGE_COLOR_USED_SIZE; i < noisy.size(); ++i)
-        noisy[i] = 0xAB;
-    const GaugeColors colors = GaugeColorsFromBytes(noisy);
-    EXPECT_EQ(colors.GaugeTextColor, 0x0000FFu);
-    EXPECT_EQ(colors.BarColor, 0x00FF00u);
-    EXPECT_EQ(colors.GaugeBackColor, 0xFF0000u);
 }
 
 } // namespace

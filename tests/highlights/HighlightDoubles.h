@@ -3,6 +3,7 @@
 #include "base/ColorCode.h"
 #include "highlights/ClipboardHighlights.h"
 #include "highlights/HighlightList.h"
+#include "highlights/HighlightRule.h"
 #include "highlights/SoundPlayer.h"
 #include "support/TempFolder.h"
 
@@ -73,6 +74,23 @@ inline void Fill(HighlightList& list, const std::vector<Entry>& entries)
     for (std::size_t i = 0; i < entries.size(); ++i) {
         list.SetColor(i, entries[i].color);
         list.SetText(i, entries[i].text.c_str());
+    }
+}
+
+// The oracle for HighlightMatcher: runs the entries of the list one by one, in slot order, over
+// the NUL-terminated line, the slow and obvious way. The matcher must give the same bytes and
+// sounds.
+inline void ApplyHighlights(const HighlightList& list, char* line, std::size_t capacity,
+                            bool squelch, HighlightSounds& sounds)
+{
+    HighlightLine work;
+    if (!OpenHighlightLine(line, capacity, work))
+        return;
+    for (std::size_t slot = 0; slot < HIGHLIGHT_SLOTS; ++slot) {
+        HighlightRule rule;
+        if (!ParseHighlightRule(list.Text(slot), list.Color(slot), rule) ||
+            !ApplyHighlightRule(rule, work, squelch, sounds))
+            return;
     }
 }
 

@@ -9,29 +9,26 @@
 namespace steward::testing {
 namespace {
 
+// The fields of an item as "colour sound $*@ match", a marker shown as "-" when unset.
+std::string Fields(const HighlightItem& item)
+{
+    return std::to_string(item.Color) + " " + item.Sound + " " + (item.EntireLine ? "$" : "-") +
+           (item.NotOnWordBoundary ? "*" : "-") + (item.CaseSensitive ? "@" : "-") + " " +
+           item.Match;
+}
+
 TEST(ItemText, EveryKindParsesIntoItsFieldsAndComposesBack)
 {
     const struct {
-        const char* item;
-        HighlightItem parsed;
-    } rows[] = {{"014,Mara", {14, "", false, false, false, "Mara"}},
-                {"012,{Gong}Attention", {12, "Gong", false, false, false, "Attention"}},
-                {"010,$thunder", {10, "", true, false, false, "thunder"}},
-                {"030,*ara", {30, "", false, true, false, "ara"}},
-                {"255,@MARA", {255, "", false, false, true, "MARA"}},
-                {"000,{Chime.wav}$*@x", {0, "Chime.wav", true, true, true, "x"}},
-                {"014,a$b*c@{d}", {14, "", false, false, false, "a$b*c@{d}"}},
-                {"014,say \"hi\" ", {14, "", false, false, false, "say \"hi\" "}}};
+        const char *item, *fields;
+    } rows[] = {
+        {"014,Mara", "14  --- Mara"},           {"012,{Gong}Attention", "12 Gong --- Attention"},
+        {"010,$thunder", "10  $-- thunder"},    {"030,*ara", "30  -*- ara"},
+        {"255,@MARA", "255  --@ MARA"},         {"000,{Chime.wav}$*@x", "0 Chime.wav $*@ x"},
+        {"014,a$b*c@{d}", "14  --- a$b*c@{d}"}, {"014,say \"hi\" ", "14  --- say \"hi\" "}};
     for (const auto& row : rows) {
-        SCOPED_TRACE(row.item);
-        const HighlightItem parsed = ParseItem(row.item);
-        EXPECT_EQ(parsed.Color, row.parsed.Color);
-        EXPECT_EQ(parsed.Sound, row.parsed.Sound);
-        EXPECT_EQ(parsed.EntireLine, row.parsed.EntireLine);
-        EXPECT_EQ(parsed.NotOnWordBoundary, row.parsed.NotOnWordBoundary);
-        EXPECT_EQ(parsed.CaseSensitive, row.parsed.CaseSensitive);
-        EXPECT_EQ(parsed.Match, row.parsed.Match);
-        EXPECT_EQ(ComposeItem(parsed), row.item);
+        EXPECT_EQ(Fields(ParseItem(row.item)), row.fields);
+        EXPECT_EQ(ComposeItem(ParseItem(row.item)), row.item);
     }
     const HighlightItem read = ParseItem("014,{gONG}@Text");
     EXPECT_EQ(read.Sound, "Gong") << "sounds read in the sound list's form";

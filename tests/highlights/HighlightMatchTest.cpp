@@ -1,5 +1,4 @@
 #include "HighlightDoubles.h"
-#include "PlainHighlights.h"
 #include "highlights/HighlightMatcher.h"
 #include "highlights/HighlightStore.h"
 #include "highlights/PatternAutomaton.h"
@@ -8,7 +7,7 @@
 
 #include <algorithm>
 #include <cstring>
-#include <optional>
+#include <sstream>
 
 namespace steward::testing {
 namespace {
@@ -42,23 +41,39 @@ Outcome Apply(const Entries& entries, const std::string& line, bool squelch = fa
     return {plain.data(), plainSounds.played};
 }
 
-struct Case {
-    const char* name;
-    Entries entries;
-    std::string line, expected;
-    std::optional<Sounds> sounds = std::nullopt; // looked at when given
-    bool squelch = false;
-};
-
-void Check(const std::vector<Case>& cases)
+// "<c:text>" is text in colour c; "\r" and "\n" are the line ends.
+std::string Bytes(const std::string& notation, std::size_t& at)
 {
-    for (const Case& c : cases) {
-        const Outcome outcome = Apply(c.entries, c.line, c.squelch);
-        EXPECT_EQ(outcome.line, c.expected) << c.name;
-        if (c.sounds) {
-            EXPECT_EQ(outcome.sounds, *c.sounds) << c.name;
+    std::string out;
+    while (at < notation.size() && notation[at] != '>') {
+        if (notation[at] == '<') {
+            const std::size_t colon = notation.find(':', at);
+            const int color = std::stoi(notation.substr(at + 1, colon - at - 1));
+            at = colon + 1;
+            out += Lit(static_cast<unsigned char>(color), Bytes(notation, at));
+            ++at;
+        } else if (notation[at] == '\\') {
+            out += notation[at + 1] == 'r' ? '\r' : '\n';
+            at += 2;
+        } else {
+            out += notation[at++];
         }
     }
+    return out;
+}
+std::string Bytes(const std::string& notation)
+{
+    std::size_t at = 0;
+    return Bytes(notation, at);
+}
+
+std::vector<std::string> Fields(const std::string& text, char separator)
+{
+    std::vector<std::string> fields;
+    std::istringstream in(text);
+    for (std::string field; std::getline(in, field, separator);)
+        fields.push_back(field);
+    return fields;
 }
 
 TEST(PatternAutomaton, ReportsEveryPatternInAnyCaseAndAnyByteOnce)
@@ -76,95 +91,62 @@ TEST(PatternAutomaton, ReportsEveryPatternInAnyCaseAndAnyByteOnce)
 
 TEST(HighlightMatch, WordsCaseRepeatsEntireLinesNestingRunsAndSounds)
 {
-    Check({
-        {"inside a longer word", {{"Mara"}}, "Maravel waves.", "Maravel waves."},
-        {"search goes on behind a failed hit",
-         {{"Mara"}},
-         "Maravel and Mara.",
-         "Maravel and " + Lit(14, "Mara") + "."},
-        {"apostrophe", {{"Mara"}}, "Mara's cloak", Lit(14, "Mara") + "'s cloak"},
-        {"underscore and hyphen", {{"ax"}}, "_ax-", "_" + Lit(14, "ax") + "-"},
-        {"digit is no boundary", {{"ax"}}, "ax2 2ax", "ax2 2ax"},
-        {"start and end of line",
-         {{"Tam"}, {"end"}},
-         "Tam at the end",
-         Lit(14, "Tam") + " at the " + Lit(14, "end")},
-        {"CR is a boundary", {{"end"}}, "the end\r\n", "the " + Lit(14, "end") + "\r\n"},
-        {"not on word boundary", {{"*ara"}}, "Maravel", "M" + Lit(14, "ara") + "vel"},
-        {"phrase with a blank",
-         {{"red dragon"}},
-         "A red dragonfly, a red dragon.",
-         "A red dragonfly, a " + Lit(14, "red dragon") + "."},
-        {"server colour around the word",
-         {{"Mara"}},
-         Lit(3, "Mara") + " waves",
-         On(3) + Lit(14, "Mara") + Off(3) + " waves"},
-        {"server colour after a word part",
-         {{"Mara"}},
-         Lit(3, "Mara") + "vel",
-         On(3) + Lit(14, "Mara") + Off(3) + "vel"},
-        {"colour inside a phrase hides it",
-         {{"red dragon"}},
-         "red" + Lit(2, " dragon"),
-         "red" + Lit(2, " dragon")},
-        {"folded", {{"Mara"}}, "MARA!", Lit(14, "MARA") + "!"},
-        {"exact misses", {{"@Mara"}}, "MARA!", "MARA!"},
-        {"exact hits", {{"@Mara"}}, "Mara!", Lit(14, "Mara") + "!"},
-        {"only letters fold", {{"*[x]"}}, "{X}", "{X}"},
-        {"back to back", {{"*aa"}}, "aaaa", Lit(14, "aa") + Lit(14, "aa")},
-        {"with a background",
-         {{"orc", 0x1E}},
-         "an orc",
-         "an \x91\x8E"
-         "orc\xA1\xA0"},
-        {"once for many hits", {{"$orc"}}, "orc orc\r\n", Lit(14, "orc orc\r\n")},
-        {"after partial entries",
-         {{"orc", 2}, {"$orc", 5}},
-         "an orc",
-         On(5) + "an " + Lit(2, "orc") + Off(5)},
-        {"partial after entire line",
-         {{"$orc", 5}, {"orc", 2}},
-         "an orc",
-         On(5) + "an " + Lit(2, "orc") + Off(5)},
-        {"boundaries still apply", {{"$orc"}}, "an orchard", "an orchard"},
-        {"same text twice", {{"orc", 1}, {"orc", 2}}, "orc", On(1) + Lit(2, "orc") + Off(1)},
-        {"later text inside the earlier",
-         {{"red dragon", 1}, {"dragon", 2}},
-         "a red dragon",
-         "a " + On(1) + "red " + Lit(2, "dragon") + Off(1)},
-        {"later text reaching beyond",
-         {{"red", 1}, {"red dragon", 2}},
-         "a red dragon",
-         "a " + Lit(1, "red") + " dragon"},
-        {"unclosed sound", {{"orc"}, {"{gong"}, {"elf"}}, "orc elf", Lit(14, "orc") + " elf"},
-        {"markers only", {{"orc"}, {"{gong}$*@"}, {"elf"}}, "orc elf", Lit(14, "orc") + " elf"},
-        {"markers out of order are text", {{"*$orc"}}, "a $orc", "a " + Lit(14, "$orc")},
-        {"empty sound is fine", {{"{}orc"}}, "orc", Lit(14, "orc")},
-        {"a sound per hit",
-         {{"{gong}orc"}},
-         "orc orc",
-         Lit(14, "orc") + " " + Lit(14, "orc"),
-         Sounds{"gong", "gong"}},
-        {"entire line once", {{"{gong}$orc"}}, "orc orc", Lit(14, "orc orc"), Sounds{"gong"}},
-        {"sounds in slot order",
-         {{"{b}elf"}, {"{a}orc"}},
-         "orc elf",
-         Lit(14, "orc") + " " + Lit(14, "elf"),
-         Sounds{"b", "a"}},
-        {"a quote anywhere silences but colours",
-         {{"{gong}orc"}},
-         "orc says, \"x\"",
-         Lit(14, "orc") + " says, \"x\"",
-         Sounds{}},
-        {"squelched", {{"{gong}orc"}}, "orc", Lit(14, "orc"), Sounds{}, true},
-        {"no hit no sound", {{"{gong}orc"}}, "orchard", "orchard", Sounds{}},
-    });
-    HighlightList list;
-    Fill(list, {{"orc"}, {""}, {"elf"}});
-    char line[64] = "orc elf";
-    RecordedSounds sounds;
-    ApplyHighlights(list, line, sizeof line, false, sounds);
-    EXPECT_EQ(std::string(line), Lit(14, "orc") + " elf") << "the run ends at a free slot";
+    // entries (text/colour, ";" between) | line | result | sounds ("-" none) | squelch
+    const char* rows = R"rows(Mara|Maravel waves.|Maravel waves.
+Mara|Maravel and Mara.|Maravel and <14:Mara>.
+Mara|Mara's cloak|<14:Mara>'s cloak
+ax|_ax-|_<14:ax>-
+ax|ax2 2ax|ax2 2ax
+Tam;end|Tam at the end|<14:Tam> at the <14:end>
+end|the end\r\n|the <14:end>\r\n
+*ara|Maravel|M<14:ara>vel
+red dragon|A red dragonfly, a red dragon.|A red dragonfly, a <14:red dragon>.
+Mara|<3:Mara> waves|<3:<14:Mara>> waves
+Mara|<3:Mara>vel|<3:<14:Mara>>vel
+red dragon|red<2: dragon>|red<2: dragon>
+Mara|MARA!|<14:MARA>!
+@Mara|MARA!|MARA!
+@Mara|Mara!|<14:Mara>!
+*[x]|{X}|{X}
+*aa|aaaa|<14:aa><14:aa>
+orc/30|an orc|an <30:orc>
+$orc|orc orc\r\n|<14:orc orc\r\n>
+orc/2;$orc/5|an orc|<5:an <2:orc>>
+$orc/5;orc/2|an orc|<5:an <2:orc>>
+$orc|an orchard|an orchard
+orc/1;orc/2|orc|<1:<2:orc>>
+red dragon/1;dragon/2|a red dragon|a <1:red <2:dragon>>
+red/1;red dragon/2|a red dragon|a <1:red> dragon
+orc;;elf|orc elf|<14:orc> elf
+orc;{gong;elf|orc elf|<14:orc> elf
+orc;{gong}$*@;elf|orc elf|<14:orc> elf
+*$orc|a $orc|a <14:$orc>
+{}orc|orc|<14:orc>
+{gong}orc|orc orc|<14:orc> <14:orc>|gong gong
+{gong}$orc|orc orc|<14:orc orc>|gong
+{b}elf;{a}orc|orc elf|<14:orc> <14:elf>|b a
+{gong}orc|orc says, "x"|<14:orc> says, "x"|-
+{gong}orc|orc|<14:orc>|-|squelch
+{gong}orc|orchard|orchard|-
+)rows";
+    for (const std::string& row : Fields(rows, '\n')) {
+        SCOPED_TRACE(row);
+        const std::vector<std::string> field = Fields(row, '|');
+        Entries entries;
+        for (const std::string& entry : Fields(field[0], ';')) {
+            const std::size_t slash = entry.find('/');
+            entries.push_back(
+                {entry.substr(0, slash),
+                 static_cast<unsigned char>(slash == std::string::npos
+                                                ? HIGHLIGHT_DEFAULT_COLOR
+                                                : std::stoi(entry.substr(slash + 1)))});
+        }
+        const Outcome outcome = Apply(entries, Bytes(field[1]), field.size() > 4);
+        EXPECT_EQ(outcome.line, Bytes(field[2]));
+        if (field.size() > 3) {
+            EXPECT_EQ(outcome.sounds, field[3] == "-" ? Sounds{} : Fields(field[3], ' '));
+        }
+    }
 }
 
 TEST(HighlightBounds, HitsStopWhenTheBufferIsFullAndALineWithoutItsNulIsLeftAlone)

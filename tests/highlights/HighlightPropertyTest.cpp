@@ -1,5 +1,4 @@
 #include "HighlightDoubles.h"
-#include "PlainHighlights.h"
 #include "highlights/HighlightStore.h"
 
 #include <gtest/gtest.h>

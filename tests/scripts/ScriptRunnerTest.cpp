@@ -7,134 +7,78 @@ namespace {
 
 using Events = std::vector<std::string>;
 
-struct StepCase {
-    const char* name;
-    std::string script;
-    const char* parameters;
-    Events events;
-};
-
-void PrintTo(const StepCase& c, std::ostream* out)
+std::string Joined(const Events& events)
 {
-    *out << c.name;
+    std::string out;
+    for (const std::string& event : events)
+        out += event + "\n";
+    return out;
 }
 
-const std::string A506(506, 'a');
-// A rest of line is cut at the token buffer's 255 characters.
-const std::string A255(255, 'a');
-
-class ScriptStepTest : public ::testing::TestWithParam<StepCase> {};
-
-TEST_P(ScriptStepTest, SendsPrintsAndEndsAsTheLinesSay)
+TEST(ScriptStepTest, SendsPrintsAndEndsAsTheLinesSay)
 {
-    ScriptRig rig;
-    rig.Start(GetParam().script, GetParam().parameters);
-    rig.Steps(100);
-    EXPECT_EQ(rig.host.events, GetParam().events);
-    EXPECT_FALSE(rig.runner.Running());
-    EXPECT_FALSE(rig.host.busyCursor);
+    const std::string a506(506, 'a'), a255(255, 'a'); // a rest of line is cut at 255
+    const struct {
+        std::string script;
+        const char* parameters;
+        std::string events; // one a line, the closing beep left out
+    } rows[] = {
+        {"put look\n\n# put no\n  # put no\nstart:\nlook\nput  say \"hi\"  \nput\n", "",
+         "send:look\nsend:say \"hi\"  \n"},
+        {"PUT a\nPuT b\nEcHo c\n", "", "send:a\nsend:b\nprint:c\\r\\n\n"},
+        {"put a\r\nput b\r\n", "", "send:a\nsend:b\n"},
+        {"put look\r\r\n", "", "send:look\\r\n"},
+        {"if_0 put zero\nif_1 put one\nif_2 put two\nIF_3 put three\nif_/ put slash\nif_1\n"
+         "if_ put none\n",
+         "a b", "send:zero\nsend:one\nsend:two\n"},
+        {"if_0 put zero\nif_1 put one\n", "", ""},
+        {"goto B\nput skipped\na:\nput a\nexit\nb:\nput b\ngoto A\nb:\nput second\n", "",
+         "send:b\nsend:a\n"},
+        {"goto \"my place\"\nput no\n\"my place:\"\nput yes\n", "", "send:yes\n"},
+        {"put a\ngoto nowhere\nput b\n", "", "send:a\nprint:\\r\\nGOTO label not found!\\r\\n\n"},
+        {"goto\nput b\n", "", "print:\\r\\nGOTO with no label specified!\\r\\n\n"},
+        {"put " + a506 + "\nput b\n", "", "send:" + a255 + "\nsend:b\n"},
+        {"put " + a506 + "x\nput b\n", "", "send:" + a255 + "\nsend:b\n"},
+        {"put " + a506 + "put b\n", "", "send:" + a255 + "\nsend:b\n"},
+        {"again:\nif_1 put get %1\nif_1 shift\nif_1 goto again\necho %0.\n", "\"big rat\" 3",
+         "send:get big rat\nsend:get 3\nprint:.\\r\\n\n"},
+        {"shift\nput %1|%2|%0|\n", "a \"b c\" d", "send:b c|d|b c d |\n"},
+        {"put <%s>\nsave \"x y\" z\nput <%s>\nsave\nput <%s>\n", "",
+         "send:<>\nsend:<x y>\nsend:<>\n"},
+        {"pause\npause 0\npause x\npause 29\npause -3\n", "",
+         "pump:1\npump:1\npump:1\npump:29\npump:1\n"},
+        {"echo\necho  say \"hi\" \n", "", "print:\\r\\n\nprint:say \"hi\" \\r\\n\n"},
+        {"echo " + a255 + "b\n", "", "print:" + a255 + "\\r\\n\n"},
+        {"WaitFor\nput on\n", "", "send:on\n"},
+        {"put a\nexit\nput b\n", "", "send:a\n"},
+        {std::string("put a\nput \0b\nput c\n", 19), "",
+         "send:a\nprint:\\r\\n*** Script stopped: the file is not a text file.\\r\\n\\r\\n\n"},
+        {"put a\x1b\x07\x85z\n", "", "send:a???z\n"}};
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.script.substr(0, 60));
+        ScriptRig rig;
+        rig.Start(row.script, row.parameters);
+        rig.Steps(100);
+        EXPECT_EQ(Joined(rig.host.events), row.events + "beep\n");
+        EXPECT_FALSE(rig.runner.Running());
+        EXPECT_FALSE(rig.host.busyCursor);
+    }
 }
-
-INSTANTIATE_TEST_SUITE_P(
-    Lines, ScriptStepTest,
-    ::testing::Values(
-        StepCase{"PutLinesCommentsEmptyLinesAndUnknownWords",
-                 "put look\n\n# put no\n  # put no\nstart:\nlook\nput  say \"hi\"  \nput\n",
-                 "",
-                 {"send:look", "send:say \"hi\"  ", "beep"}},
-        StepCase{"CommandWordsIgnoreCase",
-                 "PUT a\nPuT b\nEcHo c\n",
-                 "",
-                 {"send:a", "send:b", "print:c\\r\\n", "beep"}},
-        StepCase{"WindowsLineEnds", "put a\r\nput b\r\n", "", {"send:a", "send:b", "beep"}},
-        StepCase{
-            "RecordedLineKeepsItsCarriageReturn", "put look\r\r\n", "", {"send:look\\r", "beep"}},
-        StepCase{"ConditionsOnParameters",
-                 "if_0 put zero\nif_1 put one\nif_2 put two\nIF_3 put three\nif_/ put slash\n"
-                 "if_1\nif_ put none\n",
-                 "a b",
-                 {"send:zero", "send:one", "send:two", "beep"}},
-        StepCase{"IfZeroFailsWithoutParameters", "if_0 put zero\nif_1 put one\n", "", {"beep"}},
-        StepCase{"GotoJumpsForwardAndBackFirstLabelWins",
-                 "goto B\nput skipped\na:\nput a\nexit\nb:\nput b\ngoto A\nb:\nput second\n",
-                 "",
-                 {"send:b", "send:a", "beep"}},
-        StepCase{"GotoQuotedLabel",
-                 "goto \"my place\"\nput no\n\"my place:\"\nput yes\n",
-                 "",
-                 {"send:yes", "beep"}},
-        StepCase{"GotoMissingLabel",
-                 "put a\ngoto nowhere\nput b\n",
-                 "",
-                 {"send:a", "print:\\r\\nGOTO label not found!\\r\\n", "beep"}},
-        StepCase{"GotoWithoutLabel",
-                 "goto\nput b\n",
-                 "",
-                 {"print:\\r\\nGOTO with no label specified!\\r\\n", "beep"}},
-        StepCase{"LineOf510CharactersAndItsLineFeed",
-                 "put " + A506 + "\nput b\n",
-                 "",
-                 {"send:" + A255, "send:b", "beep"}},
-        StepCase{"LineOf511CharactersLeavesOneCharacter",
-                 "put " + A506 + "x\nput b\n",
-                 "",
-                 {"send:" + A255, "send:b", "beep"}},
-        StepCase{"RemainderOfALongLineIsALineOfItsOwn",
-                 "put " + A506 + "put b\n",
-                 "",
-                 {"send:" + A255, "send:b", "beep"}},
-        StepCase{"ShiftLoopsOverParameters",
-                 "again:\nif_1 put get %1\nif_1 shift\nif_1 goto again\necho %0.\n",
-                 "\"big rat\" 3",
-                 {"send:get big rat", "send:get 3", "print:.\\r\\n", "beep"}},
-        StepCase{"ShiftKeepsQuotedParametersWhole",
-                 "shift\nput %1|%2|%0|\n",
-                 "a \"b c\" d",
-                 {"send:b c|d|b c d |", "beep"}},
-        StepCase{"SaveKeepsAWord",
-                 "put <%s>\nsave \"x y\" z\nput <%s>\nsave\nput <%s>\n",
-                 "",
-                 {"send:<>", "send:<x y>", "send:<>", "beep"}},
-        StepCase{"PauseReadsItsSeconds",
-                 "pause\npause 0\npause x\npause 29\npause -3\n",
-                 "",
-                 {"pump:1", "pump:1", "pump:1", "pump:29", "pump:1", "beep"}},
-        StepCase{"EchoPrintsTheRestAsItStands",
-                 "echo\necho  say \"hi\" \n",
-                 "",
-                 {"print:\\r\\n", "print:say \"hi\" \\r\\n", "beep"}},
-        StepCase{"EchoOfALongLineKeepsItsLineEnd",
-                 "echo " + A255 + "b\n",
-                 "",
-                 {"print:" + A255 + "\\r\\n", "beep"}},
-        StepCase{"WaitForWithoutTextGoesOn", "WaitFor\nput on\n", "", {"send:on", "beep"}},
-        StepCase{"ExitEndsAtTheNextStep", "put a\nexit\nput b\n", "", {"send:a", "beep"}},
-        StepCase{"BinaryFileStops",
-                 std::string("put a\nput \0b\nput c\n", 19),
-                 "",
-                 {"send:a",
-                  "print:\\r\\n*** Script stopped: the file is not a text file.\\r\\n\\r\\n",
-                  "beep"}},
-        StepCase{
-            "ControlBytesReadAsQuestionMarks", "put a\x1b\x07\x85z\n", "", {"send:a???z", "beep"}}),
-    [](const ::testing::TestParamInfo<StepCase>& info) { return std::string(info.param.name); });
-
-struct WaitCase {
-    const char* line;
-    ScriptWaitKind wait;
-    const char* sent;
-};
 
 TEST(ScriptWaitTest, WaitingCommandsHoldTheScriptUntilReleased)
 {
-    const WaitCase cases[] = {
+    const struct {
+        const char* line;
+        ScriptWaitKind wait;
+        const char* sent;
+    } cases[] = {
         {"NextRoom", WAIT_ROOM, nullptr},
         {"Wait", WAIT_PROMPT, nullptr},
         {"waitfor  a \"b\" ", WAIT_TEXT, nullptr},
         {"go n", WAIT_ROOM, "send:n"},
         {"move go gate", WAIT_ROOM, "send:go gate"},
     };
-    for (const WaitCase& c : cases) {
+    for (const auto& c : cases) {
         ScriptRig rig;
         rig.Start(std::string(c.line) + "\nput after\n");
         rig.Steps(5);
@@ -149,11 +93,8 @@ TEST(ScriptWaitTest, WaitingCommandsHoldTheScriptUntilReleased)
     rig.Start("waitfor  a \"b\" \n");
     rig.Steps(1);
     EXPECT_STREQ(rig.wait.WaitText, "a \"b\" ");
-}
-
-TEST(ScriptWaitTest, RoundTimeHoldsEveryLine)
-{
-    ScriptRig rig;
+    rig.runner.AbortScript();
+    rig.host.events.clear();
     rig.Start("echo a\n");
     rig.roundTime.SetMax(3000);
     rig.roundTime.SetValue(2000);
@@ -161,10 +102,10 @@ TEST(ScriptWaitTest, RoundTimeHoldsEveryLine)
     EXPECT_TRUE(rig.host.events.empty());
     rig.roundTime.SetValue(0);
     rig.Steps(1);
-    EXPECT_EQ(rig.host.events, Events{"print:a\\r\\n"});
+    EXPECT_EQ(rig.host.events, Events{"print:a\\r\\n"}) << "round time holds every line";
 }
 
-TEST(ScriptRunnerTest, OnlyCommandLinesPostAWakeUp)
+TEST(ScriptRunnerTest, OnlyCommandLinesPostAWakeUpAndADeletedFileRunsToItsEnd)
 {
     ScriptRig rig;
     rig.Start("# comment\n\nstart:\nput a\n");
@@ -173,6 +114,11 @@ TEST(ScriptRunnerTest, OnlyCommandLinesPostAWakeUp)
     EXPECT_EQ(rig.host.wakeUps, afterStart);
     rig.Steps(2);
     EXPECT_EQ(rig.host.wakeUps, afterStart + 2);
+    rig.host.events.clear();
+    rig.Start("put a\nput b\n");
+    std::filesystem::remove(rig.folder.File("Test.Cmd"));
+    rig.Steps(5);
+    EXPECT_EQ(rig.host.events, (Events{"send:a", "send:b", "beep"}));
 }
 
 TEST(ScriptRunnerTest, StartsStopsAndSaysWhatFailed)
@@ -199,15 +145,6 @@ TEST(ScriptRunnerTest, StartsStopsAndSaysWhatFailed)
                              "print:\\r\\n*** Error opening script file!\\r\\n\\r\\n"};
     EXPECT_EQ(rig.host.events, expected);
     EXPECT_TRUE(rig.runner.Running());
-}
-
-TEST(ScriptRunnerTest, AFileDeletedWhileItRunsRunsToItsEnd)
-{
-    ScriptRig rig;
-    rig.Start("put a\nput b\n");
-    std::filesystem::remove(rig.folder.File("Test.Cmd"));
-    rig.Steps(5);
-    EXPECT_EQ(rig.host.events, (Events{"send:a", "send:b", "beep"}));
 }
 
 } // namespace
