@@ -47,6 +47,7 @@ AnsiWindowWidget::AnsiWindowWidget(const Parts& parts)
     // Only the rows: the scroll bar and the find bar beside them repaint when they change.
     connect(&repaintTimer_, &QTimer::timeout, this, [this] {
         repaintPending_ = false;
+        paintRequested_ = true;
         const Rect text = GetClientRect();
         update(0, 0, text.right, text.bottom);
     });
@@ -65,7 +66,7 @@ void AnsiWindowWidget::InvalidateRect(bool)
 {
     ++textVersion_;
     repaintPending_ = true;
-    if (!repaintTimer_.isActive())
+    if (!paintRequested_ && !repaintTimer_.isActive())
         repaintTimer_.start();
 }
 
@@ -237,6 +238,11 @@ void AnsiWindowWidget::paintEvent(QPaintEvent*)
 {
     if (!window_)
         return;
+    // What came in since the request is painted now as well; what comes later waits a frame.
+    if (paintRequested_) {
+        paintRequested_ = false;
+        repaintPending_ = false;
+    }
     QPainter painter(this);
     layer_.Begin(&painter);
     // Qt keeps no erase request, so every paint fills the bands beside the rows as well.

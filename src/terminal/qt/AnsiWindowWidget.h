@@ -134,6 +134,9 @@ class AnsiWindowWidget : public QWidget, public AnsiWindowHost {
     std::int32_t scrollPos_ = 0;
     QTimer repaintTimer_;
     bool repaintPending_ = false;
+    // The timer has asked Qt for a paint that has not happened yet; the next frame is counted
+    // from that paint, not from the request.
+    bool paintRequested_ = false;
     quint64 textVersion_ = 0;
     // Repeats the last drag step while the pointer stays outside the window.
     QTimer dragScrollTimer_;

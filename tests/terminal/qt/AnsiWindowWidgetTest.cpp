@@ -153,6 +153,10 @@ TEST_F(WidgetTest, BufferedUpdatesDecideWhenTextIsPainted)
         EXPECT_EQ(counter.paints, buffered ? 0 : 200);
         QTest::qWait(100);
         EXPECT_EQ(counter.paints, buffered ? 1 : 200);
+        // The next burst after a paint gets its own.
+        widget->Window().AppendText("more\n");
+        QTest::qWait(100);
+        EXPECT_EQ(counter.paints, buffered ? 2 : 201);
     }
 }
 
