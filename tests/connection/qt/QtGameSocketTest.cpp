@@ -115,6 +115,9 @@ TEST_F(QtGameSocketTest, OwnCloseIsNoDropAndAClosedPortFails)
     ASSERT_TRUE(QTest::qWaitFor([&] { return listener.received >= before + 5; }, 5000));
     QTest::qWait(20);
     EXPECT_EQ(listener.All().substr(before), "fresh");
+    // A drop with nothing left to read is told at once.
+    peer->disconnectFromHost();
+    ASSERT_TRUE(QTest::qWaitFor([&] { return listener.closed == 1; }, 5000));
 
     const quint16 port = server.serverPort();
     server.close();
