@@ -225,6 +225,8 @@ TEST_F(ClientWorldTest, TheStartDialogConnectsStartsOfflineCancelsOrTellsAClosed
         EXPECT_EQ(ReadInt(ini, "Connection", "Port", 0), world->port);
         client->Frame().close();
     }
+    // The world records the closing "quit" in the folder in its own time.
+    ASSERT_TRUE(WaitForSent("quit\n\r"));
 
     // A state that a window would write back differently.
     ASSERT_TRUE(WriteString(File("Default.Dat"), "Game Window", "StateInfo", "11"));
