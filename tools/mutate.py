@@ -146,6 +146,16 @@ def judge(mutant, build, folders):
     return "survived", ""
 
 
+def locate(lines, mutant):
+    """The mutant's line: where it was picked, or, when code above it has moved it, the nearest
+    line with the same text. None when that text is gone (the mutant is stale)."""
+    at = mutant["line"] - 1
+    if at < len(lines) and lines[at] == mutant["original"]:
+        return at
+    same = [i for i, line in enumerate(lines) if line == mutant["original"]]
+    return min(same, key=lambda i: abs(i - at)) if same else None
+
+
 def run(args):
     with open(args.mutants) as f:
         mutants = json.load(f)
@@ -166,10 +176,11 @@ def run(args):
         with open(path) as f:
             original = f.read()
         lines = original.split("\n")
-        if lines[mutant["line"] - 1] != mutant["original"]:
+        at = locate(lines, mutant)
+        if at is None:
             results.append((mutant, "stale", ""))
             continue
-        lines[mutant["line"] - 1] = mutant["mutated"]
+        lines[at] = mutant["mutated"]
         try:
             with open(path, "w") as f:
                 f.write("\n".join(lines))
