@@ -11,17 +11,12 @@ namespace {
 
 // How long a close waits for the last line (such as "quit") to leave.
 constexpr int CLOSE_FLUSH_MS = 2000;
-// Qt reads ahead of us only this far (and we hold as much again); beyond it the bytes wait in
-// the kernel and TCP slows the server down, so a flood faster than the client can show never
-// piles up in memory.
-constexpr qint64 READ_AHEAD_LIMIT = 16 * RECEIVE_CHUNK_MAX;
-
 const QEvent::Type READ_BLOCK_EVENT = static_cast<QEvent::Type>(QEvent::registerEventType());
 
 // Asks for the next block at the next turn of the loop. One is posted per block, and Qt deletes
 // each after its turn, so their memory is kept for the next instead of going back to the heap.
 // Sockets live on the main thread, which alone makes and deletes these.
-class ReadBlockEvent : public QEvent {
+class ReadBlockEvent final : public QEvent {
   public:
     ReadBlockEvent() : QEvent(READ_BLOCK_EVENT) {}
 
@@ -48,7 +43,7 @@ class ReadBlockEvent : public QEvent {
 QtGameSocket::QtGameSocket(SocketListener& listener, QObject* parent)
     : QObject(parent), listener_(listener)
 {
-    socket_.setReadBufferSize(READ_AHEAD_LIMIT);
+    socket_.setReadBufferSize(static_cast<qint64>(READ_AHEAD));
     connect(&socket_, &QTcpSocket::readyRead, this, &QtGameSocket::ScheduleRead);
     connect(&socket_, &QTcpSocket::disconnected, this, &QtGameSocket::OnDisconnected);
 }

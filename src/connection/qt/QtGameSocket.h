@@ -33,9 +33,14 @@ class QtGameSocket : public QObject, public GameSocket {
     bool open_ = false;
     bool readScheduled_ = false;
     bool remoteClosed_ = false;
+    // Qt reads ahead of us only this far, and we hold as much again; beyond it the bytes wait in
+    // the kernel and TCP slows the server down, so a flood faster than the client can show never
+    // piles up in memory.
+    static constexpr std::size_t READ_AHEAD = 16 * RECEIVE_CHUNK_MAX;
+
     // Bytes taken from Qt in one read and handed on a block per turn, so that the kernel is asked
     // once per many blocks instead of once per block.
-    char staged_[16 * RECEIVE_CHUNK_MAX];
+    char staged_[READ_AHEAD];
     std::size_t stagedBegin_ = 0;
     std::size_t stagedEnd_ = 0;
 };
