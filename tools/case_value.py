@@ -56,8 +56,8 @@ def run_case(program, case, timeout):
 
 
 def unit(case):
-    """The TEST a gtest case name comes from: program, instantiation and parameter index dropped."""
-    return re.sub(r"/\d+$", "", re.sub(r"^\w+/", "", case.split(" ")[-1]))
+    """The TEST a gtest case name comes from: instantiation and parameter index dropped."""
+    return re.sub(r"/\d+$", "", re.sub(r"^\w+/", "", case))
 
 
 # ---- coverage
@@ -134,38 +134,19 @@ def kills(args):
     with open(args.mutants) as f:
         mutants = json.load(f)
     build = os.path.abspath(args.build)
-    subprocess.run(["cmake", "-S", ROOT, "-B", build, "-G", "Ninja", "-DCMAKE_BUILD_TYPE=Release",
-                    "-DSTEWARD_WERROR=OFF", "-DSTEWARD_BENCH=OFF"], check=True,
-                   stdout=subprocess.DEVNULL)
-    targets = ["test_" + f for f in mutate.core_folders()
-               if os.path.exists(os.path.join(ROOT, "tests", f))]
-    subprocess.run(["cmake", "--build", build, "--target"] + targets, check=True,
-                   stdout=subprocess.DEVNULL)
+    targets = ["test_" + f for f in mutate.prepare(build)]
     results = {}
     for mutant in mutants:
-        path = os.path.join(ROOT, mutant["file"])
-        with open(path) as f:
-            original = f.read()
-        lines = original.split("\n")
-        at = mutate.locate(lines, mutant)
-        if at is None:
-            results[mutant["id"]] = "stale"
-            continue
-        lines[at] = mutant["mutated"]
-        try:
-            with open(path, "w") as f:
-                f.write("\n".join(lines))
-            if mutate.run_quiet(["cmake", "--build", build, "--target"] + targets, 900) != 0:
-                results[mutant["id"]] = "invalid"
+        with mutate.applied(mutant) as present:
+            if not present:
+                found = "stale"
+            elif mutate.run_quiet(["cmake", "--build", build, "--target"] + targets, 900) != 0:
+                found = "invalid"
             else:
-                results[mutant["id"]] = [
-                    case for t in targets
-                    for case in failing_cases(os.path.join(build, "tests", t),
-                                              os.path.join(build, t + ".xml"))]
-        finally:
-            with open(path, "w") as f:
-                f.write(original)
-        found = results[mutant["id"]]
+                found = [case for t in targets
+                         for case in failing_cases(os.path.join(build, "tests", t),
+                                                   os.path.join(build, t + ".xml"))]
+        results[mutant["id"]] = found
         print(mutant["id"], found if isinstance(found, str) else f"{len(found)} cases fail",
               file=sys.stderr, flush=True)
     with open(args.out, "w") as f:

@@ -13,6 +13,7 @@ and is invalid when it does not build. The score is killed / (killed + survived)
 folder is configured here (Release, warnings not errors, no benchmarks).
 """
 import argparse
+import contextlib
 import json
 import os
 import random
@@ -156,6 +157,40 @@ def locate(lines, mutant):
     return min(same, key=lambda i: abs(i - at)) if same else None
 
 
+def prepare(build):
+    """Configures the build folder and builds every core test program; returns the folders that
+    have one."""
+    subprocess.run(["cmake", "-S", ROOT, "-B", build, "-G", "Ninja", "-DCMAKE_BUILD_TYPE=Release",
+                    "-DSTEWARD_WERROR=OFF", "-DSTEWARD_BENCH=OFF"], check=True,
+                   stdout=subprocess.DEVNULL)
+    folders = [f for f in core_folders() if os.path.exists(os.path.join(ROOT, "tests", f))]
+    subprocess.run(["cmake", "--build", build, "--target"] + ["test_" + f for f in folders],
+                   check=True, stdout=subprocess.DEVNULL)
+    return folders
+
+
+@contextlib.contextmanager
+def applied(mutant):
+    """The mutant in its file for the time of the block, which is given False when the mutant's
+    line is gone (stale); the file is put back whatever the block does."""
+    path = os.path.join(ROOT, mutant["file"])
+    with open(path) as f:
+        original = f.read()
+    lines = original.split("\n")
+    at = locate(lines, mutant)
+    if at is None:
+        yield False
+        return
+    lines[at] = mutant["mutated"]
+    try:
+        with open(path, "w") as f:
+            f.write("\n".join(lines))
+        yield True
+    finally:
+        with open(path, "w") as f:
+            f.write(original)
+
+
 def run(args):
     with open(args.mutants) as f:
         mutants = json.load(f)
@@ -163,31 +198,12 @@ def run(args):
         wanted = {int(n) for n in args.only.split(",")}
         mutants = [m for m in mutants if m["id"] in wanted]
     build = os.path.abspath(args.build)
-    subprocess.run(["cmake", "-S", ROOT, "-B", build, "-G", "Ninja", "-DCMAKE_BUILD_TYPE=Release",
-                    "-DSTEWARD_WERROR=OFF", "-DSTEWARD_BENCH=OFF"], check=True,
-                   stdout=subprocess.DEVNULL)
-    folders = [f for f in core_folders() if os.path.exists(os.path.join(ROOT, "tests", f))]
-    subprocess.run(["cmake", "--build", build, "--target"] + ["test_" + f for f in folders],
-                   check=True, stdout=subprocess.DEVNULL)
+    folders = prepare(build)
     results = []
     started = time.time()
     for mutant in mutants:
-        path = os.path.join(ROOT, mutant["file"])
-        with open(path) as f:
-            original = f.read()
-        lines = original.split("\n")
-        at = locate(lines, mutant)
-        if at is None:
-            results.append((mutant, "stale", ""))
-            continue
-        lines[at] = mutant["mutated"]
-        try:
-            with open(path, "w") as f:
-                f.write("\n".join(lines))
-            verdict, by = judge(mutant, build, folders)
-        finally:
-            with open(path, "w") as f:
-                f.write(original)
+        with applied(mutant) as present:
+            verdict, by = judge(mutant, build, folders) if present else ("stale", "")
         results.append((mutant, verdict, by))
         print(f"{mutant['id']:>4} {verdict:<8} {mutant['file']}:{mutant['line']} {mutant['kind']}",
               file=sys.stderr, flush=True)
