@@ -58,7 +58,6 @@ bool HighlightItems::ComposeItem(int index, const ItemChanges& changes)
     } else {
         items_.push_back(item);
     }
-    changed_ = true;
     return true;
 }
 
@@ -100,7 +99,6 @@ void HighlightItems::Delete()
         return;
     items_.erase(items_.begin() + selected_);
     Select(selected_);
-    changed_ = true;
 }
 
 void HighlightItems::SortItems()
@@ -111,7 +109,6 @@ void HighlightItems::SortItems()
     Apply(sorted);
     SortByColor(sorted);
     OpenList(sorted);
-    changed_ = true;
 }
 
 void HighlightItems::SetAllBackgroundsTransparent()
@@ -123,7 +120,6 @@ void HighlightItems::SetAllBackgroundsTransparent()
         const unsigned char low = parsed.Color & 0x0F;
         item = MakeItemText(low <= 1 ? HIGHLIGHT_DEFAULT_COLOR : low, PackedText(item).c_str());
     }
-    changed_ = true;
 }
 
 bool HighlightItems::SetFlag(HighlightFlag flag, bool on)
@@ -169,7 +165,6 @@ void HighlightItems::SetColor(unsigned char color)
 {
     std::string& item = items_[static_cast<std::size_t>(selected_)];
     item = MakeItemText(color, PackedText(item).c_str());
-    changed_ = true;
 }
 
 void HighlightItems::Apply(HighlightList& list)
@@ -179,14 +174,12 @@ void HighlightItems::Apply(HighlightList& list)
         list.SetColor(i, ParseItem(items_[i]).Color);
         list.SetText(i, PackedText(items_[i]).c_str());
     }
-    changed_ = false;
 }
 
 void HighlightItems::ApplySamples(Settings& settings)
 {
     for (std::size_t row = 0; row < SAMPLE_ROW_COUNT && row < items_.size(); ++row)
         settings.*SAMPLE_ROWS[row].Field = ParseItem(items_[row]).Color;
-    changed_ = false;
 }
 
 } // namespace steward

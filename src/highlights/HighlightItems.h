@@ -48,7 +48,6 @@ class HighlightItems {
     int Selected() const { return selected_; }
     void Select(int index);
     bool HasSelection() const { return selected_ != NO_SELECTION; }
-    bool Changed() const { return changed_; }
     // 4096 less the items of a list page; always 0 on the colours page.
     int SlotsLeft() const;
     bool Full() const { return items_.size() >= HIGHLIGHT_SLOTS; }
@@ -81,7 +80,6 @@ class HighlightItems {
     std::vector<std::string> items_;
     int selected_ = NO_SELECTION;
     bool samples_ = false;
-    bool changed_ = false;
 };
 
 } // namespace steward

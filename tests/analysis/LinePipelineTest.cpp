@@ -88,6 +88,7 @@ TEST(LinePipelineTest, EachLineReachesItsWindowAndTheLog)
         {"a record before any exit list shows nothing and is not logged", {},
          {"\x1B\x1Bshort\r\n", "Obvious exits: north\r\n", "x\r\n"},
          {{GAME, "Obvious exits: north\nx\n"}, {LOG, "Obvious exits: north\r\nx\r\n"}}},
+        {"one escape byte starts no record", {}, {"\x1Bshort\r\n"}, {{LOG, "\x1Bshort\r\n"}}},
     };
     // clang-format on
     for (const LineRow& row : rows) {
@@ -123,6 +124,11 @@ TEST(LinePipelineTest, VitalsLinesSetTheirGaugeAndAreLoggedButNotShown)
         EXPECT_EQ(rig.In(rig.Game()), "");
         EXPECT_EQ(rig.Logged(), line);
     }
+    // The line buffer still holds the longer line before; a colon at the end reads none of it.
+    PipelineRig rig;
+    rig.pipeline.ProcessGameLine(" ** Current hit points: 45 of 100\r\n");
+    rig.pipeline.ProcessGameLine(" ** Current hit points:");
+    EXPECT_EQ(PanelText(rig.panel).substr(0, 4), "0/0 ");
 }
 
 TEST_F(PipelineTest, RecoveryLinesFillTheirGauge)

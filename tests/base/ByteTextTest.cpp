@@ -67,6 +67,12 @@ TEST(ByteText, EditsAndSearchesMatchTheSameEditOnAString)
     const char* text = "abc";
     EXPECT_EQ(FindNoCase(text, ""), text);
     EXPECT_EQ(FindNoCase("", "a"), nullptr);
+    char line[] = "  x  ";
+    TrimTrailingBlanks(line);
+    EXPECT_STREQ(line, "  x");
+    line[2] = ' ';
+    TrimTrailingBlanks(line + 1);
+    EXPECT_STREQ(line, " ") << "an all-blank text stops at its own start";
 }
 
 TEST(ByteText, ColourSequencesCarryTheBackgroundOnlyWhenSet)

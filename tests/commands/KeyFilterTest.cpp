@@ -171,7 +171,7 @@ TEST_F(MacroPlayerTest, EscapesOfTheLanguage)
         const char *macro, *line;
     } rows[] = {
         {"a\\\\b", "a\\b"},         {"a\\zb", "ab"}, {"ab\\", "ab"},  {"typed\\Xnew", "new"},
-        {"drag \\d!", "drag bob!"}, {"at@", "at"},   {"x\\D", "xbob"}};
+        {"drag \\d!", "drag bob!"}, {"at@", "at"},   {"x\\D", "xbob"}, {"q", "q"}};
     for (const auto& row : rows) {
         kb.line.SetText("");
         Play(row.macro);

@@ -72,8 +72,10 @@ TEST(MacroStore, DefaultsFillTheKeypadAndTheClipboardKeys)
 {
     MacroStore store;
     store.SetMacro(0, VK_NUMPAD0 + 8, "mine");
+    store.SetMacro(0, VK_NUMPAD0 + 2, "s");
     SetDefaultMacros(store, false);
     EXPECT_STREQ(store.LookupMacro(0, VK_NUMPAD0 + 8), "mine");
+    EXPECT_STREQ(store.LookupMacro(0, VK_NUMPAD0 + 2), "s");
     EXPECT_STREQ(store.LookupMacro(0, VK_NUMPAD0 + 5), "\\xgo gate\\r");
     EXPECT_STREQ(store.LookupMacro(0, VK_ADD), "\\xlook\\r");
     EXPECT_STREQ(store.LookupMacro(0, VK_SUBTRACT), "");

@@ -31,6 +31,7 @@ TEST(ParseConnectionString, ReadsMarkersInTheirOneOrder)
         {"/Hhost/P23/T30/x", true, "host", "23", 30000},
         {"/Hhost/P23/Tabc", true, "host", "23", 60000},
         {"/Hhost/P23/T0", true, "host", "23", 60000},
+        {"/Hhost/P23/T1", true, "host", "23", 1000},
         {"/Hhost/P23/X/T30", true, "host", "23", 60000},
         {"/Hhost/P23/T99999999999", true, "host", "23", 86400000},
         {"/Hhost/T30", false, "host", "", 30000},

@@ -232,6 +232,7 @@ TEST(PacketDumpReader, TakesWhatCanBeReadOfABrokenDumpAndSaysWhatWasWrong)
     const struct { const char* name; std::string dump; Blocks blocks; const char* told; } cases[] = {
         {"a line that is no row", head + "hello\r\n" + ROW_ABC + "\r\n", {"abc"}, "1@4 0"},
         {"a wrong text part keeps the hex", head + ROW_ABC.substr(0, 50) + "xyz\r\n", {"abc"}, "1@4 0"},
+        {"its first character wrong", head + ROW_ABC.substr(0, 50) + "xbc\r\n", {"abc"}, "1@4 0"},
         {"rows lost to a full buffer", "\r\n\r\n---- (20 bytes)\r\n" + full + "\r\n\r\n\r\n",
          {"abcdefghijklmnop"}, "0@0 1"},
         {"two rows on one line keep the first", "\r\n\r\n---- (32 bytes)\r\n" + full + full + "\r\n",

@@ -38,6 +38,7 @@ const ColorCase COLOR_CASES[] = {
     {"two on in a row close the first", "\0331xy\0331xyA", 10, "\212\240\212A"},
     {"CR closes an open colour", "\0331xyhi\r\n", 10, "\212hi\240\r\n"},
     {"CR then off closes twice", "\0331xya\rb\0330xy\n", 0x1A, "\221\212a\241\240\rb\241\240\n"},
+    {"a second CR finds nothing open", "\0331xya\rb\rc", 10, "\212a\240\rb\rc"},
     {"colour left open at the line end", "\0331xyhi\n", 10, "\212hi\n"},
     {"ESC before any other byte stays", "\033[0m", 10, "\033[0m"},
     {"ESC ESC then selector keeps the first ESC", "\033\0331xyz", 10, "\033\212z"},

@@ -148,6 +148,7 @@ TEST(CopySpecial, EachClipboardLineBecomesAnEntryOfTheCommandsList)
         std::string clip;
         std::vector<std::string> added;
     } cases[] = {{"Mara", {"Mara"}},
+                 {"M\nTam", {"M", "Tam"}},
                  {"Mara\r\nTam\n\nOld Bob\r", {"Mara", "Tam", "Old Bob"}},
                  {"$*@Mara", {"$*@Mara"}},
                  {std::string(80, 'a'), {std::string(80, 'a')}},

@@ -70,6 +70,8 @@ TEST(GaugeGeometryTest, AnUprightBarGrowsUpwardsAndTicksShowWhileAboveMinimum)
     const Rect bar = upright.BarRect({0, 0, 10, 40});
     EXPECT_EQ(bar.top, 30);
     EXPECT_EQ(bar.bottom, 40);
+    upright.SetValue(100);
+    EXPECT_EQ(upright.BarRect({0, 0, 10, 40}).top, 39) << "one pixel is drawn";
     upright.SetValue(0);
     const Rect empty = upright.BarRect({0, 0, 10, 40});
     EXPECT_EQ(empty.right, empty.left) << "a bar at its minimum has no width";

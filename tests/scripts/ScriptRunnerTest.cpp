@@ -28,6 +28,7 @@ TEST(ScriptStepTest, SendsPrintsAndEndsAsTheLinesSay)
         {"PUT a\nPuT b\nEcHo c\n", "", "send:a\nsend:b\nprint:c\\r\\n\n"},
         {"put a\r\nput b\r\n", "", "send:a\nsend:b\n"},
         {"put look\r\r\n", "", "send:look\\r\n"},
+        {"put look\rx\n", "", "send:look\\rx\n"},
         {"if_0 put zero\nif_1 put one\nif_2 put two\nIF_3 put three\nif_/ put slash\nif_1\n"
          "if_ put none\n",
          "a b", "send:zero\nsend:one\nsend:two\n"},
@@ -110,6 +111,7 @@ TEST(ScriptRunnerTest, OnlyCommandLinesPostAWakeUpAndADeletedFileRunsToItsEnd)
     ScriptRig rig;
     rig.Start("# comment\n\nstart:\nput a\n");
     const int afterStart = rig.host.wakeUps;
+    EXPECT_EQ(afterStart, 1) << "a start wakes the loop for the first line";
     rig.Steps(2);
     EXPECT_EQ(rig.host.wakeUps, afterStart);
     rig.Steps(2);
@@ -144,7 +146,17 @@ TEST(ScriptRunnerTest, StartsStopsAndSaysWhatFailed)
                                  rig.folder.File("Missing.Cmd") + "\"\\r\\n\\r\\n",
                              "print:\\r\\n*** Error opening script file!\\r\\n\\r\\n"};
     EXPECT_EQ(rig.host.events, expected);
-    EXPECT_TRUE(rig.runner.Running());
+    rig.runner.ScriptStep();
+    rig.runner.ExecuteFile(rig.folder.File("Missing.Stw").c_str());
+    EXPECT_FALSE(rig.runner.Running());
+    EXPECT_FALSE(rig.host.busyCursor) << "the script it replaced is stopped";
+
+    rig.Start(std::string("put \0\n", 6));
+    rig.Steps(5);
+    rig.host.events.clear();
+    rig.Start("put a\n");
+    rig.Steps(5);
+    EXPECT_EQ(rig.host.events, (Events{"send:a", "beep"})) << "a text file after a binary one";
 }
 
 } // namespace

@@ -52,6 +52,8 @@ TEST(EscapeUrl, LongAddressesAreCutBeforeAWholeEscape)
     // The NUL stays inside the target: a byte or escape that would take its place is left out.
     EXPECT_EQ(Escaped("abcdef", true, 4), "abc");
     EXPECT_EQ(Escaped("ab_", true, 5), "ab");
+    EXPECT_EQ(Escaped("_", true, 4), "%5F");
+    EXPECT_EQ(Escaped("abc", true, 1), "");
 }
 
 TEST(OpenUrl, TemplateWordsInAnyCaseAndGrowthCutAtTheBuffer)

@@ -7,6 +7,7 @@
 
 #include <cstring>
 #include <random>
+#include <set>
 #include <utility>
 
 namespace steward {
@@ -98,6 +99,19 @@ TEST(FindFixedText, InfoItemsSendTheirWords)
         {"&General", "info"}, {"&Magick", "info magick"}, {"W&orld", "world"}, {"none", nullptr}};
     for (const auto& [item, words] : cases)
         EXPECT_STREQ(FindFixedText(infoItem(item)), words) << item;
+    // No two items share a command, and each Info item sends words of its own.
+    std::set<int> commands;
+    std::set<std::string> sent;
+    for (const Menu& menu : MainMenu())
+        for (const MenuItem& item : menu.Items)
+            if (item.Kind == MenuItemKind::Command) {
+                EXPECT_TRUE(commands.insert(item.Command).second) << item.Text;
+            }
+    for (const MenuItem& item : MainMenu()[3].Items)
+        if (item.Kind == MenuItemKind::Command) {
+            const char* words = FindFixedText(item.Command);
+            EXPECT_TRUE(words && sent.insert(words).second) << item.Text;
+        }
 }
 
 } // namespace

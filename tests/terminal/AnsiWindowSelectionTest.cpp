@@ -53,6 +53,8 @@ TEST_F(WindowTest, DraggingAboveTheWindowScrollsTheSelectionIntoTheFrozenView)
     auto window = Make("Thought Window");
     AppendLines(*window, 30);
     window->LButtonDown(12, RowY(9), false);
+    window->MouseMove(12, 0);
+    EXPECT_FALSE(window->IsFrozen()) << "the top row is still inside";
     window->MouseMove(12, -4);
     ASSERT_TRUE(window->IsFrozen());
     window->MouseMove(12, -4);
