@@ -122,6 +122,10 @@ TEST_F(KeyFilterTest, EnterKeysSendRepeatOrPostARememberedEnter)
     EXPECT_EQ(kb.sink.sent, (Strings{"kill rat", "n"}));
     EXPECT_EQ(kb.line.text, "typed");
     EXPECT_TRUE(kb.queue.commands.empty());
+    kb.sink = {};
+    Press(VK_RETURN, KEY_EXTENDED);
+    kb.ServeQueue();
+    EXPECT_EQ(kb.sink.sent, Strings{"typed"}) << "keypad Enter on a typed line sends it alone";
 }
 
 TEST_F(KeyFilterTest, UpUpThenCtrlEnterSendsTheEntryBeforeTheOneShown)
@@ -170,7 +174,7 @@ TEST_F(MacroPlayerTest, EscapesOfTheLanguage)
     const struct {
         const char *macro, *line;
     } rows[] = {
-        {"a\\\\b", "a\\b"},         {"a\\zb", "ab"}, {"ab\\", "ab"},  {"typed\\Xnew", "new"},
+        {"a\\\\b", "a\\b"},         {"a\\zb", "ab"}, {"ab\\", "ab"},   {"typed\\Xnew", "new"},
         {"drag \\d!", "drag bob!"}, {"at@", "at"},   {"x\\D", "xbob"}, {"q", "q"}};
     for (const auto& row : rows) {
         kb.line.SetText("");

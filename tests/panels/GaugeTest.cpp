@@ -101,7 +101,8 @@ TEST(GaugeViewTest, ANewValueRepaintsAndNewColoursEraseFirst)
     gauge.SetView(&view);
     gauge.SetValue(5);
     gauge.SetColors({1, 2, 3});
-    EXPECT_EQ(view.erases, (std::vector<bool>{false, true}));
+    gauge.SetText("x");
+    EXPECT_EQ(view.erases, (std::vector<bool>{false, true, false}));
 }
 
 TEST(GaugeCountdownTest, CountsDownBySecondsRestartsAndStops)

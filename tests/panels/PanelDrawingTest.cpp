@@ -209,6 +209,8 @@ TEST(CompassDrawingTest, ZonesLitFromExitBits)
     char text[64];
     CompassHandler(compass).AccessibleValue(text, sizeof text);
     EXPECT_STREQ(text, "north (special), out");
+    TextBoxHandler("12", 0).AccessibleValue(text, sizeof text);
+    EXPECT_STREQ(text, "") << "a text box has a name and no value";
 }
 
 TEST(FigureDrawingTest, BaseAndOverlaysForEachPostureBit)

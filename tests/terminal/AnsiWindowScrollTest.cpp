@@ -246,6 +246,29 @@ TEST_F(ScrollbackWindowTest, NewTextShowsBelowTheFrozenViewOnlyWithTheLiveTail)
     }
 }
 
+// Colours left open in the frozen view go on down the view but not into the live tail, where a
+// colour's end with none open starts nothing either.
+TEST_F(ScrollbackWindowTest, TheLiveTailStartsInTheWindowColours)
+{
+    auto window = MakeWithOptions(true);
+    window->AppendText("\x8C\x99\x9Aopen\n");
+    AppendLines(*window, 5, "after ");
+    window->AppendText("late\xA1r\n");
+    window->ApplyScrollCommand(SB_LINEUP, 0);
+    RecordingLayer layer;
+    window->PaintText(layer);
+    std::vector<std::string> runs;
+    for (const DrawCall& call : layer.calls)
+        if (!call.text.empty())
+            runs.push_back(call.text + (call.textColor == MakeRgb(255, 255, 255) &&
+                                                call.backColor == MakeRgb(0, 0, 0)
+                                            ? ""
+                                            : " in colour"));
+    EXPECT_EQ(runs, (std::vector<std::string>{"line 26", "line 27", "line 28", "line 29",
+                                              "open in colour", "after 0 in colour", "after 4",
+                                              "late", "r"}));
+}
+
 TEST_F(ScrollbackWindowTest, FindScrollsBackToTheHitAndSelectsIt)
 {
     auto window = MakeWithOptions(true);
