@@ -261,6 +261,7 @@ TEST(ReplayFile, TellsTheFormatByTheFirstBytesAndCutsRawBytesIntoBlocks)
         {"header first", "---- (3 bytes)\r\n" + ROW_ABC + "\r\n", ReplayFormat::PacketDump, {"abc"}},
         {"text", "Welcome, Tester!", ReplayFormat::RawBytes, {"Welco", "me, T", "ester", "!"}},
         {"no header", "\r\n\r\n-- x", ReplayFormat::RawBytes, {"\r\n\r\n-", "- x"}},
+        {"a header's start but its last byte", "---- x", ReplayFormat::RawBytes, {"---- ", "x"}},
     };
     // clang-format on
     for (const auto& c : cases) {
@@ -276,6 +277,17 @@ TEST(ReplayFile, TellsTheFormatByTheFirstBytesAndCutsRawBytesIntoBlocks)
     }
     for (const std::string& unreadable : {folder.File("missing"), folder.Path()})
         EXPECT_FALSE(ReplayFile().Open(unreadable.c_str())) << unreadable;
+}
+
+// Text allows line ends, ESC and the bell, and one other byte in eight; never a NUL.
+TEST(ReplayFile, GameTextAllowsOneOddByteInEight)
+{
+    const std::pair<std::string, bool> cases[] = {{"Welcome\r\n\x1B\x07\t", true},
+                                                  {"abcdefg\x0E", true},
+                                                  {"abcdef\x7F\x0E", false},
+                                                  {std::string("abcdefg\0", 8), false}};
+    for (const auto& [text, looks] : cases)
+        EXPECT_EQ(LooksLikeGameText(text.data(), text.size()), looks) << text;
 }
 
 TEST(ReplayFile, SpeedDividesTheWaitBetweenBlocks)
