@@ -5,8 +5,10 @@ tests, to see which the tests catch.
     mutate.py pick --count 200 --seed 1 --out docs/mutants.json
         chooses mutants spread over every core folder of src/ (its .cpp files, not qt/)
     mutate.py run --mutants docs/mutants.json --build build/mutate --out REPORT [--only 3,17]
+                  [--widgets]
         for each mutant: puts it in, builds the folder's core test program, runs it, and when
-        the mutant survives that, every other core test program; then puts the line back
+        the mutant survives that, every other core test program (and with --widgets, then every
+        widget test program, on the offscreen platform); then puts the line back
 
 A mutant is killed when a test program fails or runs past its time, survives when all pass,
 and is invalid when it does not build. The score is killed / (killed + survived). The build
@@ -132,19 +134,29 @@ def test_program(build, folder):
     return os.path.join(build, "tests", "test_" + folder)
 
 
-def judge(mutant, build, folders):
+def widget_programs():
+    return ["test_" + f + "_qt" for f in sorted(os.listdir(os.path.join(ROOT, "tests")))
+            if os.path.isdir(os.path.join(ROOT, "tests", f, "qt"))]
+
+
+def first_failing(build, programs):
+    if run_quiet(["cmake", "--build", build, "--target"] + programs, 900) != 0:
+        return None
+    for program in programs:
+        if run_quiet([os.path.join(build, "tests", program)], 120) != 0:
+            return program
+    return None
+
+
+def judge(mutant, build, folders, widgets):
     own = "test_" + mutant["folder"]
     if run_quiet(["cmake", "--build", build, "--target", own], 600) != 0:
         return "invalid", ""
     if run_quiet([test_program(build, mutant["folder"])], 120) != 0:
         return "killed", own
-    others = [f for f in folders if f != mutant["folder"]]
-    if run_quiet(["cmake", "--build", build, "--target"] + ["test_" + f for f in others], 900) != 0:
-        return "survived", ""
-    for folder in others:
-        if run_quiet([test_program(build, folder)], 120) != 0:
-            return "killed", "test_" + folder
-    return "survived", ""
+    others = ["test_" + f for f in folders if f != mutant["folder"]]
+    by = first_failing(build, others) or (widgets and first_failing(build, widgets))
+    return ("killed", by) if by else ("survived", "")
 
 
 def locate(lines, mutant):
@@ -199,11 +211,12 @@ def run(args):
         mutants = [m for m in mutants if m["id"] in wanted]
     build = os.path.abspath(args.build)
     folders = prepare(build)
+    widgets = widget_programs() if args.widgets else []
     results = []
     started = time.time()
     for mutant in mutants:
         with applied(mutant) as present:
-            verdict, by = judge(mutant, build, folders) if present else ("stale", "")
+            verdict, by = judge(mutant, build, folders, widgets) if present else ("stale", "")
         results.append((mutant, verdict, by))
         print(f"{mutant['id']:>4} {verdict:<8} {mutant['file']}:{mutant['line']} {mutant['kind']}",
               file=sys.stderr, flush=True)
@@ -252,6 +265,7 @@ def main():
     r.add_argument("--build", required=True)
     r.add_argument("--out", required=True)
     r.add_argument("--only")
+    r.add_argument("--widgets", action="store_true")
     args = parser.parse_args()
     pick(args) if args.command == "pick" else run(args)
 
