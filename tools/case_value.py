@@ -31,13 +31,12 @@ sys.path.insert(0, os.path.dirname(os.path.abspath(__file__)))
 import mutate  # noqa: E402
 
 ROOT = mutate.ROOT
-ENV = dict(os.environ, QT_QPA_PLATFORM="offscreen")
 CASE = re.compile(r"^(TEST|TEST_F|TEST_P)\((\w+),\s*(\w+)\)")
 
 
 def list_cases(program):
     out = subprocess.run([program, "--gtest_list_tests"], capture_output=True, text=True,
-                         env=ENV).stdout
+                         env=mutate.OFFSCREEN).stdout
     suite = None
     for line in out.splitlines():
         if not line.startswith(" "):
@@ -47,12 +46,8 @@ def list_cases(program):
 
 
 def run_case(program, case, timeout):
-    try:
-        return subprocess.run([program, "--gtest_filter=" + case], stdout=subprocess.DEVNULL,
-                              stderr=subprocess.DEVNULL, env=ENV, cwd=os.path.dirname(program),
-                              timeout=timeout).returncode
-    except subprocess.TimeoutExpired:
-        return "timeout"
+    return mutate.run_quiet([program, "--gtest_filter=" + case], timeout,
+                            cwd=os.path.dirname(program))
 
 
 def unit(case):

@@ -121,11 +121,14 @@ def pick(args):
     print(f"{len(mutants)} mutants over {len(by_folder)} folders in {args.out}")
 
 
-def run_quiet(command, timeout):
+# Widget tests run without a display.
+OFFSCREEN = dict(os.environ, QT_QPA_PLATFORM="offscreen")
+
+
+def run_quiet(command, timeout, cwd=None):
     try:
         return subprocess.run(command, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL,
-                              timeout=timeout, env=dict(os.environ, QT_QPA_PLATFORM="offscreen")
-                              ).returncode
+                              timeout=timeout, env=OFFSCREEN, cwd=cwd).returncode
     except subprocess.TimeoutExpired:
         return "timeout"
 
