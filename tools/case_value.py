@@ -8,9 +8,11 @@
         for each mutant: puts it in, builds every core test program, runs them all and records
         every case that fails; then puts the line back
     case_value.py choose --coverage cases.json --kills kills.json [more kills files]
+                         [--files docs/coverage-before.txt]
         a cheap set of cases that still covers every line and branch and kills every mutant the
         whole suite does; prints the other cases with the two kept cases that hold most of what
-        each one covers
+        each one covers. With --files, only the lines and branches of the files a coverage report
+        names count
 
 A case that `choose` leaves out adds nothing either measure sees. That is a reason to read it, not
 to delete it: an exact value, a limit or a file format checked nowhere else is worth its lines
@@ -164,12 +166,23 @@ def case_lengths():
     return lengths
 
 
+def report_files(report):
+    """The files a coverage report (as ./test.sh --coverage writes it) has a row for."""
+    with open(report) as f:
+        return {line.split()[0] for line in f if line.startswith(("src/", "world/"))}
+
+
 def choose(args):
+    files = report_files(args.files) if args.files else None
+
+    def counted(place):
+        return files is None or place.split(":")[0] in files
+
     elements = defaultdict(set)
     with open(args.coverage) as f:
         for case, result in json.load(f).items():
-            elements[unit(case)] |= {"line " + x for x in result["lines"]}
-            elements[unit(case)] |= {"branch " + x for x in result["branches"]}
+            elements[unit(case)] |= {"line " + x for x in result["lines"] if counted(x)}
+            elements[unit(case)] |= {"branch " + x for x in result["branches"] if counted(x)}
     for name in args.kills:
         with open(name) as f:
             for mutant, failed in json.load(f).items():
@@ -221,6 +234,7 @@ def main():
     s = sub.add_parser("choose")
     s.add_argument("--coverage", required=True)
     s.add_argument("--kills", nargs="+", default=[])
+    s.add_argument("--files", help="count only the files this coverage report names")
     args = parser.parse_args()
     {"coverage": coverage, "kills": kills, "choose": choose}[args.command](args)
 
