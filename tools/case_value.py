@@ -31,6 +31,7 @@ from collections import defaultdict
 
 sys.path.insert(0, os.path.dirname(os.path.abspath(__file__)))
 import mutate  # noqa: E402
+from coverage_report import read_report  # noqa: E402
 
 ROOT = mutate.ROOT
 CASE = re.compile(r"^(TEST|TEST_F|TEST_P)\((\w+),\s*(\w+)\)")
@@ -166,14 +167,8 @@ def case_lengths():
     return lengths
 
 
-def report_files(report):
-    """The files a coverage report (as ./test.sh --coverage writes it) has a row for."""
-    with open(report) as f:
-        return {line.split()[0] for line in f if line.startswith(("src/", "world/"))}
-
-
 def choose(args):
-    files = report_files(args.files) if args.files else None
+    files = set(read_report(args.files)) if args.files else None
 
     def counted(place):
         return files is None or place.split(":")[0] in files
